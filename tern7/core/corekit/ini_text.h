@@ -1,0 +1,123 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <tern7/core/corekit/strings.h>
+
+namespace tern7 {
+
+/// The names of the sections of a text, in order, without brackets.
+TStrings ReadSLSections(const TStrings& lines);
+/// The lines of the first section of that name (ignoring case), up to the next section header, as
+/// they stand; empty lines at the end are left out. Empty when the section is missing.
+TStrings XReadSLSectionValues(const TStrings& lines, std::string_view section);
+
+/// One section of an INI-like text: views into the text, which must outlive it.
+class TKIniSection {
+public:
+    TKIniSection(std::string_view name, std::string_view body, int line)
+        : name(name), body(body), line(line) {}
+
+    std::string_view Name() const { return name; }
+    /// The text between this header and the next one, as it stands.
+    std::string_view Body() const { return body; }
+    /// 1-based line of the header.
+    int Line() const { return line; }
+    /// The lines of the body, empty lines at the end left out.
+    TStrings Lines() const;
+
+    /// True when the section has the key, ignoring case. Keys asked for in the order in which they
+    /// stand are found at once, whatever the size of the section.
+    bool Has(std::string_view key) const;
+    /// The value of the key as it stands behind "="; empty when the key is missing.
+    std::string_view Raw(std::string_view key) const;
+    /// The value of the key; where the key stands with the suffix ".Encoded" instead, its value
+    /// decoded (DecodePercent). Empty when both are missing.
+    std::string Text(std::string_view key) const;
+    /// Integer value; `otherwise` when the key is missing or empty, EKTernError naming section and
+    /// key when the value is no integer.
+    int Int(std::string_view key, int otherwise = 0) const;
+    /// Boolean value; `otherwise` when missing or empty, EKTernError when it is neither 0 nor 1 (nor
+    /// a word that XStrToBool knows).
+    bool Bool(std::string_view key, bool otherwise = false) const;
+
+private:
+    std::string_view name;
+    std::string_view body;
+    int line;
+    mutable size_t next = 0; // offset behind the last key found: the search starts there and wraps
+    bool Find(std::string_view key, std::string_view& value) const;
+};
+
+/// An INI-like text cut into sections, indexed by name once; views into the text, which must outlive
+/// it. A header is a line whose first character is "[" and whose last, blanks at the end aside, is
+/// "]". Linear in the text.
+class TKIniText {
+public:
+    explicit TKIniText(std::string_view text);
+
+    const std::vector<TKIniSection>& Sections() const { return sections; }
+    /// The first section of that name, ignoring case; none when it is missing.
+    const TKIniSection* Find(std::string_view name) const;
+    /// The first section of that name at or behind the position in Sections(), else the first of
+    /// all; none when it is missing.
+    const TKIniSection* FindFrom(size_t position, std::string_view name) const;
+    size_t PositionOf(const TKIniSection& section) const;
+
+private:
+    std::vector<TKIniSection> sections;
+    std::unordered_multimap<std::string_view, size_t, TTextHash, TTextEqual> byName;
+};
+
+/// True when the text can stand behind "=" as it is: no line break, no blank at either end, no NUL.
+bool FitsOnLine(std::string_view text);
+/// "%", CR, LF and blanks at the ends as "%" and two hex digits.
+std::string EncodePercent(std::string_view text);
+/// The reverse; a "%" without two hex digits behind it stays.
+std::string DecodePercent(std::string_view text);
+
+/// Writes an INI-like text into one string, lines ended by LF.
+class TKIniWriter {
+public:
+    void Section(std::string_view name);
+    void Line(std::string_view line);
+    void Key(std::string_view key, std::string_view value); // as it stands; must fit on a line
+    void Key(std::string_view key, int value);
+    void Bool(std::string_view key, bool value); // 0 or 1
+    /// `key=value`, or `key.Encoded=` and the percent-encoded value when it does not fit on a line.
+    void Text(std::string_view key, std::string_view value);
+    /// A line of a free text: one whose first character after any blanks is "[" gets a blank in
+    /// front, so that it can not be taken for a header.
+    void BodyLine(std::string_view line);
+
+    std::string Take() { return std::move(text); }
+
+private:
+    std::string text;
+};
+
+/// A line written by TKIniWriter::BodyLine as it was before.
+std::string_view UnprotectBodyLine(std::string_view line);
+
+/// What DecodeTextFile found.
+struct TKDecodedText {
+    std::string text;         ///< UTF-8 without a byte order mark
+    bool wasWindows1252 = false; ///< the text was no UTF-8 and was read as Windows-1252 as a whole
+};
+TKDecodedText DecodeTextFile(std::string bytes);
+
+/// Splits a text at line ends: calls nothing, yields one line per call. CR LF and LF end a line.
+class TKLineReader {
+public:
+    explicit TKLineReader(std::string_view text) : rest(text) {}
+    bool Next(std::string_view& line);
+
+private:
+    std::string_view rest;
+};
+
+} // namespace tern7

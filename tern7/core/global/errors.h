@@ -1,0 +1,33 @@
+#pragma once
+
+#include <tern7/core/corekit/errors.h>
+
+namespace tern7 {
+
+/// Structure: tables, fields, links, operators, structure files.
+class EKDBStructError : public EKTernError {
+public:
+    using EKTernError::EKTernError;
+};
+/// Queries: building, reading, changing.
+class EKQueryPanelError : public EKTernError {
+public:
+    using EKTernError::EKTernError;
+};
+/// Database metadata.
+class EKDBInfoError : public EKTernError {
+public:
+    using EKTernError::EKTernError;
+};
+/// SQL text that can not be read; the message ends with CR LF, "Line:" and the line number.
+class ESQLParserError : public EKTernError {
+public:
+    using EKTernError::EKTernError;
+};
+/// Result fields panel.
+class ERFPanelError : public EKTernError {
+public:
+    using EKTernError::EKTernError;
+};
+
+} // namespace tern7

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string_view>
+
+/// The message strings of the library, in one table. "%s" and "%d" stand for a name or a number and
+/// are filled in by FormatMessage.
+namespace tern7::messages {
+
+// structure
+inline constexpr std::string_view InvalidTableIndex = "Invalid table index %d";
+inline constexpr std::string_view InvalidLinkIndex = "Invalid link index %d";
+inline constexpr std::string_view InvalidOperatorIndex = "Invalid operator index %d";
+inline constexpr std::string_view NoSuchTable = "No such table %s";
+inline constexpr std::string_view NoPath = "Can not find path between tables";
+inline constexpr std::string_view OperatorNotFound = "Operator not found: %s";
+inline constexpr std::string_view AssignFieldNameToVirtual =
+    "Can not assign field name to virtual field";
+inline constexpr std::string_view AssignExpressionToData =
+    "Can not assign expression to data field";
+inline constexpr std::string_view SectionNotFound = "Can not find section %s";
+inline constexpr std::string_view FieldNotInTable = "Can not find field \"%s\" in table \"%s\"";
+inline constexpr std::string_view NoDatabaseInfo = "DatabaseInfo is not specified";
+inline constexpr std::string_view UnrecognizedField = "Unrecognized field";
+inline constexpr std::string_view UnrecognizedOperator = "Unrecognized operator";
+
+// structure editor
+inline constexpr std::string_view AskDeleteTable = "Delete table?";
+inline constexpr std::string_view AskDeleteField = "Delete field?";
+inline constexpr std::string_view AskDeleteLink = "Delete Link?";
+inline constexpr std::string_view AskDeleteOperator = "Delete operator?";
+inline constexpr std::string_view AskDeleteAllOperators = "Delete all operators?";
+inline constexpr std::string_view AskDeleteGroup = "Delete group?";
+inline constexpr std::string_view AskClearStructure = "Clear Structure?";
+inline constexpr std::string_view And = "and";
+
+// metadata
+inline constexpr std::string_view FieldCountTooSmall = "Field count must be >= 2";
+
+// query
+inline constexpr std::string_view NotBuiltProperly = "Query was not built properly";
+inline constexpr std::string_view WrongResultTableLink = "Can't add result table: wrong link";
+inline constexpr std::string_view NotEnoughInformation = "No enough information for building query";
+inline constexpr std::string_view NoStructure = "Database structure is not specified";
+inline constexpr std::string_view WrongValue = "Wrong value for field \"%s\": %s";
+inline constexpr std::string_view CanNotExecuteCondition = "Can not execute condition: %s";
+inline constexpr std::string_view FieldNotFound = "Field not found: %s";
+inline constexpr std::string_view NestedTooDeep = "Rows are nested too deep";
+inline constexpr std::string_view NulInValue = "A value holds a NUL character";
+inline constexpr std::string_view NoQueryBase = "Query base is not specified";
+
+// SQL parser
+inline constexpr std::string_view WrongSQL = "Wrong SQL statement";
+inline constexpr std::string_view LostBracket = "Lost bracket";
+
+// texts and files
+inline constexpr std::string_view CanNotOpenFile = "Can not open file %s";
+inline constexpr std::string_view CanNotWriteFile = "Can not write file %s";
+inline constexpr std::string_view WrongValueOfKey = "Wrong value of %s in section %s: %s";
+
+} // namespace tern7::messages
