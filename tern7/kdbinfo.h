@@ -1,0 +1,3 @@
+#pragma once
+
+#include <tern7/core/metadata/db_info.h>
