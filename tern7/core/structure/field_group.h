@@ -38,7 +38,7 @@ protected:
 /// out of its former one, deleting it moves it to the end of the root group.
 class TDSFieldGroup : public TDSFieldList {
 public:
-    explicit TDSFieldGroup(TKCustomDBStructure& structure) : structure(structure) {}
+    explicit TDSFieldGroup(TKCustomDBStructure& owner) : structure(owner) {}
 
     const std::string& GroupName() const { return groupName; }
     void SetGroupName(std::string value);
@@ -55,7 +55,7 @@ private:
 /// The groups of a structure, in the order in which they are offered.
 class TDSFieldGroupList : public TKObjectList<TDSFieldGroup> {
 public:
-    explicit TDSFieldGroupList(TKCustomDBStructure& structure) : structure(structure) {}
+    explicit TDSFieldGroupList(TKCustomDBStructure& owner) : structure(owner) {}
 
     /// Adds the field to the group of that name, which is made when it is missing; no field: only
     /// makes the group.

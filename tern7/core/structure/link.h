@@ -22,7 +22,7 @@ enum class TDSLinkType : uint8_t {
 /// referred to by both tables.
 class TDSLink {
 public:
-    explicit TDSLink(TKCustomDBStructure& structure) : structure(structure) {}
+    explicit TDSLink(TKCustomDBStructure& owner) : structure(owner) {}
 
     TKCustomDBStructure& Structure() const { return structure; }
     TDSTable* Table1() const { return table1; }

@@ -46,7 +46,7 @@ private:
 /// the structure's operator list; fields and conditions refer to it.
 class TDSOperator {
 public:
-    explicit TDSOperator(TKCustomDBStructure& structure) : structure(structure) {}
+    explicit TDSOperator(TKCustomDBStructure& owner) : structure(owner) {}
 
     TKCustomDBStructure& Structure() const { return structure; }
 

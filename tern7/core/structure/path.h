@@ -10,7 +10,7 @@ class TKCustomDBStructure;
 /// A chain of tables in which each is linked to the next.
 class TDSPath {
 public:
-    explicit TDSPath(const TKCustomDBStructure& structure) : structure(&structure) {}
+    explicit TDSPath(const TKCustomDBStructure& owner) : structure(&owner) {}
 
     /// Appends the structure's table of that index.
     void AddTable(int index);

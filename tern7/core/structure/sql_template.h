@@ -17,7 +17,7 @@ public:
     };
 
     TKSQLTemplate() = default;
-    explicit TKSQLTemplate(std::string text) { SetText(std::move(text)); }
+    explicit TKSQLTemplate(std::string newText) { SetText(std::move(newText)); }
     void SetText(std::string text);
 
     const std::string& Text() const { return text; }

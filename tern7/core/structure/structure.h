@@ -245,7 +245,7 @@ private:
 /// Keeps notification together: BeginUpdate while it lives.
 class TDSUpdate {
 public:
-    explicit TDSUpdate(TKCustomDBStructure& structure) : structure(structure) {
+    explicit TDSUpdate(TKCustomDBStructure& owner) : structure(owner) {
         structure.BeginUpdate();
     }
     ~TDSUpdate() { structure.EndUpdate(); }

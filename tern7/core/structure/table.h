@@ -13,7 +13,7 @@ class TKCustomDBStructure;
 /// under different aliases. Owned by the structure's table list.
 class TDSTable {
 public:
-    explicit TDSTable(TKCustomDBStructure& structure) : structure(structure) {}
+    explicit TDSTable(TKCustomDBStructure& owner) : structure(owner) {}
 
     TKCustomDBStructure& Structure() const { return structure; }
     /// Position in the structure's table list.

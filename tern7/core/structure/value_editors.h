@@ -55,7 +55,7 @@ public:
 /// its second.
 class TDSSQLEditor : public TDSListEditor {
 public:
-    explicit TDSSQLEditor(TKCustomDBStructure& structure) : structure(structure) {}
+    explicit TDSSQLEditor(TKCustomDBStructure& owner) : structure(owner) {}
 
     TStrings SQL;
     const TStrings& SQLParams() const { return params; }
