@@ -29,9 +29,12 @@ class TSQLOptions {
 public:
     constexpr TSQLOptions() = default;
     constexpr TSQLOptions(std::initializer_list<TSQLOption> options) {
-        for (TSQLOption option : options) Include(option);
+        for (TSQLOption option : options)
+            Include(option);
     }
-    constexpr bool Contains(TSQLOption option) const { return (bits >> static_cast<int>(option)) & 1; }
+    constexpr bool Contains(TSQLOption option) const {
+        return (bits >> static_cast<int>(option)) & 1;
+    }
     constexpr void Include(TSQLOption option) {
         bits = static_cast<uint8_t>(bits | (1 << static_cast<int>(option)));
     }
@@ -45,8 +48,14 @@ private:
     uint8_t bits = 0;
 };
 
+/// What a new query starts with.
+inline constexpr TSQLOptions DefaultSQLOptions{TSQLOption::soASCIIRFields,
+                                               TSQLOption::soSelectDistinct};
+
 /// One bit per option in the order of the ordinals; unknown bits are ignored.
-constexpr int SQLOptionsToInt(TSQLOptions options) { return options.Bits(); }
+constexpr int SQLOptionsToInt(TSQLOptions options) {
+    return options.Bits();
+}
 TSQLOptions IntToSQLOptions(int bits);
 
 /// The enumeration names, and back without regard to case.

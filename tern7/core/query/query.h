@@ -1,0 +1,231 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include <tern7/core/corekit/strings.h>
+#include <tern7/core/global/errors.h>
+#include <tern7/core/global/events.h>
+#include <tern7/core/global/services.h>
+#include <tern7/core/global/sql_options.h>
+#include <tern7/core/query/filter_row.h>
+#include <tern7/core/query/query_result.h>
+#include <tern7/core/query/query_view.h>
+#include <tern7/core/structure/structure.h>
+
+namespace tern7 {
+
+/// How a query is shown: brackets as lines of their own, or and/or words before conditions.
+enum class TQPStyle : uint8_t { psGroups, psAndOr };
+
+/// A value that can not stand in the statement; names the row.
+class EKWrongValueError : public EKQueryPanelError {
+public:
+    EKWrongValueError(const std::string& message, const TFilterCond& row)
+        : EKQueryPanelError(message), condition(&row) {}
+    const TFilterCond& Condition() const { return *condition; }
+
+private:
+    const TFilterCond* condition;
+};
+
+/// A condition that takes no part although it is enabled, and why.
+struct TUnfinishedRow {
+    const TFilterCond* row;
+    TUnfinished reason;
+};
+
+/// A query without its screen: the filter (a tree of rows under the root bracket), the result
+/// (columns, tables, parameters), texts and options. Every change to it or to anything below it is
+/// told here, in one place, which decides by state, Active and nesting what views and application
+/// hear of it.
+///
+///     TKQuery query(&structure);
+///     query.QResult().ResultFields().AddByExpression("City", TSortingType::stNoSort, "{City}");
+///     TFilterCond* row = query.Root().AddCond();
+///     row->SetField(structure.FieldByName(true, "City"));
+///     row->SetOperator(structure.OperatorByName("Equal"));
+///     row->SetValue(1, "Berlin");
+///     query.BuildQuery();
+///     std::string sql = query.QResult().GetSQL().Text();
+class TKQuery : private TDSObserver {
+public:
+    explicit TKQuery(TKCustomDBStructure* structure = nullptr);
+    ~TKQuery() override;
+    TKQuery(const TKQuery&) = delete;
+    TKQuery& operator=(const TKQuery&) = delete;
+
+    /// Not owned; none when it was destroyed. Another structure: rows and result fields are found
+    /// again by ID and name.
+    TKCustomDBStructure* DbStruct() const { return structure; }
+    void SetDbStruct(TKCustomDBStructure* value);
+    /// The structure; EKQueryPanelError "Database structure is not specified" without one.
+    TKCustomDBStructure& RequireStruct() const;
+
+    TFilterBracket& Root() { return *root; }
+    const TFilterBracket& Root() const { return *root; }
+    TQueryResult& QResult() { return *result; }
+    const TQueryResult& QResult() const { return *result; }
+
+    // --- texts and options
+    const std::string& QueryName() const { return queryName; }
+    void SetQueryName(std::string value);
+    /// Alias or name of the table that the query starts from; empty: the structure's default.
+    const std::string& MainTableName() const { return mainTableName; }
+    void SetMainTableName(std::string value);
+    TSQLOptions SQLOptions() const { return result->SQLOptions(); }
+    void SetSQLOptions(TSQLOptions value) { result->SetSQLOptions(value); }
+    TSQLSyntax SQLSyntax() const { return result->SQLSyntax(); }
+    void SetSQLSyntax(TSQLSyntax value) { result->SetSQLSyntax(value); }
+    TStrings Description;
+    TStrings UserData;
+    TStrings Titles; ///< caption sections
+    bool SaveTitles = true;
+    bool SaveSQLOptions = false;
+    bool SaveMainTable = false; ///< keep MainTableName in the query text
+    /// Values that stand without quotes must be one number or word; see BuildQuery.
+    bool CheckValues = true;
+    /// Version of the text that was read last.
+    double FormatVersion() const { return formatVersion; }
+    void SetFormatVersion(double value) { formatVersion = value; }
+
+    // --- building
+    /// Fills the result's tables, conditions, sort and group text. On any error (EKQueryPanelError
+    /// "No enough information for building query", EKWrongValueError, EKDBStructError) they are as
+    /// they were. Linear in rows, columns and joined tables.
+    void BuildQuery();
+    /// The enabled conditions that the statement leaves out, nested queries not included.
+    std::vector<TUnfinishedRow> UnfinishedRows() const;
+    /// The parameters of this query and of the queries nested in it, in text order.
+    std::vector<TSQLParam*> AllParams() const;
+    /// By name, else by caption, over nested queries too; none when absent.
+    TSQLParam* FindParam(std::string_view nameOrCaption) const;
+    /// Value n as it is put into the template of its operator.
+    std::string ExtractValue(const TFilterCond& condition, int n) const;
+    /// Between the local form of a date or time and the structure's SQL form. A text that is no
+    /// date comes back as it is.
+    std::string ProcessDateValue(TFieldType type, std::string_view value, bool toSQL) const;
+    /// The whole filter as the statement has it, without "WHERE"; empty when no row takes part.
+    /// Needs no table list: for display and tests.
+    std::string ConditionText(const TFilterCond& condition) const;
+
+    // --- rows
+    /// Drops rows, result fields and parameters; name, texts and options stay.
+    void ClearAll();
+    /// Numbers the rows in the present style.
+    void EnumerateRows();
+    TQPStyle Style() const { return style; }
+    void SetStyle(TQPStyle value);
+    TFilterRow* RowByID(int id) { return root->RowByID(id); }
+
+    // --- text form
+    void SaveToStrings(TStrings& lines);
+    /// EKQueryPanelError without a structure or for a damaged text; the query is as it was then.
+    void LoadFromStrings(const TStrings& lines);
+    std::string GetQueryString();
+    void SetQueryString(std::string_view text);
+    void SaveToFile(const std::string& fileName);
+    void LoadFromFile(const std::string& fileName);
+
+    // --- state and notification
+    bool Active() const { return active; }
+    /// Inactive: no events, views are not refreshed; active again: one refresh, then OnActive.
+    void SetActive(bool value);
+    TKBuilderState BuilderState() const { return state; }
+    void SetBuilderState(TKBuilderState value) { state = value; }
+    /// Between them views and OnChange wait; the outermost EndUpdate tells once what was missed.
+    void BeginUpdate() { ++updateNesting; }
+    void EndUpdate();
+    void AddView(TKQueryView* view);
+    void RemoveView(TKQueryView* view);
+    void CloseEditors();
+
+    TEvent<TKQuery&> OnActive;
+    TEvent<TKQuery&> OnChange;
+    TEvent<TKQuery&> OnParamListChange;
+    TEvent<TFilterCond&, int> OnConditionChange;
+    TEvent<TFilterCond&, std::string&> OnBuildSQL;
+    TEvent<TFilterCond&, std::string&, std::string&> OnSetValue;
+    TEvent<TDSField&, const std::string&, std::string&> OnChangeValue;
+    TEvent<TDSField&, std::string&> OnCustomEdit;
+    TEvent<TFilterCond&, std::string&> OnCustomValue;
+    TEvent<TFilterCond&, std::string&> OnValueDblClick;
+    TKServices Services;
+
+    // --- nested queries
+    /// An empty query over the same structure, with syntax, services and parameter names of this
+    /// one.
+    std::unique_ptr<TKQuery> NewNested() const;
+    TKQuery* Outer() const { return outer; }
+
+    // --- the one place that hears of changes; called by rows, columns and parameters
+    void RowsAdded(TFilterBracket& parent, int index, int count);
+    void RowsRemoved(TFilterBracket& parent, int index, int count);
+    void RowChanged(TFilterRow& row);
+    void ValueEditorsChanged(TFilterRow& row);
+    void ConditionChanged(TFilterCond& condition, int whatChanged);
+    void ResultFieldsChanged();
+    void ParametersListChanged();
+    /// Something else that belongs to the query was changed.
+    void Changed();
+
+private:
+    friend class TFilterRow;
+    friend class TFilterBracket;
+    friend class TFilterCond;
+    friend class TResultField;
+    friend class TRFieldList;
+    friend class TQueryResult;
+    friend class TQueryBuild;
+    friend class TKQueryTextReader;
+    using TParamNames = std::unordered_multiset<std::string>; // lower case
+
+    void ReleaseReferences() override;
+    void RestoreReferences() override;
+    void StructureChanged() override;
+    void StructureDestroyed() override;
+    template <class Call>
+    void TellViews(Call call);
+    bool Listening() const { return active && updateNesting == 0; }
+    void InstantiateNested();
+
+    TKCustomDBStructure* structure = nullptr;
+    TKQuery* outer = nullptr;
+    std::shared_ptr<TParamNames> paramNames = std::make_shared<TParamNames>();
+    std::unique_ptr<TQueryResult> result;
+    std::unique_ptr<TFilterBracket> root;
+    std::unordered_set<TFilterRow*> detachedRows;
+    std::unordered_set<TResultField*> detachedFields;
+    std::vector<TKQueryView*> views;
+    std::string queryName;
+    std::string mainTableName;
+    double formatVersion = 3.3;
+    TQPStyle style = TQPStyle::psGroups;
+    TKBuilderState state = TKBuilderState::stIdle;
+    bool active = true;
+    int updateNesting = 0;
+    bool changePending = false;
+    bool viewsPending = false;
+    bool paramsPending = false;
+};
+
+/// Keeps the changes of a step together: BeginUpdate while it lives.
+class TKQueryUpdate {
+public:
+    explicit TKQueryUpdate(TKQuery& owner) : query(owner) { query.BeginUpdate(); }
+    ~TKQueryUpdate() { query.EndUpdate(); }
+    TKQueryUpdate(const TKQueryUpdate&) = delete;
+    TKQueryUpdate& operator=(const TKQueryUpdate&) = delete;
+
+private:
+    TKQuery& query;
+};
+
+/// The saved queries of a folder: the names and files of all "*.qry" files in it, by file name.
+/// Files that can not be read are left out.
+void ReadQueries(const std::string& folder, TStrings& names, TStrings& files);
+
+} // namespace tern7
