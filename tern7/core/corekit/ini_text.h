@@ -19,8 +19,8 @@ TStrings XReadSLSectionValues(const TStrings& lines, std::string_view section);
 /// One section of an INI-like text: views into the text, which must outlive it.
 class TKIniSection {
 public:
-    TKIniSection(std::string_view name, std::string_view body, int line)
-        : name(name), body(body), line(line) {}
+    TKIniSection(std::string_view newName, std::string_view newBody, int newLine)
+        : name(newName), body(newBody), line(newLine) {}
 
     std::string_view Name() const { return name; }
     /// The text between this header and the next one, as it stands.
