@@ -1,9 +1,10 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include <tern7/core/corekit/strings.h>
@@ -19,8 +20,8 @@ TStrings XReadSLSectionValues(const TStrings& lines, std::string_view section);
 /// One section of an INI-like text: views into the text, which must outlive it.
 class TKIniSection {
 public:
-    TKIniSection(std::string_view newName, std::string_view newBody, int newLine)
-        : name(newName), body(newBody), line(newLine) {}
+    TKIniSection(std::string_view sectionName, std::string_view sectionBody, int headerLine)
+        : name(sectionName), body(sectionBody), line(headerLine) {}
 
     std::string_view Name() const { return name; }
     /// The text between this header and the next one, as it stands.
@@ -41,8 +42,8 @@ public:
     /// Integer value; `otherwise` when the key is missing or empty, EKTernError naming section and
     /// key when the value is no integer.
     int Int(std::string_view key, int otherwise = 0) const;
-    /// Boolean value; `otherwise` when missing or empty, EKTernError when it is neither 0 nor 1 (nor
-    /// a word that XStrToBool knows).
+    /// Boolean value; `otherwise` when missing or empty, EKTernError when it is neither 0 nor 1
+    /// (nor a word that XStrToBool knows).
     bool Bool(std::string_view key, bool otherwise = false) const;
 
 private:
@@ -50,11 +51,20 @@ private:
     std::string_view body;
     int line;
     mutable size_t next = 0; // offset behind the last key found: the search starts there and wraps
-    bool Find(std::string_view key, std::string_view& value) const;
+
+    struct TFound {
+        std::string_view value;
+        bool encoded = false; // the key stood with the suffix
+    };
+    std::optional<TFound> Find(std::string_view key, bool orEncoded) const;
+    std::optional<TFound> FindWithin(size_t from, size_t to, std::string_view key,
+                                     bool orEncoded) const;
+    [[noreturn]] void FailValue(std::string_view key, std::string_view value) const;
 };
 
-/// An INI-like text cut into sections, indexed by name once; views into the text, which must outlive
-/// it. A header is a line whose first character is "[" and whose last, blanks at the end aside, is
+/// An INI-like text cut into sections, indexed by name once; views into the text, which must
+/// outlive it. A header is a line whose first character is "[" and whose last, blanks at the end
+/// aside, is
 /// "]". Linear in the text.
 class TKIniText {
 public:
@@ -64,13 +74,20 @@ public:
     /// The first section of that name, ignoring case; none when it is missing.
     const TKIniSection* Find(std::string_view name) const;
     /// The first section of that name at or behind the position in Sections(), else the first of
-    /// all; none when it is missing.
+    /// all; none when it is missing. Logarithmic in the number of sections of that name.
     const TKIniSection* FindFrom(size_t position, std::string_view name) const;
     size_t PositionOf(const TKIniSection& section) const;
 
 private:
     std::vector<TKIniSection> sections;
-    std::unordered_multimap<std::string_view, size_t, TTextHash, TTextEqual> byName;
+    // Open hash of names: 0 is empty, else 1 + the number of a name. The positions of the sections
+    // of name n, ascending, are positions[starts[n]] up to positions[starts[n + 1]].
+    std::vector<uint32_t> slots;
+    std::vector<uint32_t> starts;
+    std::vector<uint32_t> positions;
+
+    void Cut(std::string_view text);
+    void Index();
 };
 
 /// True when the text can stand behind "=" as it is: no line break, no blank at either end, no NUL.
@@ -85,7 +102,8 @@ class TKIniWriter {
 public:
     void Section(std::string_view name);
     void Line(std::string_view line);
-    void Key(std::string_view key, std::string_view value); // as it stands; must fit on a line
+    /// As it stands; the value must fit on a line (an assertion in debug builds).
+    void Key(std::string_view key, std::string_view value);
     void Key(std::string_view key, int value);
     void Bool(std::string_view key, bool value); // 0 or 1
     /// `key=value`, or `key.Encoded=` and the percent-encoded value when it does not fit on a line.
@@ -105,12 +123,13 @@ std::string_view UnprotectBodyLine(std::string_view line);
 
 /// What DecodeTextFile found.
 struct TKDecodedText {
-    std::string text;         ///< UTF-8 without a byte order mark
+    std::string text;            ///< UTF-8 without a byte order mark
     bool wasWindows1252 = false; ///< the text was no UTF-8 and was read as Windows-1252 as a whole
 };
 TKDecodedText DecodeTextFile(std::string bytes);
 
-/// Splits a text at line ends: calls nothing, yields one line per call. CR LF and LF end a line.
+/// Splits a text at line ends: calls nothing, yields one line per call. CR LF and LF end a line; a
+/// final line end does not open another line.
 class TKLineReader {
 public:
     explicit TKLineReader(std::string_view text) : rest(text) {}

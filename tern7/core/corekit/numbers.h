@@ -7,7 +7,9 @@
 
 namespace tern7 {
 
-constexpr int MinInt(int a, int b) { return a < b ? a : b; }
+constexpr int MinInt(int a, int b) {
+    return a < b ? a : b;
+}
 
 /// The integer that the whole text (blanks around it aside) says; nothing when it is no integer or
 /// does not fit.
@@ -19,7 +21,8 @@ int XStrToInt(std::string_view text, int otherwise = 0);
 /// Reads a floating-point number with point or comma as decimal separator.
 double XStrToFloat(std::string_view text, double otherwise = 0);
 
-/// The shortest text that reads back as the number, with a point: 3.3, 2.01, 1.
+/// The shortest text that reads back as the number, with a point: 3.3, 2.01, 1. From 1e15 on and
+/// below 1e-5 with an exponent.
 std::string XFloatToStr(double value);
 
 /// "1", "true", "yes", "t", "y" and "-1" are true; "0", "false", "no", "f" and "n" false; ignores

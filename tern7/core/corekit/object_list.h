@@ -55,7 +55,8 @@ public:
     }
     /// Frees all items, last first, without Changed().
     void FreeAll() {
-        while (!items.empty()) items.pop_back();
+        while (!items.empty())
+            items.pop_back();
     }
     void Clear() {
         if (items.empty()) return;

@@ -5,19 +5,29 @@
 #include <string_view>
 #include <vector>
 
-/// String routines. Texts are UTF-8. Whatever ignores case folds A to Z only, as SQL engines do with
-/// names; everything else compares by bytes.
+/// String routines. Texts are UTF-8. Whatever ignores case folds A to Z only, as SQL engines do
+/// with names; everything else compares by bytes.
 namespace tern7 {
 
 /// A list of lines: captions, parameters, SQL text, the lines of a file.
 using TStrings = std::vector<std::string>;
 
-constexpr char LowerChar(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
-constexpr char UpperChar(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
+constexpr char LowerChar(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+}
+constexpr char UpperChar(char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+constexpr bool IsLetter(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
 /// True for bytes up to and including the blank: blanks, tabs, line breaks, control characters.
-constexpr bool IsSpace(char c) { return static_cast<unsigned char>(c) <= ' '; }
+constexpr bool IsSpace(char c) {
+    return static_cast<unsigned char>(c) <= ' ';
+}
 
 std::string LowerCase(std::string_view text);
 std::string UpperCase(std::string_view text);
@@ -48,6 +58,7 @@ bool StrInList(std::string_view text, const TStrings& list);
 bool EqualToSpaces(std::string_view a, std::string_view b);
 
 /// True when `word` stands in `text` with no letter, digit or underscore next to it, ignoring case.
+/// Bytes above 127 count as letters.
 bool ContainsAsWholeWord(std::string_view text, std::string_view word);
 
 /// The part before the first separator; the whole text when there is none.
@@ -63,7 +74,7 @@ std::string XReplaceStr(std::string_view text, std::string_view from, std::strin
 
 /// The text between two quote characters, embedded ones doubled.
 std::string QuotedString(std::string_view text, char quote = '\'');
-/// The reverse of QuotedString; a text that is not quoted comes back as it is.
+/// The reverse of QuotedString; a text that is not one quoted string comes back as it is.
 std::string UnquotedString(std::string_view text, char quote = '\'');
 
 size_t CharCount(std::string_view text, char c);
@@ -84,6 +95,7 @@ std::string ValueOf(const TStrings& lines, std::string_view name);
 int IndexOfName(const TStrings& lines, std::string_view name);
 
 /// The message with the first "%s" or "%d" of each argument replaced, in order.
-std::string FormatMessage(std::string_view format, std::initializer_list<std::string_view> arguments);
+std::string FormatMessage(std::string_view format,
+                          std::initializer_list<std::string_view> arguments);
 
 } // namespace tern7

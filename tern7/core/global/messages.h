@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include <tern7/core/corekit/messages.h> // texts and files
+
 /// The message strings of the library, in one table. "%s" and "%d" stand for a name or a number and
 /// are filled in by FormatMessage.
 namespace tern7::messages {
@@ -51,10 +53,5 @@ inline constexpr std::string_view NoQueryBase = "Query base is not specified";
 // SQL parser
 inline constexpr std::string_view WrongSQL = "Wrong SQL statement";
 inline constexpr std::string_view LostBracket = "Lost bracket";
-
-// texts and files
-inline constexpr std::string_view CanNotOpenFile = "Can not open file %s";
-inline constexpr std::string_view CanNotWriteFile = "Can not write file %s";
-inline constexpr std::string_view WrongValueOfKey = "Wrong value of %s in section %s: %s";
 
 } // namespace tern7::messages

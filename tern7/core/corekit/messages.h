@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string_view>
+
+/// The message strings of the ground floor; the others stand in global/messages.h.
+namespace tern7::messages {
+
+inline constexpr std::string_view CanNotOpenFile = "Can not open file %s";
+inline constexpr std::string_view CanNotWriteFile = "Can not write file %s";
+inline constexpr std::string_view WrongValueOfKey = "Wrong value of %s in section %s: %s";
+
+} // namespace tern7::messages
