@@ -53,6 +53,16 @@ public:
         items.insert(items.begin() + to, std::move(item));
         Changed();
     }
+    /// Frees the items for which `test` (given a const T&) is true, in one pass, then Changed().
+    template <class Test>
+    void DeleteIf(Test test) {
+        const size_t before = items.size();
+        std::erase_if(items, [&](const std::unique_ptr<T>& item) { return test(*item); });
+        if (items.size() != before) Changed();
+    }
+    /// Exchanges the items of two lists, without Changed().
+    void Swap(TKObjectList& other) { items.swap(other.items); }
+    void Reserve(size_t count) { items.reserve(count); }
     /// Frees all items, last first, without Changed().
     void FreeAll() {
         while (!items.empty())

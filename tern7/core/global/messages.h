@@ -10,6 +10,7 @@ namespace tern7::messages {
 
 // structure
 inline constexpr std::string_view InvalidTableIndex = "Invalid table index %d";
+inline constexpr std::string_view InvalidFieldIndex = "Invalid field index %d";
 inline constexpr std::string_view InvalidLinkIndex = "Invalid link index %d";
 inline constexpr std::string_view InvalidOperatorIndex = "Invalid operator index %d";
 inline constexpr std::string_view NoSuchTable = "No such table %s";
@@ -21,6 +22,8 @@ inline constexpr std::string_view AssignExpressionToData =
     "Can not assign expression to data field";
 inline constexpr std::string_view SectionNotFound = "Can not find section %s";
 inline constexpr std::string_view FieldNotInTable = "Can not find field \"%s\" in table \"%s\"";
+inline constexpr std::string_view AliasInUse = "Table alias \"%s\" is in use";
+inline constexpr std::string_view OperatorNameInUse = "Operator name \"%s\" is in use";
 inline constexpr std::string_view NoDatabaseInfo = "DatabaseInfo is not specified";
 inline constexpr std::string_view UnrecognizedField = "Unrecognized field";
 inline constexpr std::string_view UnrecognizedOperator = "Unrecognized operator";

@@ -53,6 +53,8 @@ public:
     }
 
     void SetDisplayName(std::string value);
+    /// A data field always has a table: EKDBStructError "No such table %s" for none or one of
+    /// another structure. Does nothing for a virtual field.
     void SetTable(TDSTable* value);
     void SetQuoted(bool value);
     void SetFieldType(TFieldType value);
@@ -64,11 +66,16 @@ public:
     /// Tells the structure that the editor's settings were changed.
     void ValueEditorChanged();
 
-    /// The operators that the condition builder offers, in order.
-    const std::vector<TDSOperator*>& Operators() const { return operators; }
-    int GetOperatCount() const { return static_cast<int>(operators.size()); }
+    /// The operators that the condition builder offers, in order. The list is valid until it is
+    /// changed: fields with the same operators share it.
+    const std::vector<TDSOperator*>& Operators() const {
+        static const std::vector<TDSOperator*> none;
+        return operators ? *operators : none;
+    }
+    int GetOperatCount() const { return static_cast<int>(Operators().size()); }
     /// EKDBStructError "Invalid operator index %d".
     TDSOperator* GetOperator(int index) const;
+    /// Appends; an operator that is there already stays where it is.
     void AddOperator(TDSOperator* op);
     /// EKDBStructError "Operator not found: %s".
     void AddOperatorByName(std::string_view name);
@@ -108,7 +115,18 @@ private:
     friend class TKCustomDBStructure;
     friend class TDSFieldGroup;
     friend class TDSFieldGroupList;
+    friend class TKStructureReader;
+    class TKeyChange;
+    struct TPrefixTables {
+        uint64_t revision = 0;
+        std::vector<TDSTable*> tables;
+    };
+    using TOperators = std::vector<TDSOperator*>;
+    TOperators& OwnOperators();
+    void SetExpr(std::string text);
+
     TKCustomDBStructure& structure;
+    uint32_t order = 0; // rises along the structure's field list; 0: not in the list
     int id = -1;
     int fieldSize = 0;
     std::string fieldExpr;
@@ -116,15 +134,14 @@ private:
     TDSTable* table = nullptr;
     TDSFieldGroup* group = nullptr;
     std::unique_ptr<TDSValueEditor> editor;
-    std::vector<TDSOperator*> operators;
+    std::shared_ptr<TOperators> operators; // shared while equal, copied before a change
     TKFieldKind kind;
     TFieldType fieldType = TFieldType::ftUnknown;
     TDSEditType editType = TDSEditType::etAuto;
     bool quoted = false;
     bool useInConditions = true;
     bool useInResult = true;
-    mutable std::vector<TDSTable*> tables; // see GetTables
-    mutable uint64_t tablesRevision = 0;
+    mutable std::unique_ptr<TPrefixTables> prefixTables; // of a virtual field, see GetTables
 };
 
 } // namespace tern7

@@ -59,6 +59,8 @@ public:
 
 private:
     friend class TKCustomDBStructure;
+    friend class TKStructureReader;
+    void SetTable(TDSTable*& end, TDSTable* table);
     TKCustomDBStructure& structure;
     TDSTable* table1 = nullptr;
     TDSTable* table2 = nullptr;
@@ -66,7 +68,6 @@ private:
     TDSLinkType linkType = TDSLinkType::ltInner;
     bool quoteFields = false;
     bool listed = false; // the structure's list has it
-    int index = -1;
 };
 
 } // namespace tern7

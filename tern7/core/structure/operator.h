@@ -63,6 +63,7 @@ public:
     TOpValueType ValueType() const { return valueType; }
     TAppliedTypes AppliedTypes() const { return appliedTypes; }
 
+    /// EKDBStructError "Operator name "%s" is in use" when another operator has it.
     void SetName(std::string value);
     void SetDisplayName(std::string value);
     void SetSQLName(std::string value);
@@ -79,8 +80,14 @@ public:
     /// True for the placeholder that stands for an operator unknown to the structure.
     bool IsPlaceholder() const;
 
+    static TAppliedTypes DefaultAppliedTypes();
+
 private:
+    friend class TKCustomDBStructure;
+    friend class TKStructureReader;
+    class TKeyChange;
     TKCustomDBStructure& structure;
+    uint32_t order = 0; // rises along the structure's operator list; 0: not in the list
     std::string name;
     std::string displayName;
     TKSQLTemplate sqlTemplate;
@@ -88,9 +95,6 @@ private:
     std::optional<TFieldType> exprType;
     TOpValueType valueType = TOpValueType::vtScalar;
     TAppliedTypes appliedTypes = DefaultAppliedTypes();
-
-public:
-    static TAppliedTypes DefaultAppliedTypes();
 };
 
 } // namespace tern7

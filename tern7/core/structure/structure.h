@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ namespace tern7 {
 
 /// Told about a structure by whoever refers into it (queries do). References are dropped before
 /// objects of the structure are freed and found again, by ID and name, when that is done; both
-/// calls come in pairs, once for a whole reload.
+/// calls come in pairs, once for a whole reload. Neither of them throws or changes the structure.
 class TDSObserver {
 public:
     virtual ~TDSObserver() = default;
@@ -144,7 +145,7 @@ public:
 
     // --- the whole
     /// Deletes links, fields, groups and tables, and refreshes the default operators' display
-    /// texts.
+    /// texts; the operators stay. Linear.
     void ClearStructure();
     /// True with fewer than two fields; one field counts as empty on purpose.
     bool GetEmpty() const { return fields.GetCount() < 2; }
@@ -191,10 +192,12 @@ public:
     TKServices Services;
 
     // --- notification
-    /// Between BeginUpdate and EndUpdate Changed() only notes; the outermost EndUpdate raises
-    /// OnChange once, and only if something changed.
+    /// Between BeginUpdate and EndUpdate Changed() only notes; the outermost EndUpdate tells the
+    /// observers and raises OnChange once, and only if something changed. A handler may delete
+    /// objects of the structure, or the structure.
     void BeginUpdate() { ++updateNesting; }
     void EndUpdate();
+    /// Something changed: raises the revision, then tells observers and OnChange (see BeginUpdate).
     void Changed();
     /// Goes up with every change: the key of whatever is computed from the structure and kept.
     uint64_t Revision() const { return revision; }
@@ -211,8 +214,26 @@ private:
     friend class TKStructureReader;
     class TReferencesReleased; // releases the observers' references while it lives
 
-    struct TIndexes; // lazily built lookups, dropped on change
-    struct TPathTrees;
+    struct TIndexes;   // lookups, built when first asked and kept up to date
+    struct TPathTrees; // join paths found so far, kept until tables or links change
+    struct TContent;   // what a text says, before it replaces the present objects
+
+    TIndexes& Indexes() const { return *indexes; }
+    void List(TDSTable* table);
+    void List(TDSField* field);
+    void List(TDSOperator* op);
+    void Unlist(const TDSField& field);
+    void ForgetPaths();
+    void DropFieldLookups();
+    void DeleteFieldsOf(const TDSTable* table);
+    void DeleteLinksOf(const TDSTable* table);
+    void Notify();
+    int NextID();
+    std::string UniqueAlias(const std::string& wish) const;
+    std::string DefaultCaption(std::string_view name, std::string_view otherwise) const;
+    void AddDefOperator(size_t row, bool update);
+    std::shared_ptr<std::vector<TDSOperator*>> AppliedOperators(TFieldType type);
+    void Adopt(TContent& content);
 
     TKObjectList<TDSTable> tables;
     TKObjectList<TDSField> fields;
@@ -220,7 +241,7 @@ private:
     TKObjectList<TDSOperator> operators;
     TDSPath path{*this};
     TDSFieldGroupList groups{*this};
-    TDSFieldList rootGroup;
+    TDSFieldGroup rootGroup{*this};
     TStrings defOperators;
     TExOperators exOperators = TExOperators::All();
     TSQLFormats sqlFormats;
@@ -233,27 +254,31 @@ private:
     std::unique_ptr<TDSOperator> placeholderOperator;
     TStrings loadWarnings;
     int lastID = 0; // the highest ID ever given or read
+    uint32_t lastFieldOrder = 0;
+    uint32_t lastOperatorOrder = 0;
     int updateNesting = 0;
     bool changePending = false;
     uint64_t revision = 1;
     std::vector<TDSObserver*> observers;
+    std::vector<TDSObserver*> released; // those that RestoreReferences is owed to
     int releaseNesting = 0;
+    std::shared_ptr<int> life = std::make_shared<int>(); // tells Notify that it is gone
     mutable std::unique_ptr<TIndexes> indexes;
     mutable std::unique_ptr<TPathTrees> pathTrees;
 };
 
-/// Keeps notification together: BeginUpdate while it lives.
+/// Keeps notification together: BeginUpdate while it lives. The last statement of a scope that
+/// holds one may end the structure's life, see BeginUpdate.
 class TDSUpdate {
 public:
-    explicit TDSUpdate(TKCustomDBStructure& owner) : structure(owner) {
-        structure.BeginUpdate();
-    }
-    ~TDSUpdate() { structure.EndUpdate(); }
+    explicit TDSUpdate(TKCustomDBStructure& owner) : structure(owner) { structure.BeginUpdate(); }
+    ~TDSUpdate() noexcept(false);
     TDSUpdate(const TDSUpdate&) = delete;
     TDSUpdate& operator=(const TDSUpdate&) = delete;
 
 private:
     TKCustomDBStructure& structure;
+    const int exceptions = std::uncaught_exceptions();
 };
 
 /// Makes a structure of a whole database: every table with its columns, one group per table, links

@@ -14,6 +14,8 @@ class TKCustomDBStructure;
 class TDSTable {
 public:
     explicit TDSTable(TKCustomDBStructure& owner) : structure(owner) {}
+    TDSTable(const TDSTable&) = delete;
+    TDSTable& operator=(const TDSTable&) = delete;
 
     TKCustomDBStructure& Structure() const { return structure; }
     /// Position in the structure's table list.
@@ -29,7 +31,8 @@ public:
     const std::string& Hints() const { return hints; }
     void SetTableName(std::string value);
     void SetDisplayName(std::string value);
-    /// EKDBStructError when another table has the alias.
+    /// EKDBStructError "Table alias "%s" is in use" when another table has it. The default main
+    /// table follows; SQL expressions of virtual fields stay as they are.
     void SetTableAlias(std::string value);
     void SetQuoted(bool value);
     void SetHints(std::string value);
@@ -39,6 +42,7 @@ public:
     int GetLinkCount() const { return static_cast<int>(links.size()); }
     TDSLink* GetLink(int i) const { return links.at(static_cast<size_t>(i)); }
     const std::vector<TDSLink*>& Links() const { return links; }
+    /// Kept by the structure: links come and go through its link list.
     void AddLinkRef(TDSLink* link);
     void DelLink(const TDSLink* link);
     /// The first link of this table that leads to the other; none when there is none.
@@ -53,6 +57,9 @@ public:
 
 private:
     friend class TKCustomDBStructure;
+    friend class TDSField;
+    friend class TKStructureReader;
+    class TKeyChange;
     TKCustomDBStructure& structure;
     int index = -1;
     std::string tableName;
@@ -61,6 +68,7 @@ private:
     std::string hints;
     bool quoted = false;
     std::vector<TDSLink*> links;
+    const std::vector<TDSTable*> self{this}; // what the fields of the table need
 };
 
 } // namespace tern7
