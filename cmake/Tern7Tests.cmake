@@ -13,6 +13,8 @@ function(tern7_test name)
   cmake_parse_arguments(arg "" "" "LIBS;ENVIRONMENT" ${ARGN})
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   tern7_target(${name})
+  # Fixtures and helpers of several files share names on purpose.
+  set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE TERN7_TESTS_DIR="${PROJECT_SOURCE_DIR}/tests")
   set(main GTest::gtest_main)
@@ -74,6 +76,7 @@ function(tern7_bench name)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/bench)
   target_link_libraries(${name} PRIVATE
     Tern7::Core ${arg_LIBS} benchmark::benchmark_main benchmark::benchmark)
+  add_dependencies(benchmarks ${name})
 endfunction()
 
 # The corpus of tests/fuzz/NAME.cpp lies in tests/fuzz/corpus/NAME. Tests replay it; the fuzzers,
