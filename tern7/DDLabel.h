@@ -1,0 +1,6 @@
+#pragma once
+
+#include <tern7/ui/controls/drop_down_edit.h>
+#include <tern7/ui/controls/drop_down_label.h>
+#include <tern7/ui/controls/silent_edit.h>
+#include <tern7/ui/support/system_metrics.h>

@@ -1,0 +1,58 @@
+#include <tern7/ui/controls/drop_down_label.h>
+
+#include <QPainter>
+#include <QStyle>
+
+#include <tern7/ui/support/colors.h>
+#include <tern7/ui/support/text_size.h>
+
+namespace tern7 {
+
+namespace {
+
+// Room at both sides of the text, so that the focus frame does not touch it and the text does not
+// jump when an edit box takes the label's place.
+constexpr int sideRoom = 2;
+
+QString OneLine(QString text) {
+    return text.replace(u'\n', u' ');
+}
+
+} // namespace
+
+QSize TDropDownLabel::sizeHint() const {
+    const QString caption = OneLine(Caption());
+    const QMargins margins = contentsMargins();
+    return {ternTextWidth(caption, TextFont()) + 2 * sideRoom + margins.left() + margins.right(),
+            ternTextHeight(caption, TextFont()) + margins.top() + margins.bottom()};
+}
+
+QFont TDropDownLabel::TextFont() const {
+    QFont shown = font();
+    if (!fixed) shown.setUnderline(true);
+    return shown;
+}
+
+QColor TDropDownLabel::TextColor() const {
+    if (!isEnabled()) return palette().color(QPalette::Disabled, QPalette::WindowText);
+    if (fontColor.isValid()) return fontColor;
+    return palette().color(fixed ? QPalette::WindowText : QPalette::Link);
+}
+
+void TDropDownLabel::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect area = contentsRect().adjusted(sideRoom, 0, -sideRoom, 0);
+    const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
+    painter.setFont(TextFont());
+    painter.setPen(TextColor());
+    const QString shown = painter.fontMetrics().elidedText(OneLine(text()), Qt::ElideRight,
+                                                           area.width(), Qt::TextShowMnemonic);
+    painter.drawText(area, static_cast<int>(side) | Qt::TextShowMnemonic | Qt::TextSingleLine,
+                     shown);
+    if (!focused && !hasFocus()) return;
+    const QColor navy = ColorFromNumber(clNavy);
+    painter.setPen(QPen(ReadableColor(navy, navy, palette()), 1));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+} // namespace tern7

@@ -1,0 +1,15 @@
+#include <tern7/ui/support/guarded.h>
+
+#include <QString>
+#include <QToolTip>
+
+namespace tern7 {
+
+void ReportError(QWidget* widget, const std::exception& error) {
+    qWarning("%s", error.what());
+    if (!widget || !widget->isVisible()) return;
+    const QPoint below = widget->mapToGlobal(QPoint(0, widget->height()));
+    QToolTip::showText(below, QString::fromUtf8(error.what()).toHtmlEscaped(), widget);
+}
+
+} // namespace tern7

@@ -1,0 +1,60 @@
+#include <tern7/ui/support/local_dates.h>
+
+#include <QRegularExpression>
+
+namespace tern7 {
+
+QString LocalDateFormat(const QLocale& locale) {
+    static const QRegularExpression shortYear(QStringLiteral("(?<!y)yy(?!y)"));
+    QString format = locale.dateFormat(QLocale::ShortFormat);
+    return format.replace(shortYear, QStringLiteral("yyyy"));
+}
+
+QString LocalTimeFormat(const QLocale& locale) {
+    QString format;
+    qsizetype afterMinutes = -1;
+    bool quoted = false, seconds = false;
+    for (const QChar c : locale.timeFormat(QLocale::ShortFormat)) {
+        if (c == u'\'') quoted = !quoted;
+        if (!quoted && QStringLiteral("aApPt").contains(c)) continue;
+        format += !quoted && c == u'h' ? QChar(u'H') : c;
+        if (!quoted && c == u'm') afterMinutes = format.size();
+        if (!quoted && c == u's') seconds = true;
+    }
+    if (!seconds && afterMinutes >= 0) format.insert(afterMinutes, QStringLiteral(":ss"));
+    return format.trimmed();
+}
+
+QString LocalDateTimeFormat(const QLocale& locale) {
+    return LocalDateFormat(locale) + u' ' + LocalTimeFormat(locale);
+}
+
+QDate ReadLocalDate(const QString& text, const QLocale& locale) {
+    const QString trimmed = text.trimmed();
+    const QDate local = locale.toDate(trimmed, LocalDateFormat(locale));
+    return local.isValid() ? local : QDate::fromString(trimmed, QStringLiteral("yyyy-M-d"));
+}
+
+QTime ReadLocalTime(const QString& text, const QLocale& locale) {
+    const QString trimmed = text.trimmed();
+    QTime time = locale.toTime(trimmed, LocalTimeFormat(locale));
+    for (const char* form : {"H:m:s.zzz", "H:m:s", "H:m"})
+        if (!time.isValid()) time = QTime::fromString(trimmed, QString::fromLatin1(form));
+    return time;
+}
+
+QDateTime ReadLocalDateTime(const QString& text, const QLocale& locale) {
+    const QString trimmed = text.trimmed();
+    const QDateTime local = locale.toDateTime(trimmed, LocalDateTimeFormat(locale));
+    if (local.isValid()) return local;
+    const QDate dateAlone = ReadLocalDate(trimmed, locale);
+    if (dateAlone.isValid()) return {dateAlone, QTime(0, 0)};
+    static const QRegularExpression blank(QStringLiteral("[ T]"));
+    const qsizetype gap = trimmed.indexOf(blank);
+    if (gap < 0) return {};
+    const QDate date = ReadLocalDate(trimmed.left(gap), locale);
+    const QTime time = ReadLocalTime(trimmed.mid(gap + 1), locale);
+    return date.isValid() && time.isValid() ? QDateTime(date, time) : QDateTime();
+}
+
+} // namespace tern7
