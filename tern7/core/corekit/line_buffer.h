@@ -58,6 +58,15 @@ public:
             lines.emplace_back(Line(i));
         return lines;
     }
+    /// The lines, blanks at their ends taken off, joined by one blank.
+    std::string OnOneLine() const {
+        std::string line;
+        for (int i = 0; i < GetCount(); ++i) {
+            if (i > 0) line += ' ';
+            line += Trim(Line(i));
+        }
+        return line;
+    }
     void AddLines(const TKLineBuffer& other) {
         for (int i = 0; i < other.GetCount(); ++i)
             AddLine(other.Line(i));

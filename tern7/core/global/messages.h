@@ -50,6 +50,8 @@ inline constexpr std::string_view WrongValue = "Wrong value for field \"%s\": %s
 inline constexpr std::string_view CanNotExecuteCondition = "Can not execute condition: %s";
 inline constexpr std::string_view FieldNotFound = "Field not found: %s";
 inline constexpr std::string_view NestedTooDeep = "Rows are nested too deep";
+inline constexpr std::string_view ChangeWhileBuilding =
+    "Rows can not be changed while the query is built";
 inline constexpr std::string_view NulInValue = "A value holds a NUL character";
 inline constexpr std::string_view NoQueryBase = "Query base is not specified";
 

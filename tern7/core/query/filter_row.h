@@ -84,7 +84,7 @@ public:
     int Level() const;
 
     /// Line position; -1 for a row that has no line of its own.
-    int RowNum() const { return rowNum; }
+    int RowNum() const;
     void SetRowNum(int value) { rowNum = value; }
     /// Key of the row's section in the query text; given when a text is written or read.
     int RowID() const { return rowID; }
@@ -282,8 +282,6 @@ private:
     static size_t Slot(int n);
     void ReleaseReferences();
     void RestoreReferences();
-    void ParkParams();
-    void UnparkParams();
 
     TDSField* field = nullptr;
     TDSOperator* op = nullptr;

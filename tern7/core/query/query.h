@@ -32,6 +32,18 @@ private:
     const TFilterCond* condition;
 };
 
+/// An expression of a result field that can not be read.
+class EKExpressionError : public EKQueryPanelError {
+public:
+    EKExpressionError(const std::string& message, size_t at)
+        : EKQueryPanelError(message), position(at) {}
+    /// Offset in bytes of what can not be read.
+    size_t Position() const { return position; }
+
+private:
+    size_t position;
+};
+
 /// A condition that takes no part although it is enabled, and why.
 struct TUnfinishedRow {
     const TFilterCond* row;
@@ -108,8 +120,10 @@ public:
     /// Between the local form of a date or time and the structure's SQL form. A text that is no
     /// date comes back as it is.
     std::string ProcessDateValue(TFieldType type, std::string_view value, bool toSQL) const;
-    /// The whole filter as the statement has it, without "WHERE"; empty when no row takes part.
-    /// Needs no table list: for display and tests.
+    /// A date or time as query texts keep it, whatever the local form, and back.
+    std::string SavedDateValue(TFieldType type, std::string_view value) const;
+    std::string LoadedDateValue(TFieldType type, std::string_view value) const;
+    /// The text of one condition; empty when it is unfinished.
     std::string ConditionText(const TFilterCond& condition) const;
 
     // --- rows
@@ -181,16 +195,48 @@ private:
     friend class TQueryResult;
     friend class TQueryBuild;
     friend class TKQueryTextReader;
-    using TParamNames = std::unordered_multiset<std::string>; // lower case
-
     void ReleaseReferences() override;
     void RestoreReferences() override;
     void StructureChanged() override;
     void StructureDestroyed() override;
     template <class Call>
     void TellViews(Call call);
+    template <class Call>
+    void RefreshViews(Call call);
+    /// The row and all below it, depth first.
+    template <class Call>
+    static void ForEachRow(TFilterRow& row, Call call) {
+        call(row);
+        if (TFilterBracket* bracket = row.AsBracket())
+            for (const auto& below : bracket->rows)
+                ForEachRow<Call&>(*below, call);
+    }
+    template <class Call>
+    void ForEachEnabledCondition(Call call) const {
+        EnabledConditions<Call&>(*root, call);
+    }
+    template <class Call>
+    static void EnabledConditions(const TFilterBracket& bracket, Call call) {
+        for (const auto& row : bracket.rows) {
+            if (!row->enabled) continue;
+            if (const TFilterCond* condition = row->AsCond())
+                call(*condition);
+            else
+                EnabledConditions<Call>(*row->AsBracket(), call);
+        }
+    }
+    void EverythingChanged();
+    static TFieldType TypeOf(const TKDateTime& value, TFieldType declared);
     bool Listening() const { return active && updateNesting == 0; }
     void InstantiateNested();
+    void EnsureNumbered() const;
+    /// EKQueryPanelError while the statement is being built: handlers must not change rows then.
+    void RequireChangeable() const;
+    void AttachRow(TFilterRow& row);
+    void DetachRow(TFilterRow& row);
+    void DropParams(const std::vector<std::unique_ptr<TFilterRow>>& rows);
+    void BracketChanged(TFilterBracket& bracket);
+    void SubQueryChanged(TFilterCond& condition);
 
     TKCustomDBStructure* structure = nullptr;
     TKQuery* outer = nullptr;
@@ -207,6 +253,8 @@ private:
     TKBuilderState state = TKBuilderState::stIdle;
     bool active = true;
     int updateNesting = 0;
+    mutable bool numbersKnown = false;
+    bool nestedPending = false; // a sub-query text may hold parameters that have no name yet
     bool changePending = false;
     bool viewsPending = false;
     bool paramsPending = false;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,6 +16,7 @@
 namespace tern7 {
 
 class TKCustomDBStructure;
+class TBoundValues;
 class TKQuery;
 
 /// The columns, tables, condition lines and parameters of a query, and the statement they make.
@@ -87,13 +89,18 @@ public:
     void SetParamNumberBase(int value) { paramNumberBase = value; }
     /// The generated captions of a condition's parameters follow its field.
     void UpdateParamCaptions(TFilterCond& condition);
+    /// Length of the longest SQL expression of a field of the structure.
+    size_t LongestFieldExpr() const;
 
 private:
     friend class TKQuery;
     friend class TQueryBuild;
     friend class TFilterCond;
+    friend std::string NestedBoundStatement(const TFilterCond& condition, TBoundValues& values);
+    TKLineBuffer BoundLines(TBoundValues& values);
+    void RequireSafeColumns() const;
     void AppendStatement(TKLineBuffer& out, const TKLineBuffer& conditionLines);
-    std::unique_ptr<TSQLParam> TakeParam(TSQLParam* param);
+    std::vector<std::unique_ptr<TSQLParam>> TakeParams(const std::vector<TSQLParam*>& wanted);
     void PutParam(std::unique_ptr<TSQLParam> param);
     std::string NewParamName();
 
@@ -110,6 +117,8 @@ private:
     TKLineBuffer sql;
     TSQLParamList params;
     int paramNumberBase = 0;
+    mutable uint64_t longestRevision = 0; // see LongestFieldExpr
+    mutable size_t longestFieldExpr = 0;
 };
 
 } // namespace tern7

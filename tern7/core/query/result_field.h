@@ -147,9 +147,10 @@ public:
     /// Takes a field out without freeing it, and puts one in.
     std::unique_ptr<TResultField> TakeField(int i);
     TResultField* PutField(int i, std::unique_ptr<TResultField> field);
-    void DeleteField(int i) { TakeField(i); }
-    void MoveField(int from, int to);
-    void ClearFields();
+    std::unique_ptr<TResultField> Erase(int i) { return TakeField(i); }
+    void Delete(int i) { TakeField(i); }
+    void Move(int from, int to);
+    void Clear();
 
     bool CheckUniqAlias(std::string_view text) const;
     bool CheckUniqCaption(std::string_view text) const;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 
 #include <tern7/core/corekit/object_list.h>
 #include <tern7/core/global/field_types.h>
@@ -11,16 +13,26 @@ namespace tern7 {
 
 class TFilterCond;
 
+/// The parameter names in use in a query and all queries nested in it, in lower case.
+using TParamNames = std::unordered_multiset<std::string>;
+
 /// A value that is asked for when the query runs. Owned by the query's parameter list (by its
 /// condition while that is out of the tree).
 class TSQLParam {
 public:
     TSQLParam(TFilterCond& owner, int number) : condition(&owner), valueNumber(number) {}
+    ~TSQLParam();
+    TSQLParam(const TSQLParam&) = delete;
+    TSQLParam& operator=(const TSQLParam&) = delete;
 
     /// Unique over a query and the queries nested in it, ignoring case.
     const std::string& Name() const { return name; }
     const std::string& Caption() const { return caption; }
-    void SetCaption(std::string value) { caption = std::move(value); }
+    /// A caption of the application's own; until then it is made of the field's.
+    void SetCaption(std::string value) {
+        caption = std::move(value);
+        generated = false;
+    }
     TFieldType ExprType() const;
     TFilterCond* Condition() const { return condition; }
     /// 1 or 2: the value of the condition that it stands for.
@@ -40,15 +52,19 @@ public:
 
 private:
     friend class TQueryResult;
-    friend class TFilterCond;
     TFilterCond* condition;
     int valueNumber;
     std::string name;
+    std::shared_ptr<TParamNames> names; // where the name is reserved while this lives
     std::string caption;
     std::string valueFormat = "@v";
     std::optional<std::string> given;
+    bool generated = true; // the caption follows the field
 };
 
-using TSQLParamList = TKObjectList<TSQLParam>;
+/// The parameters of one query, in the order in which they were made.
+class TSQLParamList : public TKObjectList<TSQLParam> {
+    friend class TQueryResult;
+};
 
 } // namespace tern7

@@ -17,7 +17,8 @@ void TKSQLTemplate::SetText(std::string newText) {
     text = std::move(newText);
     items.clear();
     paramCount = CountParams(text);
-    simple = paramCount <= 2;
+    simple = true;
+    bareValues = 0;
 
     size_t textStart = 0;
     auto addText = [&](size_t end) {
@@ -25,33 +26,29 @@ void TKSQLTemplate::SetText(std::string newText) {
             items.push_back({TPiece::Text, static_cast<uint32_t>(textStart),
                              static_cast<uint32_t>(end - textStart)});
     };
-    auto addPiece = [&](size_t at, TPiece kind) {
+    bool quoted = false;
+    for (size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '\'') quoted = !quoted;
+        if (text[at] != '@') continue;
+        const char next = at + 1 < text.size() ? text[at + 1] : '\0';
+        TPiece kind;
+        if (next == 'f') {
+            kind = TPiece::Field;
+        } else if (next == 't') {
+            kind = TPiece::Table;
+        } else if (next == 'm') {
+            kind = TPiece::MainTable;
+        } else if (next >= '1' && next <= '9' && next - '0' <= paramCount) {
+            kind = next == '1' ? TPiece::Value1 : next == '2' ? TPiece::Value2 : TPiece::NoValue;
+            if (!quoted) bareValues |= 1u << (next - '0');
+        } else {
+            simple = false; // the "@" may form a placeholder with what is put in behind it
+            continue;
+        }
         addText(at);
         items.push_back({kind, 0, 0});
         textStart = at + 2;
-    };
-    for (size_t at = text.find('@'); at != std::string::npos; at = text.find('@', at + 1)) {
-        const char next = at + 1 < text.size() ? text[at + 1] : '\0';
-        switch (next) {
-        case 'f':
-            addPiece(at, TPiece::Field);
-            break;
-        case 't':
-            addPiece(at, TPiece::Table);
-            break;
-        case 'm':
-            addPiece(at, TPiece::MainTable);
-            break;
-        case '1':
-            if (paramCount >= 1) addPiece(at, TPiece::Value1);
-            break;
-        case '2':
-            if (paramCount >= 2) addPiece(at, TPiece::Value2);
-            break;
-        // an "@" may form a placeholder with text that is put in behind it
-        default:
-            simple = false;
-        }
+        ++at;
     }
     addText(text.size());
 }

@@ -1,0 +1,250 @@
+#include <algorithm>
+
+#include <tern7/core/global/messages.h>
+#include <tern7/core/query/condition_text.h>
+#include <tern7/core/query/query.h>
+#include <tern7/core/structure/structure.h>
+
+namespace tern7 {
+
+/// Builds the parts of a statement beside the query's present ones, which are replaced when all
+/// went well: main table, columns with sort and group text, condition lines.
+class TQueryBuild {
+public:
+    /// Without `boundValues` the text form.
+    TQueryBuild(TKQuery& owner, TBoundValues* boundValues)
+        : query(owner), result(owner.QResult()), structure(owner.RequireStruct()),
+          bracketConditions(result.SQLOptions().Contains(TSQLOption::soBracketConditions)),
+          values(boundValues) {}
+
+    void Run() {
+        AddMainTable();
+        AddResultFields();
+        Bracket(query.Root());
+        if (tables.IsEmpty()) throw EKQueryPanelError(std::string(messages::NotEnoughInformation));
+    }
+
+    void Store() {
+        result.resultTables = std::move(tables);
+        result.conditions = std::move(conditions);
+        result.orderByText = std::move(orderBy);
+        result.groupByText = std::move(groupBy);
+    }
+
+    /// The condition lines alone, over the tables that the query was built with.
+    TKLineBuffer Conditions() {
+        tables = result.resultTables;
+        Bracket(query.Root());
+        return std::move(conditions);
+    }
+
+private:
+    void AddMainTable() {
+        const std::string& chosen = query.MainTableName();
+        const std::string& name = chosen.empty() ? structure.DefaultMainTable() : chosen;
+        if (name.empty()) return;
+        TDSTable* table = structure.TableByName(true, name);
+        if (!table) table = structure.TableByName(false, name);
+        if (!table) throw EKDBStructError(FormatMessage(messages::NoSuchTable, {name}));
+        tables.Join(table, nullptr);
+    }
+
+    void AddTable(TDSTable* table) {
+        if (tables.Contains(table)) return;
+        if (tables.IsEmpty()) {
+            tables.Join(table, nullptr);
+            return;
+        }
+        // The tables of the list lie on shortest paths from the base, so the missing ones are the
+        // last ones of this path.
+        const std::vector<TDSTable*>& path = structure.GetPath(*tables[0].Table, *table).Tables();
+        size_t missing = path.size() - 1;
+        while (missing > 1 && !tables.Contains(path[missing - 1]))
+            --missing;
+        for (; missing < path.size(); ++missing)
+            tables.Join(path[missing], path[missing - 1]->LinkByTable(path[missing]));
+    }
+
+    void AddTablesOf(const TDSField& field) {
+        for (TDSTable* table : field.GetTables())
+            AddTable(table);
+    }
+
+    void AddResultFields() {
+        const TRFieldList& fields = result.ResultFields();
+        result.ResultFields().GenerateNumbers();
+        const bool byName =
+            fields.JustSorting() || result.SQLOptions().Contains(TSQLOption::soSortByNames);
+        struct TSorted {
+            int order;
+            std::string text;
+        };
+        std::vector<TSorted> sorted;
+        bool anyAggregate = false;
+        std::string plainExpressions;
+        for (const auto& field : fields) {
+            RequireKnownFields(*field);
+            for (const TDSField* source : field->Fields().Items())
+                AddTablesOf(*source);
+            const bool aggregate = field->GetAgregate();
+            anyAggregate = anyAggregate || aggregate;
+            if (!aggregate)
+                for (const TDSField* source : field->Fields().Items()) {
+                    source->AppendSQLExpr(plainExpressions);
+                    plainExpressions += ", ";
+                }
+            if (field->Sorting() == TSortingType::stNoSort) continue;
+            std::string text = byName ? SortExpression(*field) : std::to_string(field->Number());
+            text += field->Sorting() == TSortingType::stAscending ? " ASC" : " DESC";
+            sorted.push_back({field->SortOrder(), std::move(text)});
+        }
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [](const TSorted& a, const TSorted& b) { return a.order < b.order; });
+        for (const TSorted& entry : sorted) {
+            if (!orderBy.empty()) orderBy += ", ";
+            orderBy += entry.text;
+        }
+        if (anyAggregate && !plainExpressions.empty())
+            groupBy = plainExpressions.substr(0, plainExpressions.size() - 2);
+    }
+
+    static std::string SortExpression(const TResultField& field) {
+        return field.GetDSFieldCount() > 0 ? field.GetDSField(0)->GetSQLExpr() : field.GetSQLExpr();
+    }
+
+    static void RequireKnownFields(const TResultField& field) {
+        for (const TDSField* source : field.Fields().Items())
+            if (!source || source->IsPlaceholder())
+                throw EKQueryPanelError(FormatMessage(messages::FieldNotFound, {field.Caption()}));
+    }
+
+    /// True when the bracket wrote something. What was written ahead for rows that then write
+    /// nothing is taken back, so one walk is enough.
+    bool Bracket(const TFilterBracket& bracket) {
+        bool any = false;
+        for (const auto& row : bracket.Rows()) {
+            if (!row->GetEnabled()) continue;
+            const TFilterCond* condition = row->AsCond();
+            if (condition && condition->Unfinished() != TUnfinished::No) continue;
+
+            const TKLineBuffer::TMark mark = conditions.Mark();
+            if (any)
+                conditions.Last() += JoinsByAnd(bracket.LinkType()) ? " AND" : " OR";
+            else
+                conditions.AddLine(IsNegated(bracket.LinkType()) ? " NOT (" : " (");
+            if (condition) {
+                Condition(*condition);
+            } else if (!Bracket(*row->AsBracket())) {
+                conditions.Rollback(mark);
+                continue;
+            }
+            any = true;
+        }
+        if (any) conditions.AddLine(")");
+        return any;
+    }
+
+    void Condition(const TFilterCond& condition) {
+        if (condition.IsRecognized()) AddTablesOf(*condition.Field());
+        conditions.NewLine();
+        std::string& out = conditions.Last();
+        if (bracketConditions) out += '(';
+        const TConditionContext context{query, tables.IsEmpty() ? std::string_view()
+                                                                : tables[0].Table->TableName()};
+        if (values) {
+            AppendBoundCondition(context, condition, *values, out);
+        } else if (query.OnBuildSQL) {
+            std::string text;
+            AppendConditionText(context, condition, text);
+            query.OnBuildSQL(const_cast<TFilterCond&>(condition), text);
+            out += text;
+        } else {
+            AppendConditionText(context, condition, out);
+        }
+        if (bracketConditions) out += ')';
+    }
+
+    TKQuery& query;
+    TQueryResult& result;
+    TKCustomDBStructure& structure;
+    bool bracketConditions;
+    TBoundValues* values;
+    TRTableList tables;
+    TKLineBuffer conditions;
+    std::string orderBy;
+    std::string groupBy;
+};
+
+namespace {
+
+/// stBuilding while it lives: handlers must not change rows then.
+class TBuildingState {
+public:
+    explicit TBuildingState(TKQuery& owner) : query(owner), before(owner.BuilderState()) {
+        query.SetBuilderState(TKBuilderState::stBuilding);
+    }
+    ~TBuildingState() { query.SetBuilderState(before); }
+    TBuildingState(const TBuildingState&) = delete;
+    TBuildingState& operator=(const TBuildingState&) = delete;
+
+private:
+    TKQuery& query;
+    TKBuilderState before;
+};
+
+} // namespace
+
+void TKQuery::BuildQuery() {
+    RequireStruct();
+    InstantiateNested();
+    const TBuildingState building(*this);
+    TQueryBuild build(*this, nullptr);
+    build.Run();
+    build.Store();
+}
+
+std::string TKQuery::ConditionText(const TFilterCond& condition) const {
+    std::string text;
+    if (condition.Unfinished() != TUnfinished::No) return text;
+    const TRTableList& tables = result->ResultTables();
+    const TConditionContext context{*this, tables.IsEmpty() ? std::string_view()
+                                                            : tables[0].Table->TableName()};
+    AppendConditionText(context, condition, text);
+    return text;
+}
+
+TBoundSQL TQueryResult::GetBoundSQL(TPlaceholderStyle style, bool escapeWildcards) {
+    TBoundValues values(style, escapeWildcards);
+    TBoundSQL bound;
+    bound.text = BoundLines(values).Text();
+    bound.values = values.Take();
+    return bound;
+}
+
+TKLineBuffer TQueryResult::BoundLines(TBoundValues& values) {
+    if (resultTables.IsEmpty()) throw EKQueryPanelError(std::string(messages::NotBuiltProperly));
+    RequireSafeColumns();
+    const TBuildingState building(query);
+    TKLineBuffer statement;
+    AppendStatement(statement, TQueryBuild(query, &values).Conditions());
+    return statement;
+}
+
+void TQueryResult::RequireSafeColumns() const {
+    auto require = [](const std::string& text) {
+        if (!IsSafeFragment(text))
+            throw EKQueryPanelError(FormatMessage(messages::CanNotExecuteCondition, {text}));
+    };
+    for (const auto& field : resultFields)
+        require(field->GetSQLExpr());
+    require(orderByText);
+    require(groupByText);
+}
+
+std::string NestedBoundStatement(const TFilterCond& condition, TBoundValues& values) {
+    TKQuery& nested = *condition.NestedQuery();
+    nested.BuildQuery();
+    return nested.QResult().BoundLines(values).OnOneLine();
+}
+
+} // namespace tern7

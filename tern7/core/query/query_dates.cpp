@@ -1,0 +1,61 @@
+#include <tern7/core/query/query.h>
+
+namespace tern7 {
+
+namespace {
+
+constexpr std::string_view isoDate = "yyyy-mm-dd";
+constexpr std::string_view isoTime = "hh:nn:ss";
+
+std::string LocalText(const TKServices& services, TFieldType type, const TKDateTime& value) {
+    if (services.writeLocalDate) return services.writeLocalDate(type, value);
+    if (type == TFieldType::ftTime) return FormatDateTime(isoTime, value);
+    std::string text = FormatDateTime(isoDate, value);
+    if (type != TFieldType::ftDate) text += " " + FormatDateTime(isoTime, value);
+    return text;
+}
+
+std::optional<TKDateTime> ReadLocal(const TKServices& services, TFieldType type,
+                                    std::string_view text) {
+    TKDateTime value;
+    if (services.readLocalDate && services.readLocalDate(type, text, value)) return value;
+    return ParseIsoDateTime(text);
+}
+
+const std::string& FormatOf(const TSQLFormats& formats, TFieldType type) {
+    if (type == TFieldType::ftDate) return formats.Date();
+    if (type == TFieldType::ftTime) return formats.Time();
+    return formats.DateTime();
+}
+
+} // namespace
+
+std::string TKQuery::ProcessDateValue(TFieldType type, std::string_view value, bool toSQL) const {
+    if (!structure) return std::string(value);
+    const TSQLFormats& formats = structure->SQLFormats();
+    // Reading takes the date format for every type, times included; kept as applications know it.
+    const std::string& format = toSQL ? FormatOf(formats, type) : formats.Date();
+    if (format.empty()) return std::string(value);
+    const auto date = toSQL ? ReadLocal(Services, type, value) : ParseDateTime(format, Trim(value));
+    if (!date) return std::string(value);
+    if (toSQL) return FormatDateTime(format, *date);
+    return LocalText(Services, date->hasTime ? TFieldType::ftDateTime : TFieldType::ftDate, *date);
+}
+
+std::string TKQuery::SavedDateValue(TFieldType type, std::string_view value) const {
+    const auto date = ReadLocal(Services, type, value);
+    return date ? LocalText({}, TypeOf(*date, type), *date) : std::string(value);
+}
+
+std::string TKQuery::LoadedDateValue(TFieldType type, std::string_view value) const {
+    const auto date = ParseIsoDateTime(value);
+    return date ? LocalText(Services, TypeOf(*date, type), *date) : std::string(value);
+}
+
+TFieldType TKQuery::TypeOf(const TKDateTime& value, TFieldType declared) {
+    if (!value.hasTime) return TFieldType::ftDate;
+    if (!value.hasDate) return TFieldType::ftTime;
+    return declared == TFieldType::ftTimeStamp ? declared : TFieldType::ftDateTime;
+}
+
+} // namespace tern7

@@ -1,0 +1,144 @@
+#include <tern7/core/query/query_result.h>
+
+#include <algorithm>
+#include <unordered_set>
+
+#include <tern7/core/corekit/strings.h>
+#include <tern7/core/query/query.h>
+
+namespace tern7 {
+
+TQueryResult::TQueryResult(TKQuery& owner) : query(owner) {}
+
+TQueryResult::~TQueryResult() = default;
+
+TKCustomDBStructure* TQueryResult::DbStruct() const {
+    return query.DbStruct();
+}
+
+void TQueryResult::SetSQLOptions(TSQLOptions value) {
+    if (value == options) return;
+    options = value;
+    resultFields.asciiAliases = value.Contains(TSQLOption::soASCIIRFields);
+    resultFields.quoteAliases = value.Contains(TSQLOption::soQuoteAliases);
+    query.Changed();
+}
+
+void TQueryResult::SetSQLSyntax(TSQLSyntax value) {
+    if (value == syntax) return;
+    syntax = value;
+    query.Changed();
+}
+
+void TQueryResult::SetResultFields(const TRFieldList& list) {
+    resultFields.Assign(list);
+}
+
+void TQueryResult::DbStructChanged() {
+    resultTables.Clear();
+    conditions.Clear();
+    fromLines.Clear();
+    sql.Clear();
+    orderByText.clear();
+    groupByText.clear();
+}
+
+// --- parameters
+
+std::string TQueryResult::NewParamName() {
+    query.InstantiateNested();
+    const TParamNames& taken = *query.paramNames;
+    for (;; ++paramNumberBase) {
+        std::string name = "Param" + std::to_string(params.GetCount() + paramNumberBase + 1);
+        if (!taken.contains(LowerCase(name))) return name;
+    }
+}
+
+TSQLParam* TQueryResult::AddParameter(TFilterCond& condition) {
+    return AddParameter(condition, condition.Param(1) ? 2 : 1);
+}
+
+TSQLParam* TQueryResult::AddParameter(TFilterCond& condition, int valueNumber) {
+    auto param = std::make_unique<TSQLParam>(condition, valueNumber);
+    param->name = NewParamName();
+    param->names = query.paramNames;
+    query.paramNames->insert(LowerCase(param->name));
+    TSQLParam* added = params.Add(std::move(param));
+    (valueNumber == 1 ? condition.values[0] : condition.values[1]).param = added;
+    UpdateParamCaptions(condition);
+    query.ParametersListChanged();
+    return added;
+}
+
+void TQueryResult::UpdateParamCaptions(TFilterCond& condition) {
+    const TDSField* field = condition.Field();
+    const std::string base = (field ? field->DisplayName() : std::string()) + " param";
+    const bool both = condition.Param(1) && condition.Param(2);
+    for (int n = 1; n <= 2; ++n) {
+        TSQLParam* param = condition.Param(n);
+        if (param && param->generated)
+            param->caption = both ? base + " " + std::to_string(n) : base;
+    }
+}
+
+TSQLParam* TQueryResult::FindParameter(std::string_view name) const {
+    for (const auto& param : params)
+        if (SameText(param->Name(), name)) return param.get();
+    return nullptr;
+}
+
+TSQLParam* TQueryResult::FindParameterByCondition(const TFilterCond& condition) const {
+    for (const auto& param : params)
+        if (param->Condition() == &condition) return param.get();
+    return nullptr;
+}
+
+void TQueryResult::DeleteParameters(TFilterCond& condition) {
+    std::vector<TSQLParam*> gone;
+    for (int n = 2; n >= 1; --n)
+        if (TSQLParam* param = condition.Param(n)) gone.push_back(param);
+    if (gone.empty()) return;
+    TakeParams(gone);
+    query.ParametersListChanged();
+}
+
+void TQueryResult::DeleteParameter(TSQLParam* param) {
+    if (params.IndexOf(param) < 0) return;
+    TFilterCond& condition = *param->Condition();
+    TakeParams({param});
+    UpdateParamCaptions(condition);
+    query.ParametersListChanged();
+}
+
+void TQueryResult::ClearParams() {
+    if (params.IsEmpty()) return;
+    std::vector<TSQLParam*> all;
+    for (const auto& param : params)
+        all.push_back(param.get());
+    TakeParams(all);
+    query.ParametersListChanged();
+}
+
+std::vector<std::unique_ptr<TSQLParam>>
+TQueryResult::TakeParams(const std::vector<TSQLParam*>& wanted) {
+    const std::unordered_set<const TSQLParam*> gone(wanted.begin(), wanted.end());
+    std::vector<std::unique_ptr<TSQLParam>> taken, kept;
+    for (auto& param : params.items) {
+        if (!gone.contains(param.get())) {
+            kept.push_back(std::move(param));
+            continue;
+        }
+        TFilterCond::TValue& value = param->condition->values[param->valueNumber - 1];
+        if (value.param == param.get()) value.param = nullptr;
+        taken.push_back(std::move(param));
+    }
+    params.items = std::move(kept);
+    return taken;
+}
+
+void TQueryResult::PutParam(std::unique_ptr<TSQLParam> param) {
+    param->condition->values[param->valueNumber - 1].param = param.get();
+    params.items.push_back(std::move(param));
+}
+
+} // namespace tern7

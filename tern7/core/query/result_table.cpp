@@ -1,0 +1,92 @@
+#include <tern7/core/query/result_table.h>
+
+#include <tern7/core/corekit/strings.h>
+#include <tern7/core/global/errors.h>
+#include <tern7/core/global/messages.h>
+#include <tern7/core/structure/link.h>
+#include <tern7/core/structure/table.h>
+
+namespace tern7 {
+
+const std::vector<int>& TRTableList::Order() const {
+    if (!orderKnown) {
+        order.clear();
+        for (int node = first; node >= 0; node = nodes[static_cast<size_t>(node)].next)
+            order.push_back(node);
+        orderKnown = true;
+    }
+    return order;
+}
+
+const TResultTable& TRTableList::GetItem(int index) const {
+    return nodes[static_cast<size_t>(Order().at(static_cast<size_t>(index)))].entry;
+}
+
+void TRTableList::Join(TDSTable* table, TDSLink* link) {
+    int behind = last;
+    if (link) {
+        const auto other = nodeOf.find(link->OtherTable(table));
+        if (other == nodeOf.end())
+            throw EKQueryPanelError(std::string(messages::WrongResultTableLink));
+        behind = other->second;
+    }
+    const int node = static_cast<int>(nodes.size());
+    int& next = behind < 0 ? first : nodes[static_cast<size_t>(behind)].next;
+    const int rest = next;
+    next = node;
+    nodes.push_back({{table, link}, rest});
+    if (rest < 0) last = node;
+    nodeOf.try_emplace(table, node);
+    orderKnown = false;
+}
+
+int TRTableList::Add(TDSTable* table, TDSLink* link) {
+    Join(table, link);
+    const int node = static_cast<int>(nodes.size()) - 1;
+    const std::vector<int>& all = Order();
+    int index = 0;
+    while (all[static_cast<size_t>(index)] != node)
+        ++index;
+    return index;
+}
+
+int TRTableList::IndexOf(const TDSTable* table) const {
+    if (!Contains(table)) return -1;
+    int index = 0;
+    for (int node : Order()) {
+        if (nodes[static_cast<size_t>(node)].entry.Table == table) return index;
+        ++index;
+    }
+    return -1;
+}
+
+const TResultTable* TRTableList::Find(std::string_view name) const {
+    for (int node : Order()) {
+        const TResultTable& entry = nodes[static_cast<size_t>(node)].entry;
+        if (SameText(entry.Table->TableName(), name)) return &entry;
+    }
+    return nullptr;
+}
+
+void TRTableList::Delete(int index) {
+    const std::vector<int> all = Order();
+    const int gone = all.at(static_cast<size_t>(index));
+    const std::vector<TNode> old = std::move(nodes);
+    Clear();
+    for (int node : all) {
+        if (node == gone) continue;
+        const TResultTable& entry = old[static_cast<size_t>(node)].entry;
+        Join(entry.Table, nullptr);
+        nodes.back().entry.Link = entry.Link;
+    }
+}
+
+void TRTableList::Clear() {
+    nodes.clear();
+    nodeOf.clear();
+    order.clear();
+    first = last = -1;
+    orderKnown = true;
+}
+
+} // namespace tern7
