@@ -28,6 +28,16 @@ inline constexpr std::string_view NoDatabaseInfo = "DatabaseInfo is not specifie
 inline constexpr std::string_view UnrecognizedField = "Unrecognized field";
 inline constexpr std::string_view UnrecognizedOperator = "Unrecognized operator";
 
+inline constexpr std::string_view IDGivenTwice =
+    "The ID %d of field \"%s\" can not be used; the field got the ID %d";
+inline constexpr std::string_view AliasGivenTwice =
+    "The alias \"%s\" is used more than once; the later table got the alias \"%s\"";
+inline constexpr std::string_view UnknownGroupField =
+    "The group \"%s\" names a field with the ID %d that does not exist";
+inline constexpr std::string_view NewerVersion =
+    "The text has the version %s; what is newer than %s was not read";
+inline constexpr std::string_view NoUTF8 = "The text is not UTF-8; it was read as Windows-1252";
+
 // structure editor
 inline constexpr std::string_view AskDeleteTable = "Delete table?";
 inline constexpr std::string_view AskDeleteField = "Delete field?";

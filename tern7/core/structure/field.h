@@ -116,6 +116,7 @@ private:
     friend class TDSFieldGroup;
     friend class TDSFieldGroupList;
     friend class TKStructureReader;
+    friend class TKStructureWriter;
     class TKeyChange;
     struct TPrefixTables {
         uint64_t revision = 0;

@@ -92,6 +92,7 @@ protected:
 
 private:
     friend class TDSFieldGroup;
+    friend class TKCustomDBStructure;
     TKCustomDBStructure& structure;
     mutable TDSLookup<TDSFieldGroup> names;
     bool appending = false; // Changed() need not drop the lookup

@@ -159,7 +159,9 @@ public:
     // --- text form
     /// Warnings of the last reading, in words: newer version, repeated IDs, other encoding.
     const TStrings& LoadWarnings() const { return loadWarnings; }
-    /// Reads a structure text. On any error EKDBStructError, and this structure is as it was.
+    /// Reads a structure text: it replaces tables, fields, groups, links, operators and the default
+    /// main table; SQL formats only when the text has some. On any error EKDBStructError, and this
+    /// structure is as it was. Linear in the text.
     void SetStructString(std::string_view text);
     std::string GetStructString() const;
     void LoadFromStrings(const TStrings& lines);
@@ -212,6 +214,7 @@ private:
     friend class TDSFieldGroup;
     friend class TDSFieldGroupList;
     friend class TKStructureReader;
+    friend class TKStructureWriter;
     class TReferencesReleased; // releases the observers' references while it lives
 
     struct TIndexes;   // lookups, built when first asked and kept up to date
@@ -231,9 +234,11 @@ private:
     int NextID();
     std::string UniqueAlias(const std::string& wish) const;
     std::string DefaultCaption(std::string_view name, std::string_view otherwise) const;
+    void FillDefOperator(TDSOperator& op, size_t row) const;
     void AddDefOperator(size_t row, bool update);
     std::shared_ptr<std::vector<TDSOperator*>> AppliedOperators(TFieldType type);
-    void Adopt(TContent& content);
+    std::unique_ptr<TContent> ReadText(std::string_view text);
+    void Adopt(std::unique_ptr<TContent> content);
 
     TKObjectList<TDSTable> tables;
     TKObjectList<TDSField> fields;
@@ -253,7 +258,9 @@ private:
     std::unique_ptr<TDSField> placeholderField;
     std::unique_ptr<TDSOperator> placeholderOperator;
     TStrings loadWarnings;
-    int lastID = 0; // the highest ID ever given or read
+    TStrings databaseLines; // of a text that was read without DatabaseInfo
+    int lastID = 0;         // the highest ID ever given or read
+    int freeID = 1;         // the IDs below are used, when lastID can not rise any more
     uint32_t lastFieldOrder = 0;
     uint32_t lastOperatorOrder = 0;
     int updateNesting = 0;

@@ -10,10 +10,9 @@ namespace tern7 {
 int TKCustomDBStructure::NextID() {
     if (lastID < std::numeric_limits<int>::max()) return ++lastID;
     // a file used up the numbers: the first free one
-    int id = 1;
-    while (FieldByID(id))
-        ++id;
-    return id;
+    while (FieldByID(freeID))
+        ++freeID;
+    return freeID++;
 }
 
 void TKCustomDBStructure::List(TDSField* field) {

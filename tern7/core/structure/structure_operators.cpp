@@ -118,18 +118,28 @@ std::string TKCustomDBStructure::DefaultCaption(std::string_view name,
     return std::string(line < 0 ? otherwise : LineValue(defOperators[static_cast<size_t>(line)]));
 }
 
+void TKCustomDBStructure::FillDefOperator(TDSOperator& op, size_t row) const {
+    const TDefaultOperator& wanted = DefaultOperators[row];
+    op.name = wanted.name;
+    op.displayName = DefaultCaption(wanted.name, wanted.caption);
+    op.sqlTemplate.SetText(std::string(wanted.sqlTemplate));
+    op.valFormat = wanted.valFormat;
+    op.appliedTypes = wanted.appliedTypes;
+    if (wanted.valueType != TOpValueType::vtScalar) op.valueType = wanted.valueType;
+}
+
 // The operator of one row of the table of defaults; one that exists is overwritten in place, or
 // with `update` false left alone.
 void TKCustomDBStructure::AddDefOperator(size_t row, bool update) {
-    const TDefaultOperator& wanted = DefaultOperators[row];
-    TDSOperator* op = OperatorByName(wanted.name);
+    TDSOperator* op = OperatorByName(DefaultOperators[row].name);
     if (op && !update) return;
-    if (!op) op = AddOperator(std::string(wanted.name));
-    op->SetDisplayName(DefaultCaption(wanted.name, wanted.caption));
-    op->SetSQLName(std::string(wanted.sqlTemplate));
-    op->SetValFormat(std::string(wanted.valFormat));
-    op->SetAppliedTypes(wanted.appliedTypes);
-    if (wanted.valueType != TOpValueType::vtScalar) op->SetValueType(wanted.valueType);
+    if (!op) op = AddOperator(std::string(DefaultOperators[row].name));
+    {
+        TDSOperator::TKeyChange change(*op);
+        FillDefOperator(*op, row);
+    }
+    indexes->DropApplied();
+    Changed();
 }
 
 void TKCustomDBStructure::AddDefOperators(bool update) {

@@ -77,6 +77,7 @@ public:
     void Refresh() override;
 
 private:
+    friend class TKStructureReader;
     TKCustomDBStructure& structure;
     TStrings params;
     bool opened = false;

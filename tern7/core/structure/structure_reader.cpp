@@ -1,0 +1,169 @@
+#include <tern7/core/structure/structure_reader.h>
+
+#include <charconv>
+#include <limits>
+
+#include <tern7/core/corekit/comma_text.h>
+#include <tern7/core/corekit/numbers.h>
+#include <tern7/core/global/messages.h>
+#include <tern7/core/structure/default_operators.h>
+#include <tern7/core/structure/structure_format.h>
+
+namespace tern7 {
+
+TKStructureReader::TKStructureReader(TKCustomDBStructure& owner, std::string_view text)
+    : structure(owner), ini(text), content(std::make_unique<TContent>()) {}
+
+std::unique_ptr<TKCustomDBStructure::TContent> TKStructureReader::Read() {
+    const TKIniSection* main = Next(structure_format::MainSection);
+    if (!main) FailSection(structure_format::MainSection);
+    ReadMain(*main);
+    ReadOperators(Count(*main, "OperatCount"));
+    MergeDefaults(); // before the fields, which may name them
+    ReadTables(Count(*main, "TableCount"));
+    ReadFields(Count(*main, "FieldCount"));
+    ReadGroups(Count(*main, "FieldGroups"));
+    if (const TKIniSection* section = Next(structure_format::DatabaseSection))
+        ReadDatabaseLines(*section);
+    if (const TKIniSection* section = Next(structure_format::FormatsSection)) ReadFormats(*section);
+    return std::move(content);
+}
+
+// --- sections and values
+
+// Sections mostly stand in the order in which they are asked for.
+const TKIniSection* TKStructureReader::Next(std::string_view name) {
+    const TKIniSection* section = nullptr;
+    if (cursor < ini.Sections().size() && SameText(ini.Sections()[cursor].Name(), name))
+        section = &ini.Sections()[cursor];
+    else
+        section = ini.Find(name);
+    if (section) cursor = ini.PositionOf(*section) + 1;
+    return section;
+}
+
+const TKIniSection& TKStructureReader::Numbered(std::string_view prefix, int number,
+                                                std::string_view suffix) {
+    char digits[16];
+    const auto end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    nameBuffer.assign(prefix).append(digits, end).append(suffix);
+    const TKIniSection* section = Next(nameBuffer);
+    if (!section) FailSection(nameBuffer);
+    return *section;
+}
+
+void TKStructureReader::FailSection(std::string_view name) {
+    throw EKDBStructError(FormatMessage(messages::SectionNotFound, {name}));
+}
+
+void TKStructureReader::FailValue(const TKIniSection& section, std::string_view key,
+                                  std::string_view value) {
+    throw EKDBStructError(FormatMessage(messages::WrongValueOfKey, {key, section.Name(), value}));
+}
+
+int TKStructureReader::Count(const TKIniSection& main, std::string_view key) const {
+    return Ordinal(main, key, std::numeric_limits<int>::max());
+}
+
+// An integer from 0 to below count.
+int TKStructureReader::Ordinal(const TKIniSection& section, std::string_view key, int count) {
+    const int value = section.Int(key);
+    if (value < 0 || value >= count) FailValue(section, key, std::to_string(value));
+    return value;
+}
+
+TStrings TKStructureReader::List(const TKIniSection& section, std::string_view key) {
+    return ParseCommaText(section.Text(key));
+}
+
+void TKStructureReader::Warn(std::string_view message,
+                             std::initializer_list<std::string_view> arguments) {
+    content->warnings.push_back(FormatMessage(message, arguments));
+}
+
+// --- main
+
+void TKStructureReader::ReadMain(const TKIniSection& main) {
+    if (const std::string_view version = Trim(main.Raw("Version")); !version.empty()) {
+        content->version = XStrToFloat(version, -1);
+        if (content->version < 0) FailValue(main, "Version", version);
+        if (content->version > structure_format::Version)
+            Warn(messages::NewerVersion, {version, XFloatToStr(structure_format::Version)});
+    }
+    content->defaultMainTable = main.Text("DefaultMainTable");
+    content->rootFieldsFirst = main.Bool("RootFieldsFirst");
+}
+
+void TKStructureReader::ReadFormats(const TKIniSection& section) {
+    TSQLFormats formats;
+    formats.SetDate(section.Text("Date"));
+    formats.SetTime(section.Text("Time"));
+    formats.SetDateTime(section.Text("DateTime"));
+    auto symbol = [&](std::string_view key) {
+        if (!section.Has(key) && !section.Has(std::string(key) + ".Encoded")) return '"';
+        const std::string value = section.Text(key);
+        if (value.size() > 1) FailValue(section, key, value);
+        return value.empty() ? '\0' : value[0];
+    };
+    formats.SetQuoteSymbol1(symbol("QuoteSymbol1"));
+    formats.SetQuoteSymbol2(symbol("QuoteSymbol2"));
+    content->formats = formats;
+}
+
+void TKStructureReader::ReadDatabaseLines(const TKIniSection& section) {
+    for (const std::string& line : section.Lines())
+        content->databaseLines.emplace_back(UnprotectBodyLine(line));
+}
+
+// --- operators
+
+void TKStructureReader::ReadOperators(int count) {
+    for (int number = 1; number <= count; ++number) {
+        const std::string formerName = "Operation:" + std::to_string(number);
+        const bool former = !ini.Find("Operator:" + std::to_string(number)) && ini.Find(formerName);
+        auto op = std::make_unique<TDSOperator>(structure);
+        ReadOperator(Numbered(former ? "Operation:" : "Operator:", number), *op);
+        AddOperator(std::move(op));
+    }
+}
+
+void TKStructureReader::ReadOperator(const TKIniSection& section, TDSOperator& op) {
+    op.name = section.Text("Name");
+    if (SameText(op.name, "EqualTo")) op.name = "Equal"; // its name in early files
+    op.displayName = section.Text("DisplayName");
+    op.sqlTemplate.SetText(section.Text("SQLName"));
+    op.valFormat = section.Text("ValFormat");
+    const std::string_view exprType = Trim(section.Raw("ExprType"));
+    if (!exprType.empty() && !SameText(exprType, structure_format::SameAsField)) {
+        op.exprType = StrToFldType(exprType);
+        if (!op.exprType) FailValue(section, "ExprType", exprType);
+    }
+    if (section.Has("AppliedTypes")) op.appliedTypes = StrToFieldTypes(section.Raw("AppliedTypes"));
+    if (const std::string_view type = Trim(section.Raw("ValueType")); !type.empty()) {
+        const auto known = StrToOpValueType(type);
+        if (!known) FailValue(section, "ValueType", type);
+        op.valueType = *known;
+    } else if (section.Bool("ValueIsList")) {
+        op.valueType = TOpValueType::vtList;
+    }
+}
+
+void TKStructureReader::AddOperator(std::unique_ptr<TDSOperator> op) {
+    op->order = static_cast<uint32_t>(content->operators.GetCount()) + 1;
+    operatorNames.try_emplace(op->name, op.get());
+    content->operators.Add(std::move(op));
+}
+
+void TKStructureReader::MergeDefaults() {
+    for (size_t row = 0; row < DefaultOperators.size(); ++row) {
+        const TDefaultOperator& wanted = DefaultOperators[row];
+        if (operatorNames.count(wanted.name) ||
+            (wanted.optional && !structure.exOperators.Contains(*wanted.optional)))
+            continue;
+        auto op = std::make_unique<TDSOperator>(structure);
+        structure.FillDefOperator(*op, row);
+        AddOperator(std::move(op));
+    }
+}
+
+} // namespace tern7
