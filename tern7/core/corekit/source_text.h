@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace tern7 {
+
+/// A place in a text, counted from 1; columns are characters.
+struct TKTextPosition {
+    int line = 1, column = 1;
+};
+
+/// A text that views point into: it never changes, and is shared by whoever holds views.
+class TKSourceText {
+public:
+    /// EKTernError when the text has 4 GB or more.
+    explicit TKSourceText(std::string source);
+    TKSourceText(const TKSourceText&) = delete;
+    TKSourceText& operator=(const TKSourceText&) = delete;
+
+    std::string_view Text() const { return text; }
+    /// The same bytes with A to Z in lower case.
+    std::string_view Lower() const { return lower; }
+    /// True for a view into Text().
+    bool Owns(std::string_view piece) const;
+    /// CR LF, LF and CR end a line. Linear in the text before the offset.
+    TKTextPosition PositionOf(size_t offset) const;
+
+private:
+    std::string text;
+    std::string lower;
+};
+
+} // namespace tern7
