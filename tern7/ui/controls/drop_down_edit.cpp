@@ -148,6 +148,10 @@ void TDropDownEdit::CreateControl() {
     });
 }
 
+TSilentEdit* TDropDownEdit::Edit() const {
+    return edit;
+}
+
 QWidget* TDropDownEdit::EditControl() const {
     EnsureControl();
     return edit;

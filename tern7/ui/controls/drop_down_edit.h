@@ -91,7 +91,7 @@ protected:
     QString GetEditText() const override;
     void SetEditText(const QString& text) override;
 
-    TSilentEdit* Edit() const { return edit; }
+    TSilentEdit* Edit() const;
 
 private:
     QPointer<TSilentEdit> edit;
