@@ -120,9 +120,6 @@ public:
     /// Between the local form of a date or time and the structure's SQL form. A text that is no
     /// date comes back as it is.
     std::string ProcessDateValue(TFieldType type, std::string_view value, bool toSQL) const;
-    /// A date or time as query texts keep it, whatever the local form, and back.
-    std::string SavedDateValue(TFieldType type, std::string_view value) const;
-    std::string LoadedDateValue(TFieldType type, std::string_view value) const;
     /// The text of one condition; empty when it is unfinished.
     std::string ConditionText(const TFilterCond& condition) const;
 
@@ -143,6 +140,8 @@ public:
     void SetQueryString(std::string_view text);
     void SaveToFile(const std::string& fileName);
     void LoadFromFile(const std::string& fileName);
+    /// What the last reading met without failing, in words: a newer version, another encoding.
+    const TStrings& LoadWarnings() const { return loadWarnings; }
 
     // --- state and notification
     bool Active() const { return active; }
@@ -226,7 +225,6 @@ private:
         }
     }
     void EverythingChanged();
-    static TFieldType TypeOf(const TKDateTime& value, TFieldType declared);
     bool Listening() const { return active && updateNesting == 0; }
     void InstantiateNested();
     void EnsureNumbered() const;
@@ -249,6 +247,7 @@ private:
     std::string queryName;
     std::string mainTableName;
     double formatVersion = 3.3;
+    TStrings loadWarnings;
     TQPStyle style = TQPStyle::psGroups;
     TKBuilderState state = TKBuilderState::stIdle;
     bool active = true;

@@ -42,20 +42,4 @@ std::string TKQuery::ProcessDateValue(TFieldType type, std::string_view value, b
     return LocalText(Services, date->hasTime ? TFieldType::ftDateTime : TFieldType::ftDate, *date);
 }
 
-std::string TKQuery::SavedDateValue(TFieldType type, std::string_view value) const {
-    const auto date = ReadLocal(Services, type, value);
-    return date ? LocalText({}, TypeOf(*date, type), *date) : std::string(value);
-}
-
-std::string TKQuery::LoadedDateValue(TFieldType type, std::string_view value) const {
-    const auto date = ParseIsoDateTime(value);
-    return date ? LocalText(Services, TypeOf(*date, type), *date) : std::string(value);
-}
-
-TFieldType TKQuery::TypeOf(const TKDateTime& value, TFieldType declared) {
-    if (!value.hasTime) return TFieldType::ftDate;
-    if (!value.hasDate) return TFieldType::ftTime;
-    return declared == TFieldType::ftTimeStamp ? declared : TFieldType::ftDateTime;
-}
-
 } // namespace tern7

@@ -18,6 +18,7 @@ class TKCustomDBStructure;
 class TKQuery;
 class TQueryResult;
 class TRFieldList;
+struct TRFieldListText;
 
 /// One column of the result: a formula over structure fields. Owned by its list (by whoever took it
 /// out, while it is out).
@@ -164,6 +165,8 @@ public:
     std::string GetCaption() const;
     /// Copies flags and fields of another list.
     void Assign(const TRFieldList& source);
+    /// Replaces the list by columns that were read.
+    void Assign(const TRFieldListText& text);
 
     /// The sections [RFields], [RField0] ... of a query text.
     void LoadFromStrings(const TStrings& lines);

@@ -1,0 +1,203 @@
+#include <tern7/core/query/query_rows_text.h>
+
+#include <algorithm>
+
+#include <tern7/core/corekit/ini_text.h>
+#include <tern7/core/corekit/numbers.h>
+#include <tern7/core/global/messages.h>
+#include <tern7/core/query/query.h>
+#include <tern7/core/query/query_text.h>
+#include <tern7/core/query/query_text_keys.h>
+
+namespace tern7 {
+
+namespace {
+
+constexpr size_t maxLevel = 1000;
+
+constexpr std::string_view valueKeys[] = {"Value1", "Value2"};
+constexpr std::string_view paramKeys[] = {"Param1", "Param2"};
+constexpr std::string_view formatKeys[] = {"VFormat1", "VFormat2"};
+constexpr std::string_view captionKeys[] = {"Caption1", "Caption2"};
+
+bool IsRowSection(std::string_view name) {
+    return name.size() > 3 && StartsText(name, "Row") &&
+           std::all_of(name.begin() + 3, name.end(), IsDigit);
+}
+
+class TRowsParser {
+public:
+    TRowsParser(double formatVersion, const TKQuery& owner)
+        : version(formatVersion), query(owner), structure(owner.RequireStruct()) {}
+
+    std::vector<TRowText> Parse(const TKIniText& text);
+
+private:
+    TRowText ParseRow(const TKIniSection& section) const;
+    void ParseCondition(const TKIniSection& section, TRowText& row) const;
+    void ParseField(const TKIniSection& section, TRowText& row) const;
+    void ParseOperator(const TKIniSection& section, TRowText& row) const;
+    void ParseValue(const TKIniSection& section, TRowText& row, int slot) const;
+    [[noreturn]] void RaiseMissingRow() const;
+
+    double version;
+    const TKQuery& query;
+    const TKCustomDBStructure& structure;
+    std::vector<TRowText> rows;
+};
+
+std::vector<TRowText> TRowsParser::Parse(const TKIniText& text) {
+    std::vector<int> open; // rows that the brackets around still expect, the root's first
+    const TKIniSection* root = nullptr;
+    for (const TKIniSection& section : text.Sections()) {
+        if (!IsRowSection(section.Name())) continue;
+        if (root && open.empty()) RaiseWrongValue(*root, "RowCount"); // it says fewer
+        rows.push_back(ParseRow(section));
+        const TRowText& row = rows.back();
+        if (!root) {
+            if (!row.isBracket) RaiseWrongValue(section, "RowType");
+            root = &section;
+        } else {
+            --open.back();
+            if (row.isBracket && open.size() > maxLevel)
+                throw EKQueryPanelError(std::string(messages::NestedTooDeep));
+        }
+        if (row.isBracket) open.push_back(row.rowCount);
+        while (!open.empty() && open.back() == 0)
+            open.pop_back();
+    }
+    if (!root || !open.empty()) RaiseMissingRow();
+    return std::move(rows);
+}
+
+void TRowsParser::RaiseMissingRow() const {
+    // rows are numbered depth first: the first gap is what is missing
+    int missing = 0;
+    for (const TRowText& row : rows)
+        if (row.id == missing) ++missing;
+    RaiseSectionNotFound("Row" + std::to_string(missing));
+}
+
+TRowText TRowsParser::ParseRow(const TKIniSection& section) const {
+    TRowText row;
+    const int number = static_cast<int>(rows.size());
+    row.id = XStrToInt(section.Name().substr(3), number);
+    row.enabled = section.Bool("Enabled", true);
+    row.isBracket = IntInRange(section, "RowType", number == 0 ? 1 : 0, 0, 1) == 1;
+    if (row.isBracket) {
+        row.linkType = static_cast<TFilterLinkType>(IntInRange(section, "LinkType", 0, 0, 3));
+        row.rowCount = IntInRange(section, "RowCount", 0, 0, INT_MAX);
+    } else {
+        ParseCondition(section, row);
+    }
+    return row;
+}
+
+void TRowsParser::ParseCondition(const TKIniSection& section, TRowText& row) const {
+    ParseField(section, row);
+    ParseOperator(section, row);
+    ParseValue(section, row, 0);
+    ParseValue(section, row, 1);
+    row.subQuery = DecodePercent(section.Raw("SubQuery"));
+    const int options = SQLOptionsToInt(DefaultSQLOptions);
+    row.subQueryOptions =
+        IntToSQLOptions(IntInRange(section, "SubQueryOptions", options, 0, INT_MAX));
+    row.sqlText = section.Text("SQLText");
+}
+
+void TRowsParser::ParseField(const TKIniSection& section, TRowText& row) const {
+    if (version < 2.0) {
+        row.fieldName = section.Text("FldName");
+        row.field = version < 1.4 ? structure.FieldByFullName(row.fieldName)
+                                  : structure.FieldBySQLExpr(row.fieldName);
+        return;
+    }
+    row.fieldID = section.Int("FieldID", -1);
+    row.field = structure.FieldByID(row.fieldID);
+    if (!row.field) row.fieldName = section.Text("FldName"); // a name of old, kept
+}
+
+void TRowsParser::ParseOperator(const TKIniSection& section, TRowText& row) const {
+    row.operatorName = section.Text("Operator");
+    row.op = structure.OperatorByName(row.operatorName);
+}
+
+void TRowsParser::ParseValue(const TKIniSection& section, TRowText& row, int slot) const {
+    TRowText::TValue& value = row.values[slot];
+    value.text = section.Text(valueKeys[slot]);
+    if (version < 1.2) return;
+    value.isParam = section.Bool(paramKeys[slot]);
+    if (!row.op || row.op->ValueType() != TOpValueType::vtSubQuery) {
+        TFieldType type = row.field ? row.field->FieldType() : TFieldType::ftUnknown;
+        if (row.op && row.op->ExprType()) type = *row.op->ExprType();
+        const bool isList = row.op && row.op->ValueType() == TOpValueType::vtList;
+        value.text = LoadValue(query.Services, type, isList, value.text);
+    }
+    if (value.isParam) value.format = section.Text(formatKeys[slot]);
+    if (version < 2.1) return;
+    value.caption = section.Text(captionKeys[slot]);
+    value.hasCaption = !value.caption.empty() || section.Has(captionKeys[slot]);
+}
+
+void AddCondition(TFilterCond& condition, TRowText& row) {
+    if (row.field)
+        condition.SetField(row.field);
+    else
+        condition.SetUnknownField(row.fieldID, std::move(row.fieldName));
+    if (row.op)
+        condition.SetOperator(row.op);
+    else if (!row.operatorName.empty() || !row.sqlText.empty())
+        condition.SetUnknownOperator(std::move(row.operatorName));
+    if (!condition.IsRecognized()) condition.SetSQLText(std::move(row.sqlText));
+    for (int n = 1; n <= 2; ++n) {
+        TRowText::TValue& value = row.values[n - 1];
+        condition.SetValue(n, std::move(value.text), value.isParam ? "" : value.caption);
+        condition.SetValueIsParam(n, value.isParam);
+    }
+    // behind both flags: the second parameter gives the first one another caption
+    for (int n = 1; n <= 2; ++n) {
+        TRowText::TValue& value = row.values[n - 1];
+        TSQLParam* param = condition.Param(n);
+        if (!param) continue;
+        if (!value.format.empty()) param->SetValueFormat(std::move(value.format));
+        if (value.hasCaption) param->SetCaption(std::move(value.caption));
+    }
+    condition.SetSubQuery(std::move(row.subQuery), row.subQueryOptions);
+}
+
+} // namespace
+
+std::vector<TRowText> ParseRows(const TKIniText& text, double version, const TKQuery& query) {
+    return TRowsParser(version, query).Parse(text);
+}
+
+void AddRows(TKQuery& query, std::vector<TRowText> rows) {
+    struct TOpen {
+        TFilterBracket* bracket;
+        int missing;
+    };
+    std::vector<TOpen> open;
+    for (TRowText& row : rows) {
+        while (!open.empty() && open.back().missing == 0)
+            open.pop_back();
+        TFilterRow* added = &query.Root();
+        if (!open.empty()) {
+            TFilterBracket& parent = *open.back().bracket;
+            --open.back().missing;
+            if (row.isBracket)
+                added = parent.AddBracket();
+            else
+                added = parent.AddCond();
+        }
+        if (TFilterBracket* bracket = added->AsBracket()) {
+            bracket->SetLinkType(row.linkType);
+            open.push_back({bracket, row.rowCount});
+        } else {
+            AddCondition(*added->AsCond(), row);
+        }
+        added->SetEnabled(row.enabled);
+        added->SetRowID(row.id);
+    }
+}
+
+} // namespace tern7

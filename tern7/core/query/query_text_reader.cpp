@@ -1,0 +1,161 @@
+#include <cmath>
+#include <limits>
+#include <optional>
+
+#include <tern7/core/corekit/files.h>
+#include <tern7/core/corekit/ini_text.h>
+#include <tern7/core/corekit/numbers.h>
+#include <tern7/core/global/messages.h>
+#include <tern7/core/query/query.h>
+#include <tern7/core/query/query_rows_text.h>
+#include <tern7/core/query/query_state.h>
+#include <tern7/core/query/query_text.h>
+#include <tern7/core/query/query_text_keys.h>
+#include <tern7/core/query/query_titles.h>
+#include <tern7/core/query/result_field_text.h>
+
+namespace tern7 {
+
+namespace {
+
+/// A query text, checked: what is left to do can not fail.
+struct TQueryText {
+    std::optional<TStrings> titles;
+    std::string queryName;
+    double version = FirstQueryTextVersion;
+    std::optional<TSQLOptions> options;
+    std::optional<std::string> mainTable;
+    TStrings description, userData;
+    TRFieldListText resultFields;
+    std::vector<TRowText> rows;
+    TStrings warnings;
+};
+
+double ParseVersion(const TKIniSection& main) {
+    const std::string_view text = Trim(main.Raw("Version"));
+    if (text.empty()) return FirstQueryTextVersion;
+    const double version = XStrToFloat(text, std::numeric_limits<double>::quiet_NaN());
+    if (!std::isfinite(version) || version < 1) RaiseWrongValue(main, "Version");
+    return version;
+}
+
+void ParseMain(const TKIniText& text, TQueryText& query) {
+    const TKIniSection* main = text.Find("Main");
+    if (!main) RaiseSectionNotFound("Main");
+    query.queryName = main->Text("QueryName");
+    query.version = ParseVersion(*main);
+    if (!Trim(main->Raw("Options")).empty())
+        query.options = IntToSQLOptions(IntInRange(*main, "Options", 0, 0, INT_MAX));
+    if (main->Has("MainTable") || main->Has("MainTable.Encoded"))
+        query.mainTable = main->Text("MainTable");
+    if (query.version > QueryTextVersion)
+        query.warnings.push_back(FormatMessage(
+            messages::NewerVersion, {XFloatToStr(query.version), XFloatToStr(QueryTextVersion)}));
+}
+
+TStrings ParseBody(const TKIniText& text, std::string_view name) {
+    TStrings lines;
+    if (const TKIniSection* section = text.Find(name)) lines = section->Lines();
+    for (std::string& line : lines)
+        line.erase(0, line.size() - UnprotectBodyLine(line).size());
+    return lines;
+}
+
+TQueryText ParseQueryText(std::string_view text, const TKQuery& query) {
+    const TKIniText sections(text);
+    TQueryText parsed;
+    if (query.SaveTitles)
+        parsed.titles = ParseQueryTitles(sections, query.FormatVersion(), query.Titles);
+    ParseMain(sections, parsed);
+    parsed.description = ParseBody(sections, "Description");
+    parsed.userData = ParseBody(sections, "UserData");
+    parsed.resultFields = ParseResultFields(sections);
+    parsed.rows = ParseRows(sections, parsed.version, query);
+    return parsed;
+}
+
+std::string_view WithoutMark(std::string_view text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (text.starts_with(mark)) text.remove_prefix(mark.size());
+    return text;
+}
+
+} // namespace
+
+/// Reads a text into a query: checks all of it first, then replaces what the query holds.
+class TKQueryTextReader {
+public:
+    explicit TKQueryTextReader(TKQuery& owner) : query(owner) {}
+    void Read(std::string_view text, TStrings warnings = {});
+
+private:
+    void Take(TQueryText text);
+    TKQuery& query;
+};
+
+void TKQueryTextReader::Read(std::string_view text, TStrings warnings) {
+    query.RequireStruct();
+    const bool wasActive = query.Active();
+    query.SetActive(false); // and so it stays when the reading fails
+    {
+        const TBuilderStateScope loading(query, TKBuilderState::stLoading);
+        text = WithoutMark(text);
+        if (text.empty()) {
+            query.ClearAll();
+            query.loadWarnings = std::move(warnings);
+        } else {
+            TQueryText parsed = AsQueryError([&] { return ParseQueryText(text, query); });
+            parsed.warnings.insert(parsed.warnings.begin(), warnings.begin(), warnings.end());
+            Take(std::move(parsed));
+        }
+    }
+    query.SetActive(wasActive);
+    query.ParametersListChanged();
+}
+
+void TKQueryTextReader::Take(TQueryText text) {
+    query.ClearAll();
+    if (text.titles) query.Titles = std::move(*text.titles);
+    query.SetQueryName(std::move(text.queryName));
+    query.SetFormatVersion(text.version);
+    if (text.options) query.SetSQLOptions(*text.options);
+    if (text.mainTable) query.SetMainTableName(std::move(*text.mainTable));
+    query.Description = std::move(text.description);
+    query.UserData = std::move(text.userData);
+    query.QResult().ResultFields().Assign(text.resultFields);
+    AddRows(query, std::move(text.rows));
+    query.loadWarnings = std::move(text.warnings);
+}
+
+void TKQuery::SetQueryString(std::string_view text) {
+    TKQueryTextReader(*this).Read(text);
+}
+
+void TKQuery::LoadFromStrings(const TStrings& lines) {
+    TKQueryTextReader(*this).Read(JoinStrings(lines, "\n"));
+}
+
+void TKQuery::LoadFromFile(const std::string& fileName) {
+    RequireStruct();
+    const TKDecodedText decoded =
+        AsQueryError([&] { return DecodeTextFile(ReadWholeFile(fileName)); });
+    TStrings warnings;
+    if (decoded.wasWindows1252) warnings.emplace_back(messages::NoUTF8);
+    TKQueryTextReader(*this).Read(decoded.text, std::move(warnings));
+}
+
+TQueryTextHead ReadQueryTextHead(std::string_view text) {
+    const TKIniText sections(WithoutMark(text));
+    TQueryTextHead head;
+    head.hasTitles = HasQueryTitles(sections);
+    const TKIniSection* main = sections.Find("Main");
+    if (!main) return head;
+    head.isQuery = true;
+    head.queryName = main->Text("QueryName");
+    head.version = XStrToFloat(Trim(main->Raw("Version")), FirstQueryTextVersion);
+    head.hasOptions = !Trim(main->Raw("Options")).empty();
+    head.hasMainTable = !main->Text("MainTable").empty();
+    return head;
+}
+
+} // namespace tern7
