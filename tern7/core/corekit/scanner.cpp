@@ -135,6 +135,7 @@ private:
     void AddSymbol() { Add(i + 1, TKTokenType::Symbol, scanner.vocabulary.CodeOf(text[i])); }
 
     void Take() {
+        if (inQuotes && text[i] != '"') return TakeMeaningless();
         if (const char close = scanner.nameQuotes[static_cast<unsigned char>(text[i])];
             close != '\0')
             return TakeQuoted(close, TKTokenType::Name);
@@ -144,7 +145,7 @@ private:
         case TClass::Digit:
             return TakeNumber();
         case TClass::Quote:
-            return inQuotes ? AddSymbol() : TakeQuoted('\'', TKTokenType::Literal);
+            return TakeQuoted('\'', TKTokenType::Literal);
         case TClass::Operator:
             return TakeOperator();
         case TClass::Point:
@@ -163,10 +164,21 @@ private:
         }
     }
 
-    void TakeWord() {
-        size_t end = i + 1;
+    size_t WordEnd() const {
+        size_t end = i;
         while (end < text.size() && IsWordChar(text[end]))
             ++end;
+        return end;
+    }
+
+    void TakeMeaningless() {
+        const size_t end = WordEnd();
+        if (end == i) return Add(i + 1, TKTokenType::Symbol, 0);
+        Add(end, TKTokenType::Word, 0);
+    }
+
+    void TakeWord() {
+        const size_t end = WordEnd();
         const uint8_t code = scanner.vocabulary.CodeOf(lower.substr(i, end - i));
         const bool reserved = scanner.vocabulary.IsReserved(code);
         Add(end, reserved ? TKTokenType::Keyword : TKTokenType::Word, code);

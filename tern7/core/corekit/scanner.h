@@ -56,8 +56,9 @@ private:
 /// Cuts SQL source into tokens, all of it at once in one pass, and walks over them.
 ///
 /// `--` to the end of the line and `/* */` are blanks. A literal that is not closed ends with the
-/// text. A double quote is a symbol of its own, unless AddNameQuotes names it. A semicolon outside
-/// of literals and double quotes ends the statement: what follows it is Behind(). The end is an
+/// text. A double quote is a symbol of its own, unless AddNameQuotes names it; between two of them
+/// are words and symbols that mean nothing and have no number: "Salt and Owner's -- pepper". A
+/// semicolon ends the statement: what follows it is Behind(). The end is an
 /// empty keyword token right behind the last one; stepping on stays there.
 class TKScanner {
 public:

@@ -1,0 +1,3 @@
+#pragma once
+
+#include <tern7/core/parser/sql_parser.h>
