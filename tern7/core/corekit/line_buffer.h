@@ -22,6 +22,11 @@ public:
         text.clear();
         starts.clear();
     }
+    /// Room for as much as the other has.
+    void Reserve(const TKLineBuffer& other) {
+        text.reserve(other.text.size());
+        starts.reserve(other.starts.size());
+    }
     /// Opens a new last line.
     void NewLine() {
         if (!starts.empty()) text += '\n';

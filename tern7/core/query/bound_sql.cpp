@@ -93,10 +93,9 @@ void AppendFragment(std::string_view text, std::string& out) {
 
 class TBoundWriter {
 public:
-    TBoundWriter(const TConditionContext& context, const TFilterCond& condition,
+    TBoundWriter(const TKQuery& owner, std::string_view mainTableName, const TFilterCond& condition,
                  TBoundValues& boundValues, std::string& text)
-        : query(context.query), mainTable(context.mainTable), cond(condition),
-          type(condition.GetExprType()),
+        : query(owner), mainTable(mainTableName), cond(condition), type(condition.GetExprType()),
           keepsQuotes(condition.IsSubQueryOperator() ||
                       condition.Field()->Structure().IsQuotedType(condition.Field()->FieldType())),
           values(boundValues), out(text) {}
@@ -309,28 +308,28 @@ void TBoundValues::Bind(std::string& out, TBoundValue value) {
     }
 }
 
-void AppendBoundCondition(const TConditionContext& context, const TFilterCond& condition,
-                          TBoundValues& values, std::string& out) {
+void AppendBoundCondition(TConditionWriter& textWriter, const TKQuery& query,
+                          const TFilterCond& condition, TBoundValues& values, std::string& out) {
     if (!condition.IsRecognized()) {
         AppendFragment(condition.SQLText(), out);
         return;
     }
-    if (context.query.CheckValues) {
+    if (query.CheckValues) {
         const int count = condition.ValueCount();
         for (int n = 1; n <= count; ++n)
             CheckBareValue(condition, n);
     }
-    if (context.query.OnBuildSQL) {
+    if (query.OnBuildSQL) {
         std::string text;
-        AppendConditionText(context, condition, text);
+        textWriter.Append(condition, text);
         std::string changed = text;
-        context.query.OnBuildSQL(const_cast<TFilterCond&>(condition), changed);
+        query.OnBuildSQL(const_cast<TFilterCond&>(condition), changed);
         if (changed != text) {
             AppendFragment(changed, out);
             return;
         }
     }
-    TBoundWriter(context, condition, values, out).Write();
+    TBoundWriter(query, textWriter.MainTable(), condition, values, out).Write();
 }
 
 } // namespace tern7

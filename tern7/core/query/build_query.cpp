@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/condition_text.h>
@@ -15,7 +16,12 @@ public:
     TQueryBuild(TKQuery& owner, TBoundValues* boundValues)
         : query(owner), result(owner.QResult()), structure(owner.RequireStruct()),
           bracketConditions(result.SQLOptions().Contains(TSQLOption::soBracketConditions)),
-          values(boundValues) {}
+          values(boundValues), writer(*result.writer),
+          conditions(std::move(result.spareConditions)) {
+        conditions.Clear();
+        writer.Begin();
+        conditions.Reserve(result.conditions);
+    }
 
     void Run() {
         AddMainTable();
@@ -26,7 +32,7 @@ public:
 
     void Store() {
         result.resultTables = std::move(tables);
-        result.conditions = std::move(conditions);
+        result.spareConditions = std::exchange(result.conditions, std::move(conditions));
         result.orderByText = std::move(orderBy);
         result.groupByText = std::move(groupBy);
     }
@@ -146,20 +152,22 @@ private:
 
     void Condition(const TFilterCond& condition) {
         if (condition.IsRecognized()) AddTablesOf(*condition.Field());
+        if (lastMainTable == nullptr && !tables.IsEmpty()) {
+            lastMainTable = tables[0].Table;
+            writer.SetMainTable(lastMainTable->TableName());
+        }
         conditions.NewLine();
         std::string& out = conditions.Last();
         if (bracketConditions) out += '(';
-        const TConditionContext context{query, tables.IsEmpty() ? std::string_view()
-                                                                : tables[0].Table->TableName()};
         if (values) {
-            AppendBoundCondition(context, condition, *values, out);
+            AppendBoundCondition(writer, query, condition, *values, out);
         } else if (query.OnBuildSQL) {
             std::string text;
-            AppendConditionText(context, condition, text);
+            writer.Append(condition, text);
             query.OnBuildSQL(const_cast<TFilterCond&>(condition), text);
             out += text;
         } else {
-            AppendConditionText(context, condition, out);
+            writer.Append(condition, out);
         }
         if (bracketConditions) out += ')';
     }
@@ -169,7 +177,10 @@ private:
     TKCustomDBStructure& structure;
     bool bracketConditions;
     TBoundValues* values;
+    TConditionWriter& writer;
     TRTableList tables;
+    const TDSTable* lastTable = nullptr;     // is in the list
+    const TDSTable* lastMainTable = nullptr; // is known to the writer
     TKLineBuffer conditions;
     std::string orderBy;
     std::string groupBy;
@@ -196,6 +207,7 @@ private:
 
 void TKQuery::BuildQuery() {
     RequireStruct();
+    RequireChangeable();
     InstantiateNested();
     const TBuildingState building(*this);
     TQueryBuild build(*this, nullptr);
@@ -206,10 +218,11 @@ void TKQuery::BuildQuery() {
 std::string TKQuery::ConditionText(const TFilterCond& condition) const {
     std::string text;
     if (condition.Unfinished() != TUnfinished::No) return text;
+    TConditionWriter& writer = *result->writer;
+    writer.Begin();
     const TRTableList& tables = result->ResultTables();
-    const TConditionContext context{*this, tables.IsEmpty() ? std::string_view()
-                                                            : tables[0].Table->TableName()};
-    AppendConditionText(context, condition, text);
+    if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table->TableName());
+    writer.Append(condition, text);
     return text;
 }
 

@@ -3,6 +3,8 @@
 
 #include <tern7/core/query/condition_text.h>
 
+#include <algorithm>
+
 #include <tern7/core/corekit/comma_text.h>
 #include <tern7/core/corekit/numbers.h>
 #include <tern7/core/global/messages.h>
@@ -30,67 +32,6 @@ void RemoveQuotes(std::string& text, size_t from) {
 bool KeepsQuotes(const TFilterCond& condition) {
     return condition.IsSubQueryOperator() ||
            condition.Field()->Structure().IsQuotedType(condition.Field()->FieldType());
-}
-
-/// Appends a value as ExtractValue gives it; false when it holds an "@".
-bool AppendValue(const TKQuery& query, const TFilterCond& condition, int n, std::string& out) {
-    const size_t start = out.size();
-    if (condition.IsListOperator() || condition.IsSubQueryOperator() ||
-        IsDateOrTime(condition.GetExprType())) {
-        out += query.ExtractValue(condition, n);
-    } else {
-        for (char c : condition.Value(n)) {
-            if (c == '\'') out += c;
-            out += c;
-        }
-    }
-    return !HoldsAt(std::string_view(out).substr(start));
-}
-
-/// The template in one pass; false, with nothing appended, when that could differ from the
-/// replacements one after the other.
-bool AppendSimple(const TConditionContext& context, const TFilterCond& condition,
-                  std::string& out) {
-    const TKSQLTemplate& sqlTemplate = condition.Operator()->Template();
-    if (!sqlTemplate.IsSimple() || condition.Param(1) || condition.Param(2)) return false;
-    const size_t start = out.size();
-    bool literal = true;
-    for (const TKSQLTemplate::TItem& item : sqlTemplate.Items()) {
-        const size_t pieceStart = out.size();
-        switch (item.kind) {
-        case TPiece::Text:
-            out += sqlTemplate.TextOf(item);
-            continue;
-        case TPiece::Field:
-            condition.Field()->AppendSQLExpr(out);
-            break;
-        case TPiece::Value1:
-            literal = AppendValue(context.query, condition, 1, out);
-            break;
-        case TPiece::Value2:
-            literal = AppendValue(context.query, condition, 2, out);
-            break;
-        case TPiece::NoValue:
-            break;
-        case TPiece::Table:
-            if (condition.Field()->GetTables().empty())
-                out += "@t";
-            else
-                out += condition.Field()->GetTables().front()->TableName();
-            continue;
-        case TPiece::MainTable:
-            out += context.mainTable;
-            break;
-        }
-        if (item.kind != TPiece::Value1 && item.kind != TPiece::Value2)
-            literal = !HoldsAt(std::string_view(out).substr(pieceStart));
-        if (!literal) {
-            out.resize(start);
-            return false;
-        }
-    }
-    if (!KeepsQuotes(condition)) RemoveQuotes(out, start);
-    return true;
 }
 
 /// Replaces every piece that holds the placeholder of a parameter, a whole literal or the bare
@@ -123,22 +64,6 @@ std::string ReplaceParam(const std::string& text, std::string_view placeholder, 
         }
     }
     return result;
-}
-
-/// The steps one after the other, each a replacement of all occurrences.
-std::string SequentialText(const TConditionContext& context, const TFilterCond& condition) {
-    const TDSField& field = *condition.Field();
-    std::string text = ReplaceStr(condition.Operator()->SQLName(), "@f", field.GetSQLExpr());
-    if (!field.GetTables().empty())
-        text = ReplaceStr(text, "@t", field.GetTables().front()->TableName());
-    text = ReplaceStr(text, "@m", context.mainTable);
-    const int count = condition.Operator()->GetParamCount();
-    for (int n = 1; n <= count; ++n)
-        text = ReplaceStr(text, "@" + std::to_string(n), context.query.ExtractValue(condition, n));
-    if (condition.Param(1)) text = ReplaceParam(text, "@p1", *condition.Param(1));
-    if (condition.Param(2)) text = ReplaceParam(text, "@p2", *condition.Param(2));
-    if (!KeepsQuotes(condition)) RemoveQuotes(text, 0);
-    return text;
 }
 
 bool IsSignedNumber(std::string_view text) {
@@ -181,18 +106,140 @@ void CheckBareValue(const TFilterCond& condition, int n) {
         FormatMessage(messages::WrongValue, {condition.Field()->DisplayName(), value}), condition);
 }
 
-void AppendConditionText(const TConditionContext& context, const TFilterCond& condition,
-                         std::string& out) {
+void TConditionWriter::SetMainTable(const std::string& name) {
+    if (name == mainTable) return;
+    mainTable = name;
+    forms.clear();
+    slots.clear();
+}
+
+void TConditionWriter::Begin() {
+    const uint64_t present = query.RequireStruct().Revision();
+    if (present == revision) return;
+    revision = present;
+    forms.clear();
+    slots.clear();
+}
+
+TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
+                                                   const TDSOperator& op) const {
+    TForm form;
+    form.field = &field;
+    form.op = &op;
+    const bool quotedType = field.Structure().IsQuotedType(field.FieldType());
+    form.keepsQuotes = quotedType || op.ValueType() == TOpValueType::vtSubQuery;
+    form.valueCount = std::min(op.GetParamCount(), 2);
+    const TKSQLTemplate& sqlTemplate = op.Template();
+    for (int n = 1; n <= 2; ++n)
+        form.bare[n - 1] =
+            op.ValueType() != TOpValueType::vtSubQuery &&
+            (!quotedType || (op.ValueType() != TOpValueType::vtList && sqlTemplate.ValueIsBare(n)));
+    const TFieldType type = op.ExprType().value_or(field.FieldType());
+    form.simple =
+        sqlTemplate.IsSimple() && op.ValueType() == TOpValueType::vtScalar && !IsDateOrTime(type);
+
+    size_t place = 0;
+    std::string piece;
+    for (const TKSQLTemplate::TItem& item : sqlTemplate.Items()) {
+        piece.clear();
+        switch (item.kind) {
+        case TPiece::Text:
+            form.texts[place] += sqlTemplate.TextOf(item);
+            continue;
+        case TPiece::Field:
+            field.AppendSQLExpr(piece);
+            break;
+        case TPiece::Table:
+            piece = field.GetTables().empty() ? "@t" : field.GetTables().front()->TableName();
+            break;
+        case TPiece::MainTable:
+            piece = mainTable;
+            break;
+        case TPiece::NoValue:
+            break;
+        case TPiece::Value1:
+        case TPiece::Value2:
+            if (place == 2) {
+                form.simple = false;
+                return form;
+            }
+            form.values[place++] = item.kind == TPiece::Value1 ? 1 : 2;
+            continue;
+        }
+        form.simple = form.simple && !HoldsAt(piece);
+        form.texts[place] += piece;
+    }
+    if (!form.keepsQuotes)
+        for (std::string& text : form.texts)
+            RemoveQuotes(text, 0);
+    return form;
+}
+
+const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condition) {
+    constexpr size_t size = 256;
+    if (slots.empty()) slots.resize(size);
+    const auto field = reinterpret_cast<uintptr_t>(condition.Field());
+    const auto op = reinterpret_cast<uintptr_t>(condition.Operator());
+    uint16_t& slot = slots[(field / 16 + field / 4096 + op / 32) % size];
+    if (slot == 0) {
+        forms.push_back(MakeForm(*condition.Field(), *condition.Operator()));
+        slot = static_cast<uint16_t>(forms.size());
+    }
+    TForm& form = forms[slot - 1u];
+    if (form.field != condition.Field() || form.op != condition.Operator())
+        form = MakeForm(*condition.Field(), *condition.Operator());
+    return form;
+}
+
+bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condition,
+                                    std::string& out) const {
+    if (!form.simple || condition.Param(1) || condition.Param(2)) return false;
+    const size_t start = out.size();
+    out += form.texts[0];
+    for (size_t place = 0; place < 2 && form.values[place]; ++place) {
+        const std::string& value = condition.Value(form.values[place]);
+        const size_t quote = value.find('\'');
+        // a second value is looked for in the first one, too; and quotes may have to go again
+        if ((form.valueCount > 1 && HoldsAt(value)) ||
+            (quote != std::string::npos && !form.keepsQuotes)) {
+            out.resize(start);
+            return false;
+        }
+        if (quote == std::string::npos)
+            out += value;
+        else
+            out += ReplaceStr(value, "'", "''");
+        out += form.texts[place + 1];
+    }
+    return true;
+}
+
+/// The steps one after the other, each a replacement of all occurrences.
+std::string TConditionWriter::SequentialText(const TFilterCond& condition) const {
+    const TDSField& field = *condition.Field();
+    std::string text = ReplaceStr(condition.Operator()->SQLName(), "@f", field.GetSQLExpr());
+    if (!field.GetTables().empty())
+        text = ReplaceStr(text, "@t", field.GetTables().front()->TableName());
+    text = ReplaceStr(text, "@m", mainTable);
+    const int count = condition.Operator()->GetParamCount();
+    for (int n = 1; n <= count; ++n)
+        text = ReplaceStr(text, "@" + std::to_string(n), query.ExtractValue(condition, n));
+    if (condition.Param(1)) text = ReplaceParam(text, "@p1", *condition.Param(1));
+    if (condition.Param(2)) text = ReplaceParam(text, "@p2", *condition.Param(2));
+    if (!KeepsQuotes(condition)) RemoveQuotes(text, 0);
+    return text;
+}
+
+void TConditionWriter::Append(const TFilterCond& condition, std::string& out) {
     if (!condition.IsRecognized()) {
         out += condition.SQLText();
         return;
     }
-    if (context.query.CheckValues) {
-        const int count = condition.ValueCount();
-        for (int n = 1; n <= count; ++n)
-            CheckBareValue(condition, n);
-    }
-    if (!AppendSimple(context, condition, out)) out += SequentialText(context, condition);
+    const TForm& form = FormOf(condition);
+    if (query.CheckValues)
+        for (int n = 1; n <= form.valueCount; ++n)
+            if (form.bare[n - 1]) CheckBareValue(condition, n);
+    if (!AppendSimple(form, condition, out)) out += SequentialText(condition);
 }
 
 std::string NestedStatement(const TFilterCond& condition) {

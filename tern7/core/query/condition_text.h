@@ -9,16 +9,46 @@
 
 namespace tern7 {
 
-/// What the text of a condition depends on beside the condition itself.
-struct TConditionContext {
-    const TKQuery& query;
-    std::string_view mainTable; ///< stands for "@m"
-};
+/// Writes conditions of one query as text. The template of an operator with everything but the
+/// values put in is kept for each field, since conditions over the same few fields come in
+/// thousands.
+class TConditionWriter {
+public:
+    explicit TConditionWriter(const TKQuery& owner) : query(owner) {}
 
-/// Appends the text of a condition, its values in place. EKWrongValueError for a value that may not
-/// stand without quotes.
-void AppendConditionText(const TConditionContext& context, const TFilterCond& condition,
-                         std::string& out);
+    /// To be called before a run over conditions: drops what a changed structure made wrong.
+    void Begin();
+    /// The name that stands for "@m".
+    const std::string& MainTable() const { return mainTable; }
+    void SetMainTable(const std::string& name);
+
+    /// Appends the text of a condition that is finished. EKWrongValueError for a value that may not
+    /// stand without quotes.
+    void Append(const TFilterCond& condition, std::string& out);
+
+private:
+    /// A template without its values: texts[0] value texts[1] value texts[2].
+    struct TForm {
+        const TDSField* field = nullptr;
+        const TDSOperator* op = nullptr;
+        bool simple = false; ///< one pass gives what the replacements one after the other give
+        bool keepsQuotes = false;
+        int valueCount = 0;
+        bool bare[2] = {};
+        int values[2] = {}; ///< which value stands at the first and at the second place
+        std::string texts[3];
+    };
+    const TForm& FormOf(const TFilterCond& condition);
+    TForm MakeForm(const TDSField& field, const TDSOperator& op) const;
+    bool AppendSimple(const TForm& form, const TFilterCond& condition, std::string& out) const;
+    std::string SequentialText(const TFilterCond& condition) const;
+
+    const TKQuery& query;
+    std::string mainTable;
+    uint64_t revision = 0; // of the structure that the forms are made from
+    std::vector<TForm> forms;
+    std::vector<uint16_t> slots; // by field and operator: position in `forms` plus one
+};
 
 /// Where bound values go: placeholders in the present style, values in text order.
 class TBoundValues {
@@ -37,8 +67,8 @@ private:
 };
 
 /// Appends the text of a condition with its constants as placeholders.
-void AppendBoundCondition(const TConditionContext& context, const TFilterCond& condition,
-                          TBoundValues& values, std::string& out);
+void AppendBoundCondition(TConditionWriter& textWriter, const TKQuery& query,
+                          const TFilterCond& condition, TBoundValues& values, std::string& out);
 
 /// The statement of a condition's nested query on one line: lines trimmed, joined with one blank.
 std::string NestedStatement(const TFilterCond& condition);

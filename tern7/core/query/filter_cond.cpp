@@ -21,52 +21,49 @@ TFilterCond::~TFilterCond() {
     rowState = TRowState::rsDestroying;
 }
 
-size_t TFilterCond::Slot(int n) {
-    if (n != 1 && n != 2) throw std::out_of_range("a condition has the values 1 and 2");
-    return static_cast<size_t>(n - 1);
-}
-
 void TFilterCond::SetField(TDSField* value) {
     if (value == field && !(value && value->IsPlaceholder())) return;
     field = value;
     if (!value || !value->IsPlaceholder()) {
         unknownFieldID = -1;
-        unknownFieldName.clear();
-        sqlText.clear();
+        if (extras) {
+            extras->unknownFieldName.clear();
+            extras->sqlText.clear();
+        }
     }
-    UpdateSQLParams();
+    ReferencesChanged();
     DoConditionChange(wcField);
 }
 
 void TFilterCond::SetOperator(TDSOperator* value) {
     if (value == op && !(value && value->IsPlaceholder())) return;
     op = value;
-    if (!value || !value->IsPlaceholder()) {
-        unknownOperator.clear();
-        sqlText.clear();
+    if (extras && (!value || !value->IsPlaceholder())) {
+        extras->unknownOperator.clear();
+        extras->sqlText.clear();
     }
-    UpdateSQLParams();
+    ReferencesChanged();
     DoConditionChange(wcOperator);
 }
 
 void TFilterCond::SetUnknownField(int id, std::string name) {
     field = query && query->DbStruct() ? query->DbStruct()->PlaceholderField() : nullptr;
     unknownFieldID = id;
-    unknownFieldName = std::move(name);
-    UpdateSQLParams();
+    if (!name.empty() || extras) MakeExtras().unknownFieldName = std::move(name);
+    ReferencesChanged();
     DoConditionChange(wcField);
 }
 
 void TFilterCond::SetUnknownOperator(std::string name) {
     op = query && query->DbStruct() ? query->DbStruct()->PlaceholderOperator() : nullptr;
-    unknownOperator = std::move(name);
-    UpdateSQLParams();
+    MakeExtras().unknownOperator = std::move(name);
+    ReferencesChanged();
     DoConditionChange(wcOperator);
 }
 
 void TFilterCond::SetSQLText(std::string value) {
-    if (value == sqlText) return;
-    sqlText = std::move(value);
+    if (value == SQLText()) return;
+    MakeExtras().sqlText = std::move(value);
     DoConditionChange(wcField);
 }
 
@@ -75,11 +72,7 @@ int TFilterCond::FieldID() const {
 }
 
 std::string TFilterCond::OperatorName() const {
-    return op && !op->IsPlaceholder() ? op->Name() : unknownOperator;
-}
-
-bool TFilterCond::IsRecognized() const {
-    return field && !field->IsPlaceholder() && op && !op->IsPlaceholder();
+    return op && !op->IsPlaceholder() ? op->Name() : Extras().unknownOperator;
 }
 
 void TFilterCond::SetValue(int n, std::string text, std::string valueCaption) {
@@ -129,24 +122,26 @@ void TFilterCond::UpdateSQLParams() {
 }
 
 void TFilterCond::SetSubQuery(std::string text, TSQLOptions options) {
-    if (text == subQuery && options == subQueryOptions) return;
-    subQuery = std::move(text);
-    subQueryOptions = options;
-    nested.reset();
+    if (text == SubQuery() && options == SubQueryOptions()) return;
+    TExtras& own = MakeExtras();
+    own.subQuery = std::move(text);
+    own.subQueryOptions = options;
+    own.nested.reset();
     if (query && !detached) query->SubQueryChanged(*this);
     DoConditionChange(wcSubQuery);
 }
 
 TKQuery* TFilterCond::NestedQuery() const {
-    if (subQuery.empty() || !query) return nullptr;
+    if (SubQuery().empty() || !query) return nullptr;
+    std::unique_ptr<TKQuery>& nested = extras->nested;
     if (!nested) {
         int depth = 0;
         for (const TKQuery* q = query; q; q = q->Outer())
             ++depth;
         if (depth > maxNesting) throw EKQueryPanelError(std::string(messages::NestedTooDeep));
         auto fresh = query->NewNested();
-        fresh->SetQueryString(subQuery);
-        fresh->SetSQLOptions(subQueryOptions);
+        fresh->SetQueryString(extras->subQuery);
+        fresh->SetSQLOptions(extras->subQueryOptions);
         nested = std::move(fresh);
     }
     nested->SetSQLSyntax(query->SQLSyntax());
@@ -172,8 +167,8 @@ bool TFilterCond::IsListOperator() const {
 }
 
 void TFilterCond::SetCaption(std::string value) {
-    if (value == caption) return;
-    caption = std::move(value);
+    if (value == GetCaption()) return;
+    MakeExtras().caption = std::move(value);
     DoConditionChange(wcCaption);
 }
 
@@ -191,26 +186,29 @@ bool TFilterCond::ValueIsBare(int n) const {
 }
 
 TUnfinished TFilterCond::Unfinished() const {
-    if (!sqlText.empty() && !IsRecognized()) return TUnfinished::No;
-    if (!field) return unknownFieldID < 0 ? TUnfinished::NoField : TUnfinished::UnknownField;
-    if (field->IsPlaceholder()) return TUnfinished::UnknownField;
-    if (!op)
-        return unknownOperator.empty() ? TUnfinished::NoOperator : TUnfinished::UnknownOperator;
-    if (op->IsPlaceholder()) return TUnfinished::UnknownOperator;
+    if (!IsRecognized()) {
+        if (!SQLText().empty()) return TUnfinished::No;
+        if (!field && unknownFieldID < 0) return TUnfinished::NoField;
+        if (!field || field->IsPlaceholder()) return TUnfinished::UnknownField;
+        return op || !OperatorName().empty() ? TUnfinished::UnknownOperator
+                                             : TUnfinished::NoOperator;
+    }
     if (IsSubQueryOperator())
-        return values[0].text.empty() && subQuery.empty() ? TUnfinished::NoSubQuery
-                                                          : TUnfinished::No;
-
+        return values[0].text.empty() && SubQuery().empty() ? TUnfinished::NoSubQuery
+                                                            : TUnfinished::No;
     const int count = ValueCount();
     if (count > 0 && !entered) return TUnfinished::NotEntered;
     if (query && !query->CheckValues) return TUnfinished::No;
-    for (int n = 1; n <= count; ++n) {
-        const TValue& value = values[n - 1];
-        if (value.isParam) continue;
-        const bool empty = Trim(value.text).empty();
-        if (empty && (ValueIsBare(n) || (n == 1 && IsListOperator()))) return TUnfinished::NoValue;
-    }
+    for (int n = 1; n <= count; ++n)
+        if (WouldBeEmpty(n)) return TUnfinished::NoValue;
     return TUnfinished::No;
+}
+
+/// True when nothing at all would stand in value n's place.
+bool TFilterCond::WouldBeEmpty(int n) const {
+    const TValue& value = values[n - 1];
+    return !value.isParam && Trim(value.text).empty() &&
+           (ValueIsBare(n) || (n == 1 && IsListOperator()));
 }
 
 void TFilterCond::DoValueChange(int n) {
@@ -223,32 +221,52 @@ void TFilterCond::DoConditionChange(int whatChanged) {
 
 void TFilterCond::ReleaseReferences() {
     if (field && !field->IsPlaceholder()) unknownFieldID = field->ID();
-    if (op && !op->IsPlaceholder()) unknownOperator = op->Name();
+    if (op && !op->IsPlaceholder()) MakeExtras().unknownOperator = op->Name();
     field = nullptr;
     op = nullptr;
-    if (nested) nested.reset(); // read again from its text over the new structure
+    recognized = false;
+    if (extras) extras->nested.reset(); // read again from its text over the new structure
 }
 
 void TFilterCond::RestoreReferences() {
     TKCustomDBStructure* structure = query ? query->DbStruct() : nullptr;
     if (!structure) return;
-    const bool hadField = unknownFieldID >= 0 || !unknownFieldName.empty() || !sqlText.empty();
-    if (hadField) {
+    const TExtras& known = Extras();
+    if (unknownFieldID >= 0 || !known.unknownFieldName.empty() || !known.sqlText.empty()) {
         field = unknownFieldID >= 0 ? structure->FieldByID(unknownFieldID) : nullptr;
         if (field)
             unknownFieldID = -1;
         else
             field = structure->PlaceholderField();
     }
-    const bool hadOperator = !unknownOperator.empty() || !sqlText.empty();
-    if (hadOperator) {
-        op = unknownOperator.empty() ? nullptr : structure->OperatorByName(unknownOperator);
+    if (!known.unknownOperator.empty() || !known.sqlText.empty()) {
+        op = known.unknownOperator.empty() ? nullptr
+                                           : structure->OperatorByName(known.unknownOperator);
         if (op)
-            unknownOperator.clear();
+            extras->unknownOperator.clear();
         else
             op = structure->PlaceholderOperator();
     }
-    if (IsRecognized()) sqlText.clear();
+    recognized = field && !field->IsPlaceholder() && op && !op->IsPlaceholder();
+    if (extras && recognized) extras->sqlText.clear();
+}
+
+void TFilterCond::ReferencesChanged() {
+    recognized = field && !field->IsPlaceholder() && op && !op->IsPlaceholder();
+    UpdateSQLParams();
+}
+
+TFilterCond::TExtras::TExtras() = default;
+TFilterCond::TExtras::~TExtras() = default;
+
+TFilterCond::TExtras& TFilterCond::MakeExtras() const {
+    if (!extras) extras = std::make_unique<TExtras>();
+    return *extras;
+}
+
+const TFilterCond::TExtras& TFilterCond::NoExtras() {
+    static const TExtras none;
+    return none;
 }
 
 } // namespace tern7

@@ -10,19 +10,6 @@ TFilterRow::~TFilterRow() {
     if (detached && query) query->detachedRows.erase(this);
 }
 
-TFilterBracket* TFilterRow::AsBracket() {
-    return IsBracket() ? static_cast<TFilterBracket*>(this) : nullptr;
-}
-const TFilterBracket* TFilterRow::AsBracket() const {
-    return IsBracket() ? static_cast<const TFilterBracket*>(this) : nullptr;
-}
-TFilterCond* TFilterRow::AsCond() {
-    return IsBracket() ? nullptr : static_cast<TFilterCond*>(this);
-}
-const TFilterCond* TFilterRow::AsCond() const {
-    return IsBracket() ? nullptr : static_cast<const TFilterCond*>(this);
-}
-
 int TFilterRow::Level() const {
     int level = 0;
     for (const TFilterRow* row = parent; row; row = row->parent)

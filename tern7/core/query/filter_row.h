@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -199,12 +200,12 @@ public:
     void SetUnknownField(int id, std::string name = {});
     void SetUnknownOperator(std::string name);
     int FieldID() const;
-    const std::string& UnknownFieldName() const { return unknownFieldName; }
+    const std::string& UnknownFieldName() const { return Extras().unknownFieldName; }
     std::string OperatorName() const;
-    bool IsRecognized() const;
+    bool IsRecognized() const { return recognized; }
     /// The text of a condition that was read from SQL and not recognised; stands in the statement
     /// as it is.
-    const std::string& SQLText() const { return sqlText; }
+    const std::string& SQLText() const { return Extras().sqlText; }
     void SetSQLText(std::string value);
 
     const std::string& Value(int n) const { return values[Slot(n)].text; }
@@ -235,8 +236,8 @@ public:
     void UpdateSQLParams();
 
     /// The query text of the nested query of a sub-query operator.
-    const std::string& SubQuery() const { return subQuery; }
-    TSQLOptions SubQueryOptions() const { return subQueryOptions; }
+    const std::string& SubQuery() const { return Extras().subQuery; }
+    TSQLOptions SubQueryOptions() const { return Extras().subQueryOptions; }
     void SetSubQuery(std::string text, TSQLOptions options = DefaultSQLOptions);
     /// The nested query, read from its text and kept; none without a text. EKQueryPanelError when
     /// the text can not be read.
@@ -249,11 +250,11 @@ public:
     bool IsSubQueryOperator() const;
     bool IsListOperator() const;
     /// Data for the application's own value editor.
-    TStrings& GetCustomData() { return customData; }
-    const std::string& GetCaption() const { return caption; }
+    TStrings& GetCustomData() { return MakeExtras().customData; }
+    const std::string& GetCaption() const { return Extras().caption; }
     void SetCaption(std::string value);
-    const std::string& GetHint() const { return hint; }
-    void SetHint(std::string value) { hint = std::move(value); }
+    const std::string& GetHint() const { return Extras().hint; }
+    void SetHint(std::string value) { MakeExtras().hint = std::move(value); }
 
     /// False for a condition that was just added on the screen: unfinished until a value was
     /// entered.
@@ -275,11 +276,34 @@ private:
         std::string text;
         std::string caption;
         TSQLParam* param = nullptr;
-        std::unique_ptr<TSQLParam> parked; // while the row is out of the tree
         bool isParam = false;
     };
+    /// What few conditions have.
+    struct TExtras {
+        std::string unknownFieldName;
+        std::string unknownOperator; // while `op` is none or the placeholder
+        std::string sqlText;
+        std::string subQuery;
+        TSQLOptions subQueryOptions = DefaultSQLOptions;
+        std::unique_ptr<TKQuery> nested;
+        std::unique_ptr<TSQLParam> parked[2]; // parameters while the row is out of the tree
+        TStrings customData;
+        std::string caption;
+        std::string hint;
+
+        TExtras();
+        ~TExtras();
+    };
     explicit TFilterCond(TKQuery& query);
-    static size_t Slot(int n);
+    static size_t Slot(int n) {
+        if (n != 1 && n != 2) throw std::out_of_range("a condition has the values 1 and 2");
+        return static_cast<size_t>(n - 1);
+    }
+    const TExtras& Extras() const { return extras ? *extras : NoExtras(); }
+    TExtras& MakeExtras() const;
+    static const TExtras& NoExtras();
+    bool WouldBeEmpty(int n) const;
+    void ReferencesChanged();
     void ReleaseReferences();
     void RestoreReferences();
 
@@ -287,16 +311,22 @@ private:
     TDSOperator* op = nullptr;
     TValue values[2];
     int unknownFieldID = -1; // while `field` is none or the placeholder
-    std::string unknownFieldName;
-    std::string unknownOperator; // while `op` is none or the placeholder
-    std::string sqlText;
-    std::string subQuery;
-    TSQLOptions subQueryOptions = DefaultSQLOptions;
-    mutable std::unique_ptr<TKQuery> nested;
-    TStrings customData;
-    std::string caption;
-    std::string hint;
     bool entered = true;
+    bool recognized = false; // field and operator are there and no placeholders
+    mutable std::unique_ptr<TExtras> extras;
 };
+
+inline TFilterBracket* TFilterRow::AsBracket() {
+    return IsBracket() ? static_cast<TFilterBracket*>(this) : nullptr;
+}
+inline const TFilterBracket* TFilterRow::AsBracket() const {
+    return IsBracket() ? static_cast<const TFilterBracket*>(this) : nullptr;
+}
+inline TFilterCond* TFilterRow::AsCond() {
+    return IsBracket() ? nullptr : static_cast<TFilterCond*>(this);
+}
+inline const TFilterCond* TFilterRow::AsCond() const {
+    return IsBracket() ? nullptr : static_cast<const TFilterCond*>(this);
+}
 
 } // namespace tern7

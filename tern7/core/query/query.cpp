@@ -114,13 +114,13 @@ void TKQuery::AttachRow(TFilterRow& row) {
     ForEachRow(row, [&](TFilterRow& below) {
         below.detached = false;
         TFilterCond* condition = below.AsCond();
-        if (!condition) return;
-        for (TFilterCond::TValue& value : condition->values) {
-            if (!value.parked) continue;
-            result->PutParam(std::move(value.parked));
+        if (!condition || !condition->extras) return;
+        for (std::unique_ptr<TSQLParam>& parked : condition->extras->parked) {
+            if (!parked) continue;
+            result->PutParam(std::move(parked));
             params = true;
         }
-        nestedPending = nestedPending || !condition->subQuery.empty();
+        nestedPending = nestedPending || !condition->SubQuery().empty();
     });
     if (params) ParametersListChanged();
 }
@@ -137,7 +137,7 @@ void TKQuery::DetachRow(TFilterRow& row) {
     if (gone.empty()) return;
     for (auto& param : result->TakeParams(gone)) {
         TFilterCond& condition = *param->Condition();
-        condition.values[param->ValueNumber() - 1].parked = std::move(param);
+        condition.MakeExtras().parked[param->ValueNumber() - 1] = std::move(param);
     }
     ParametersListChanged();
 }

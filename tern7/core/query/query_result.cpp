@@ -4,11 +4,13 @@
 #include <unordered_set>
 
 #include <tern7/core/corekit/strings.h>
+#include <tern7/core/query/condition_text.h>
 #include <tern7/core/query/query.h>
 
 namespace tern7 {
 
-TQueryResult::TQueryResult(TKQuery& owner) : query(owner) {}
+TQueryResult::TQueryResult(TKQuery& owner)
+    : query(owner), writer(std::make_unique<TConditionWriter>(owner)) {}
 
 TQueryResult::~TQueryResult() = default;
 

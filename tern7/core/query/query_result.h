@@ -17,6 +17,7 @@ namespace tern7 {
 
 class TKCustomDBStructure;
 class TBoundValues;
+class TConditionWriter;
 class TKQuery;
 
 /// The columns, tables, condition lines and parameters of a query, and the statement they make.
@@ -110,6 +111,8 @@ private:
     TKLineBuffer fromLines;
     std::string orderByText;
     TKLineBuffer conditions;
+    TKLineBuffer spareConditions; // room for the next build
+    std::unique_ptr<TConditionWriter> writer;
     std::string groupByText;
     bool oldStyleJoins = false;
     TSQLOptions options = DefaultSQLOptions;
