@@ -50,6 +50,28 @@ inline constexpr std::string_view And = "and";
 
 // metadata
 inline constexpr std::string_view FieldCountTooSmall = "Field count must be >= 2";
+inline constexpr std::string_view NoSuchConnection = "No such database connection: %s";
+
+// connections and execution
+inline constexpr std::string_view WrongDatabaseAddress =
+    "The database must be given as sqlite:PATH, postgresql://user@host:port/name, "
+    "mysql://user@host:port/name or odbc:DSN";
+inline constexpr std::string_view WrongDatabasePort =
+    "The port of the database address must be a number from 1 to 65535";
+inline constexpr std::string_view WrongDatabaseOption =
+    "The database address has an unknown or wrong option \"%s\"";
+inline constexpr std::string_view NoDatabaseName = "The database address names no database";
+inline constexpr std::string_view NoSuchDatabaseFile = "No such database file: %s";
+inline constexpr std::string_view NoDatabaseDriver = "Qt SQL driver %s is not installed";
+inline constexpr std::string_view CanNotOpenDatabase = "Can not open database %s: %s";
+inline constexpr std::string_view OnlySelect = "Only SELECT statements are executed";
+inline constexpr std::string_view OnlyOneStatement = "Only one statement is executed at a time";
+inline constexpr std::string_view StatementNotClosed =
+    "A quote, comment or bracket of the statement is not closed";
+inline constexpr std::string_view NulInStatement = "The statement holds a NUL character";
+inline constexpr std::string_view ParameterWithoutValue = "A parameter has no value: %s";
+inline constexpr std::string_view WrongValueCount =
+    "The statement has %d placeholders, but %d values are given";
 
 // query
 inline constexpr std::string_view NotBuiltProperly = "Query was not built properly";

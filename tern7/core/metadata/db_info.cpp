@@ -36,6 +36,7 @@ void TKDBInfo::GetFieldNamesByTable(const std::string& table, TStrings& list) {
 void TKDBInfo::ConnectionChanged() {
     fields.Clear();
     fieldsKnown = false;
+    ForgetCatalog();
 }
 
 } // namespace tern7

@@ -67,6 +67,9 @@ public:
     /// True when the name must be written in quote symbols: it is no plain identifier of this
     /// database, or one of its reserved words.
     virtual bool NeedsQuotes(const std::string& name);
+    /// What opens and closes a quoted name in this database.
+    virtual char QuoteSymbol1() { return '"'; }
+    virtual char QuoteSymbol2() { return '"'; }
 
     /// The columns of a table, read once until another table is asked for or the connection
     /// changes. The list belongs to this object.
@@ -76,6 +79,10 @@ public:
     /// Forgets what was read.
     void Update() { ConnectionChanged(); }
     void ConnectionChanged();
+
+protected:
+    /// Part of ConnectionChanged: whatever else was read from the database is forgotten here.
+    virtual void ForgetCatalog() {}
 
 private:
     TDBFieldList fields;

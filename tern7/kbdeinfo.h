@@ -1,0 +1,3 @@
+#pragma once
+
+#include <tern7/sql/bde_info.h>

@@ -1,0 +1,364 @@
+#include "engines.h"
+
+#include <tern7/core/corekit/comma_text.h>
+#include <tern7/kbdeinfo.h>
+
+namespace tern7::test {
+
+namespace {
+
+using TLines = std::vector<std::string>;
+
+/// "name type size", with " required".
+TLines Described(const TDBFieldList& fields) {
+    TLines lines;
+    for (const TDBFieldInfo& field : fields)
+        lines.push_back(field.FieldName + " " + std::string(FldTypeToStr(field.FieldType)) + " " +
+                        std::to_string(field.FieldSize) + (field.Required ? " required" : ""));
+    return lines;
+}
+
+std::string Described(const TDBForeignKey& key) {
+    return key.Table + "(" + ComposeCommaText(key.Columns) + ") -> " + key.RefTable + "(" +
+           ComposeCommaText(key.RefColumns) + ")" + (key.Optional ? " optional" : "");
+}
+
+class TBDEInfo : public TEngineTest {
+protected:
+    void SetUp() override {
+        TEngineTest::SetUp();
+        if (!writer) return;
+        info.SetDatabaseName("test");
+        // other schemas of a shared server are none of our business
+        if (GetParam() == TKEngine::PostgreSQL) info.SetSchema("tern7test");
+    }
+    void TearDown() override {
+        info.SetDatabaseName("");
+        TEngineTest::TearDown();
+    }
+    TLines Tables() {
+        TStrings tables;
+        info.GetTableNames(tables);
+        return tables;
+    }
+    TLines Keys() {
+        std::vector<TDBForeignKey> keys;
+        info.GetForeignKeys(keys);
+        TLines lines;
+        for (const TDBForeignKey& key : keys)
+            lines.push_back(Described(key));
+        return lines;
+    }
+
+    TKBDEInfo info;
+};
+
+class TSQLiteInfo : public TBDEInfo {};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Engines, TBDEInfo,
+                         ::testing::Values(TKEngine::SQLite, TKEngine::PostgreSQL, TKEngine::MySQL),
+                         EngineName);
+
+INSTANTIATE_TEST_SUITE_P(Engines, TSQLiteInfo, ::testing::Values(TKEngine::SQLite), EngineName);
+
+TEST_P(TBDEInfo, ColumnsHaveTheTypesThatWereDeclared) {
+    TLines expected;
+    switch (GetParam()) {
+    case TKEngine::PostgreSQL:
+        Run("CREATE DOMAIN code AS varchar(7);\n"
+            "CREATE DOMAIN strict_code AS code NOT NULL;\n"
+            "CREATE TYPE mood AS ENUM ('sad', 'happy');\n"
+            "CREATE TABLE every (id serial PRIMARY KEY, gid int GENERATED ALWAYS AS IDENTITY,"
+            " big bigserial, s int2, r float4, d float8, n numeric(10,2), n0 numeric, b bool,"
+            " c char(5), v varchar(30), v0 varchar, t text, m mood, dom code, dom2 strict_code,"
+            " dt date, tm time, ts timestamp, tz timestamptz, j jsonb, u uuid, by bytea, a int[],"
+            " cash money, bits bit(12), gone int, calc int GENERATED ALWAYS AS (s + 1) STORED);\n"
+            "ALTER TABLE every DROP COLUMN gone;\n");
+        expected = {"id ftAutoInc 0 required",
+                    "gid ftAutoInc 0 required",
+                    "big ftLargeint 0 required",
+                    "s ftSmallint 0",
+                    "r ftFloat 0",
+                    "d ftFloat 0",
+                    "n ftBCD 2",
+                    "n0 ftBCD 0",
+                    "b ftBoolean 0",
+                    "c ftString 5",
+                    "v ftString 30",
+                    "v0 ftString 0",
+                    "t ftString 0",
+                    "m ftString 0",
+                    "dom ftString 7",
+                    "dom2 ftString 7 required",
+                    "dt ftDate 0",
+                    "tm ftTime 0",
+                    "ts ftDateTime 0",
+                    "tz ftDateTime 0",
+                    "j ftMemo 0",
+                    "u ftString 36",
+                    "by ftBlob 0",
+                    "a ftString 0",
+                    "cash ftString 0",
+                    "bits ftString 12",
+                    "calc ftInteger 0"};
+        break;
+    case TKEngine::MySQL:
+        Run("CREATE TABLE every (id int AUTO_INCREMENT PRIMARY KEY, flag tinyint(1), t1 tinyint,"
+            " s smallint unsigned, mi mediumint, iu int unsigned, bi bigint, y year, f float,"
+            " d decimal(12,3), c char(5), v varchar(30) NOT NULL, e enum('a','bcd'), tx text, j "
+            "json,"
+            " dt date, tm time, ts datetime, b1 bit(1), b9 bit(9), bin binary(4), vb varbinary(6),"
+            " bl blob, calc int AS (mi + 1));\n");
+        expected = {"id ftAutoInc 0 required",
+                    "flag ftBoolean 0",
+                    "t1 ftSmallint 0",
+                    "s ftWord 0",
+                    "mi ftInteger 0",
+                    "iu ftLargeint 0",
+                    "bi ftLargeint 0",
+                    "y ftSmallint 0",
+                    "f ftFloat 0",
+                    "d ftBCD 3",
+                    "c ftString 5",
+                    "v ftString 30 required",
+                    "e ftString 3",
+                    "tx ftMemo 0",
+                    "j ftMemo 0",
+                    "dt ftDate 0",
+                    "tm ftTime 0",
+                    "ts ftDateTime 0",
+                    "b1 ftBoolean 0",
+                    "b9 ftBytes 2",
+                    "bin ftBytes 4",
+                    "vb ftVarBytes 6",
+                    "bl ftBlob 0",
+                    "calc ftInteger 0"};
+        break;
+    default:
+        Run("CREATE TABLE every (id INTEGER PRIMARY KEY, big bigint, s SMALLINT, i int unsigned,"
+            " r REAL, dp double precision, n DECIMAL( 10 , 2 ), n0 numeric, b BOOLEAN,"
+            " v VARCHAR ( 30 ) NOT NULL, nc native character(70), t TEXT, cl clob, dt DATE, tm "
+            "TIME,"
+            " ts TIMESTAMP WITH TIME ZONE, m money, bl BLOB, none, odd FLOATING POINT,"
+            " word whatever, calc INT AS (s + 1));\n");
+        expected = {"id ftAutoInc 0 required",
+                    "big ftLargeint 0",
+                    "s ftSmallint 0",
+                    "i ftInteger 0",
+                    "r ftFloat 0",
+                    "dp ftFloat 0",
+                    "n ftBCD 2",
+                    "n0 ftBCD 0",
+                    "b ftBoolean 0",
+                    "v ftString 30 required",
+                    "nc ftString 70",
+                    "t ftString 0",
+                    "cl ftMemo 0",
+                    "dt ftDate 0",
+                    "tm ftTime 0",
+                    "ts ftDateTime 0",
+                    "m ftCurrency 0",
+                    "bl ftBlob 0",
+                    "none ftString 0",
+                    "odd ftInteger 0",
+                    "word ftBCD 0",
+                    "calc ftInteger 0"};
+    }
+    EXPECT_EQ(Described(info.GetFieldList("every")), expected);
+    EXPECT_EQ(Described(info.GetFieldList("EVERY")), expected) << "names ignore case";
+}
+
+TEST_P(TSQLiteInfo, OnlyARowIdIsAutomatic) {
+    Run("CREATE TABLE two (a INTEGER, b INTEGER, PRIMARY KEY (a, b));\n"
+        "CREATE TABLE plain (a INT PRIMARY KEY);\n"
+        "CREATE TABLE noid (a INTEGER PRIMARY KEY) WITHOUT ROWID;\n");
+    EXPECT_EQ(Described(info.GetFieldList("two")), (TLines{"a ftInteger 0", "b ftInteger 0"}));
+    EXPECT_EQ(Described(info.GetFieldList("plain")), (TLines{"a ftInteger 0"}));
+    EXPECT_EQ(Described(info.GetFieldList("noid")), (TLines{"a ftInteger 0 required"}));
+}
+
+TEST_P(TBDEInfo, TablesAndViewsThatCanBeRead) {
+    Run("CREATE TABLE b (x int);\nCREATE TABLE a (y int);\n"
+        "CREATE VIEW v AS SELECT x AS z FROM b;\n");
+    TLines expected = {"a", "b", "v"};
+    if (GetParam() == TKEngine::SQLite) {
+        Run("CREATE TABLE counted (id INTEGER PRIMARY KEY AUTOINCREMENT);\n"
+            "CREATE VIEW broken AS SELECT x FROM nowhere;\n"
+            "CREATE VIRTUAL TABLE words USING fts5(t);\n");
+        expected = {"a", "b", "counted", "v", "words"};
+    } else if (GetParam() == TKEngine::PostgreSQL) {
+        Run("CREATE TABLE p (k int) PARTITION BY HASH (k);\n"
+            "CREATE TABLE p1 PARTITION OF p FOR VALUES WITH (MODULUS 1, REMAINDER 0);\n"
+            "CREATE MATERIALIZED VIEW m AS SELECT 1 AS one;\n");
+        expected = {"a", "b", "m", "p", "v"};
+    }
+    EXPECT_EQ(Tables(), expected);
+    EXPECT_EQ(Described(info.GetFieldList("v")), TLines{"z ftInteger 0"});
+}
+
+TEST_P(TBDEInfo, ColumnsOfAllTablesAreReadAtTheSecondTable) {
+    Run("CREATE TABLE a (x int);\nCREATE TABLE b (y int);\nCREATE TABLE c (z int);\n");
+    const TLines column = {"x ftInteger 0"};
+    EXPECT_EQ(Described(info.GetFieldList("a")), column);
+    Run("ALTER TABLE a ADD COLUMN x2 int;\n");
+    EXPECT_EQ(Described(info.GetFieldList("a")), column) << "one request for one table";
+    EXPECT_EQ(info.GetFieldList("b").GetCount(), 1);
+    Run("DROP TABLE c;\nCREATE TABLE d (w int);\n");
+    EXPECT_EQ(info.GetFieldList("c").GetCount(), 1) << "was read together with b";
+    EXPECT_EQ(info.GetFieldList("d").GetCount(), 1) << "made since";
+    info.Update();
+    EXPECT_EQ(info.GetFieldList("a").GetCount(), 2);
+    EXPECT_THROW(info.GetFieldList("c"), EKDBInfoError);
+}
+
+TEST_P(TBDEInfo, ForeignKeysInTheOrderOfTheirColumns) {
+    Run("CREATE TABLE parent (p1 int NOT NULL, p2 int NOT NULL, PRIMARY KEY (p1, p2));\n"
+        "CREATE TABLE person (id int NOT NULL PRIMARY KEY, boss int,"
+        " FOREIGN KEY (boss) REFERENCES person (id));\n"
+        "CREATE TABLE child (c2 int, c1 int NOT NULL, made_by int NOT NULL, sent_by int,"
+        " FOREIGN KEY (sent_by) REFERENCES person (id),"
+        " FOREIGN KEY (made_by) REFERENCES person (id),"
+        " FOREIGN KEY (c1, c2) REFERENCES parent (p1, p2));\n");
+    EXPECT_EQ(
+        Keys(),
+        (TLines{"child(c1,c2) -> parent(p1,p2) optional", "child(made_by) -> person(id)",
+                "child(sent_by) -> person(id) optional", "person(boss) -> person(id) optional"}));
+}
+
+TEST_P(TSQLiteInfo, KeysThatLeadNowhereAreLeftOut) {
+    Run("CREATE TABLE Parent (a INT, b INT, PRIMARY KEY (b, a));\n"
+        "CREATE TABLE child (x INT NOT NULL, y INT NOT NULL, z INT REFERENCES missing,"
+        " w INT REFERENCES parent (nocolumn),"
+        " FOREIGN KEY (X, y) REFERENCES parent, FOREIGN KEY (x, y) REFERENCES parent (b, a));\n");
+    EXPECT_EQ(Keys(), TLines{"child(x,y) -> Parent(b,a)"});
+}
+
+TEST_P(TBDEInfo, NamesThatNeedNoQuotesWorkWithoutThem) {
+    const TLines names = {"plain", "_x1",    "order", "select", "user", "value", "key",  "offset",
+                          "level", "window", "rank",  "name",   "date", "index", "year", "groups"};
+    for (const std::string& name : names) {
+        if (info.NeedsQuotes(name)) continue;
+        SCOPED_TRACE(name);
+        Run("CREATE TABLE " + name + " (" + name + " int);\n");
+        EXPECT_NO_THROW(Run("SELECT " + name + "." + name + " FROM " + name + " ORDER BY " + name));
+        EXPECT_EQ(Tables(), TLines{name});
+        Run("DROP TABLE " + name);
+    }
+    for (const char* name : {"order", "select", "a b", "9a", "a-b", "gr\u00f6\u00dfe", ""})
+        EXPECT_TRUE(info.NeedsQuotes(name)) << name;
+    EXPECT_FALSE(info.NeedsQuotes("plain"));
+    EXPECT_EQ(info.NeedsQuotes("MixedCase"), GetParam() == TKEngine::PostgreSQL);
+    const char quote = GetParam() == TKEngine::MySQL ? '`' : '"';
+    EXPECT_EQ(info.QuoteSymbol1(), quote);
+    EXPECT_EQ(info.QuoteSymbol2(), quote);
+}
+
+TEST_P(TBDEInfo, TablesOfAnotherSchemaCarryItsName) {
+    const bool quoted = GetParam() != TKEngine::MySQL;
+    const std::string odd = quoted ? "\"Odd Name\"" : "`Odd Name`";
+    if (GetParam() == TKEngine::SQLite)
+        Run("ATTACH ':memory:' AS sales");
+    else
+        Run("CREATE SCHEMA sales");
+    Run("CREATE TABLE items (a int);\nCREATE TABLE sales.items (id int NOT NULL PRIMARY KEY);\n"
+        "CREATE TABLE sales." +
+        odd + " (line int, FOREIGN KEY (line) REFERENCES " +
+        (GetParam() == TKEngine::SQLite ? "items" : "sales.items") + " (id));\n");
+    info.SetSchema("sales");
+    EXPECT_EQ(Tables(), (TLines{"sales." + odd, "sales.items"}));
+    for (const std::string& table : Tables()) {
+        EXPECT_FALSE(info.NeedsQuotes(table)) << table;
+        EXPECT_NO_THROW(Run("SELECT * FROM " + table));
+    }
+    EXPECT_EQ(Described(info.GetFieldList("sales.items")), TLines{"id ftInteger 0 required"});
+    EXPECT_EQ(Described(info.GetFieldList("sales." + odd)), TLines{"line ftInteger 0"});
+    std::vector<TDBForeignKey> keys;
+    info.GetForeignKeys(keys);
+    ASSERT_EQ(keys.size(), 1u);
+    EXPECT_EQ(keys[0].Table, "sales." + odd);
+    EXPECT_EQ(keys[0].RefTable, "sales.items");
+    TStrings saved;
+    info.SaveInfo(saved);
+    EXPECT_EQ(saved, (TStrings{"DatabaseName=test", "Schema=sales"}));
+}
+
+TEST_P(TBDEInfo, ValueListsComeInCanonicalForm) {
+    Run("CREATE TABLE t (id int, n decimal(10,2), d date, name varchar(20));\n"
+        "INSERT INTO t VALUES (1, 12.30, '2024-01-02', 'one'), (2, NULL, NULL, 'two; it''s');\n");
+    std::vector<bool> busy;
+    info.OnBusy = [&](bool on) { busy.push_back(on); };
+    TStrings values = {"old"};
+    TStrings captions = {"old"};
+    info.GetSQLValues("SELECT id, name -- of all\nFROM t ORDER BY id;", values, captions);
+    EXPECT_EQ(values, (TStrings{"1", "2"}));
+    EXPECT_EQ(captions, (TStrings{"one", "two; it's"}));
+    EXPECT_EQ(busy, (std::vector<bool>{true, false}));
+    info.GetSQLValues("SELECT d, n FROM t ORDER BY id", values, captions);
+    EXPECT_EQ(values, (TStrings{"2024-01-02", ""}));
+    const bool exact = GetParam() != TKEngine::SQLite; // which keeps a binary number
+    EXPECT_EQ(captions, (TStrings{exact ? "12.30" : "12.3", ""}));
+}
+
+TEST_P(TBDEInfo, ValueListsAreRefusedInWords) {
+    Run("CREATE TABLE t (id int)");
+    const std::pair<const char*, const char*> cases[] = {
+        {"SELECT id FROM t", "Field count must be >= 2"},
+        {"DROP TABLE t", "Only SELECT statements are executed"},
+        {"SELECT 1, 2; DROP TABLE t", "Only one statement is executed at a time"},
+        {"SELECT id, id FROM t WHERE id = :id", "A parameter has no value: :id"},
+        {"SELECT id, nothing FROM t", "nothing"},
+    };
+    for (const auto& [sql, message] : cases) {
+        TStrings values = {"old"};
+        TStrings captions = {"old"};
+        bool isBusy = false;
+        info.OnBusy = [&](bool on) { isBusy = on; };
+        try {
+            info.GetSQLValues(sql, values, captions);
+            ADD_FAILURE() << sql;
+        } catch (const EKDBInfoError& error) {
+            EXPECT_NE(std::string(error.what()).find(message), std::string::npos) << error.what();
+        }
+        EXPECT_TRUE(values.empty() && captions.empty()) << sql;
+        EXPECT_FALSE(isBusy) << sql;
+    }
+    EXPECT_EQ(Tables(), TLines{"t"});
+}
+
+TEST_P(TBDEInfo, ValueListsLeaveTheApplicationsTransactionAlone) {
+    Run("CREATE TABLE t (id int)");
+    QSqlDatabase database = writer->Database();
+    ASSERT_TRUE(database.transaction());
+    Run("INSERT INTO t VALUES (5)");
+    TStrings values;
+    TStrings captions;
+    info.GetSQLValues("SELECT id, id FROM t", values, captions);
+    EXPECT_EQ(values, TStrings{"5"}) << "sees what the application wrote";
+    Run("INSERT INTO t VALUES (6)");
+    ASSERT_TRUE(database.rollback());
+    info.GetSQLValues("SELECT id, id FROM t", values, captions);
+    EXPECT_TRUE(values.empty());
+    Run("INSERT INTO t VALUES (7)");
+}
+
+TEST(BDEInfo, ConnectionName) {
+    TKBDEInfo info;
+    info.LoadInfo({"DatabaseName=nobody", "Schema="});
+    EXPECT_EQ(info.DatabaseName(), "nobody");
+    info.LoadInfo({"DatabaseName="});
+    EXPECT_EQ(info.DatabaseName(), "nobody");
+    TStrings lines;
+    info.SaveInfo(lines);
+    EXPECT_EQ(lines, TStrings{"DatabaseName=nobody"});
+    TStrings tables;
+    try {
+        info.GetTableNames(tables);
+        ADD_FAILURE();
+    } catch (const EKDBInfoError& error) {
+        EXPECT_STREQ(error.what(), "No such database connection: nobody");
+    }
+}
+
+} // namespace tern7::test
