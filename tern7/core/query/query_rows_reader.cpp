@@ -25,6 +25,12 @@ bool IsRowSection(std::string_view name) {
            std::all_of(name.begin() + 3, name.end(), IsDigit);
 }
 
+/// What a row without a type can only be; -1 when it can be either, as in a text that was cut off.
+int MissingRowType(const TKIniSection& section, int number) {
+    if (number == 0 || section.Has("RowCount")) return 1;
+    return section.Has("Operator") ? 0 : -1;
+}
+
 class TRowsParser {
 public:
     TRowsParser(double formatVersion, const TKQuery& owner)
@@ -38,7 +44,9 @@ private:
     void ParseField(const TKIniSection& section, TRowText& row) const;
     void ParseOperator(const TKIniSection& section, TRowText& row) const;
     void ParseValue(const TKIniSection& section, TRowText& row, int slot) const;
+    size_t FirstGap() const;
     [[noreturn]] void RaiseMissingRow() const;
+    [[noreturn]] void RaiseTooManyRows(const TKIniSection& root) const;
 
     double version;
     const TKQuery& query;
@@ -51,10 +59,11 @@ std::vector<TRowText> TRowsParser::Parse(const TKIniText& text) {
     const TKIniSection* root = nullptr;
     for (const TKIniSection& section : text.Sections()) {
         if (!IsRowSection(section.Name())) continue;
-        if (root && open.empty()) RaiseWrongValue(*root, "RowCount"); // it says fewer
+        if (root && open.empty()) RaiseTooManyRows(*root);
         rows.push_back(ParseRow(section));
         const TRowText& row = rows.back();
         if (!root) {
+            if (!row.isBracket && row.id != 0) RaiseMissingRow();
             if (!row.isBracket) RaiseWrongValue(section, "RowType");
             root = &section;
         } else {
@@ -70,12 +79,21 @@ std::vector<TRowText> TRowsParser::Parse(const TKIniText& text) {
     return std::move(rows);
 }
 
-void TRowsParser::RaiseMissingRow() const {
-    // rows are numbered depth first: the first gap is what is missing
-    int missing = 0;
+size_t TRowsParser::FirstGap() const {
+    // rows are numbered depth first
+    int next = 0;
     for (const TRowText& row : rows)
-        if (row.id == missing) ++missing;
-    RaiseSectionNotFound("Row" + std::to_string(missing));
+        if (row.id == next) ++next;
+    return static_cast<size_t>(next);
+}
+
+void TRowsParser::RaiseMissingRow() const {
+    RaiseSectionNotFound("Row" + std::to_string(FirstGap()));
+}
+
+void TRowsParser::RaiseTooManyRows(const TKIniSection& root) const {
+    if (FirstGap() < rows.size()) RaiseMissingRow(); // a bracket is missing, its rows are not
+    RaiseWrongValue(root, "RowCount");
 }
 
 TRowText TRowsParser::ParseRow(const TKIniSection& section) const {
@@ -83,10 +101,11 @@ TRowText TRowsParser::ParseRow(const TKIniSection& section) const {
     const int number = static_cast<int>(rows.size());
     row.id = XStrToInt(section.Name().substr(3), number);
     row.enabled = section.Bool("Enabled", true);
-    row.isBracket = IntInRange(section, "RowType", number == 0 ? 1 : 0, 0, 1) == 1;
+    row.isBracket = IntInRange(section, "RowType", MissingRowType(section, number), 0, 1) == 1;
     if (row.isBracket) {
         row.linkType = static_cast<TFilterLinkType>(IntInRange(section, "LinkType", 0, 0, 3));
-        row.rowCount = IntInRange(section, "RowCount", 0, 0, INT_MAX);
+        // without it rows that follow could be lost unseen
+        row.rowCount = IntInRange(section, "RowCount", -1, 0, INT_MAX);
     } else {
         ParseCondition(section, row);
     }
@@ -160,7 +179,9 @@ void AddCondition(TFilterCond& condition, TRowText& row) {
         TSQLParam* param = condition.Param(n);
         if (!param) continue;
         if (!value.format.empty()) param->SetValueFormat(std::move(value.format));
-        if (value.hasCaption) param->SetCaption(std::move(value.caption));
+        // one that says what is made of the field's anyway goes on following the field
+        if (value.hasCaption && value.caption != param->Caption())
+            param->SetCaption(std::move(value.caption));
     }
     condition.SetSubQuery(std::move(row.subQuery), row.subQueryOptions);
 }
