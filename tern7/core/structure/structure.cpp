@@ -120,6 +120,7 @@ void TKCustomDBStructure::ClearStructure() {
         fields.Clear();
         tables.Clear();
         lastFieldOrder = 0;
+        defaultMainTable.clear();
     }
     UpdateDefOperators();
     Changed();

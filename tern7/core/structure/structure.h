@@ -144,8 +144,8 @@ public:
     const TDSPath& GetPath(const TDSTable& start, const TDSTable& end);
 
     // --- the whole
-    /// Deletes links, fields, groups and tables, and refreshes the default operators' display
-    /// texts; the operators stay. Linear.
+    /// Deletes links, fields, groups and tables, forgets the default main table, and refreshes the
+    /// default operators' display texts; the operators stay. Linear.
     void ClearStructure();
     /// True with fewer than two fields; one field counts as empty on purpose.
     bool GetEmpty() const { return fields.GetCount() < 2; }
@@ -215,6 +215,7 @@ private:
     friend class TDSFieldGroupList;
     friend class TKStructureReader;
     friend class TKStructureWriter;
+    friend void ImportDatabase(TKCustomDBStructure& structure);
     class TReferencesReleased; // releases the observers' references while it lives
 
     struct TIndexes;   // lookups, built when first asked and kept up to date
@@ -291,7 +292,8 @@ private:
 /// Makes a structure of a whole database: every table with its columns, one group per table, links
 /// from foreign keys (a second key to the same table, or a key of a table to itself, leads to a
 /// copy of the table under its own alias), readable display names, formats `yyyy-mm-dd` and
-/// `hh:nn:ss`. Replaces what the structure holds; EKDBStructError "DatabaseInfo is not specified".
+/// `hh:nn:ss`. Replaces what the structure holds but its operators; errors of the database pass
+/// through and leave the structure as it was; EKDBStructError "DatabaseInfo is not specified".
 void ImportDatabase(TKCustomDBStructure& structure);
 
 /// "order_id" as people write it: "Order id".

@@ -35,6 +35,7 @@ void TKCustomDBStructure::DelTable(int index) {
     TReferencesReleased references(*this);
     DeleteLinksOf(table);
     DeleteFieldsOf(table);
+    if (SameText(defaultMainTable, table->TableAlias())) defaultMainTable.clear();
     indexes->DropTables();
     ForgetPaths();
     tables.Delete(index);
