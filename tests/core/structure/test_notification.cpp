@@ -121,6 +121,7 @@ TEST(Notification, HandlersMayDeleteWhatCallsThem) {
     first.whenChanged = [&] { first.structure->RemoveObserver(&second); };
     structure->GetField(0)->SetFieldSize(3);
     EXPECT_EQ(first.log + second.log + third.log, "cc");
+    second.structure = nullptr;
 
     first.whenChanged = [&] {
         first.whenChanged = nullptr;
