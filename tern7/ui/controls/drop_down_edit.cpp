@@ -127,16 +127,16 @@ bool TDropDownCustomEdit::TakesKey(QChar key) const {
     return (key >= u'0' && key <= u'9') || key == keyBackspace || key == u'"' || key == u',';
 }
 
-// --- TDropDownEdit
+// --- editors with an edit box
 
-TDropDownEdit::TDropDownEdit(QWidget* parent) : TDropDownCustomEdit(parent) {}
+TDropDownLineEdit::TDropDownLineEdit(QWidget* parent) : TDropDownCustomEdit(parent) {}
 
-TDropDownEdit::~TDropDownEdit() {
+TDropDownLineEdit::~TDropDownLineEdit() {
     if (edit) edit->Events.Clear();
     DiscardEditor(edit);
 }
 
-void TDropDownEdit::CreateControl() {
+void TDropDownLineEdit::CreateControl() {
     TDropDownCustomEdit::CreateControl();
     if (edit) return edit->setParent(parentWidget());
     edit = new TSilentEdit(parentWidget());
@@ -148,32 +148,32 @@ void TDropDownEdit::CreateControl() {
     });
 }
 
-TSilentEdit* TDropDownEdit::Edit() const {
-    return edit;
-}
-
-QWidget* TDropDownEdit::EditControl() const {
+QWidget* TDropDownLineEdit::EditControl() const {
     EnsureControl();
     return edit;
 }
 
-void TDropDownEdit::ShowEditControl() {
+void TDropDownLineEdit::ShowEditControl() {
     edit->SetBorderColor(BorderColor());
     edit->setText(Value());
     edit->selectAll();
     edit->show();
 }
 
-void TDropDownEdit::AcceptInput() {
+void TDropDownLineEdit::AcceptInput() {
     if (IsEditMode()) SetValue(edit->text());
 }
 
-QString TDropDownEdit::GetEditText() const {
+QString TDropDownLineEdit::GetEditText() const {
     return edit ? edit->text() : QString();
 }
 
-void TDropDownEdit::SetEditText(const QString& text) {
-    if (edit) edit->setText(text);
+void TDropDownLineEdit::SetEditText(const QString& text) {
+    if (!edit) return;
+    edit->setText(text);
+    edit->setModified(true);
 }
+
+TDropDownEdit::TDropDownEdit(QWidget* parent) : TDropDownLineEdit(parent) {}
 
 } // namespace tern7

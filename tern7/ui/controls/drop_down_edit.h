@@ -1,11 +1,9 @@
 #pragma once
 
 #include <tern7/ui/controls/drop_down_label.h>
-#include <tern7/ui/controls/editor_events.h>
+#include <tern7/ui/controls/silent_edit.h>
 
 namespace tern7 {
-
-class TSilentEdit;
 
 /// A label that is edited in place: the editor stands where the label was and grows with its text.
 /// Enter accepts, Escape discards, leaving the editor accepts.
@@ -74,13 +72,13 @@ private:
 
 using TValueType = TDropDownCustomEdit::TValueType;
 
-/// A label that is edited in an edit box.
-class TDropDownEdit : public TDropDownCustomEdit {
+/// What the editors with an edit box share: its value is the text.
+class TDropDownLineEdit : public TDropDownCustomEdit {
     Q_OBJECT
 
 public:
-    explicit TDropDownEdit(QWidget* parent = nullptr);
-    ~TDropDownEdit() override;
+    explicit TDropDownLineEdit(QWidget* parent = nullptr);
+    ~TDropDownLineEdit() override;
 
     QWidget* EditControl() const override;
 
@@ -91,10 +89,18 @@ protected:
     QString GetEditText() const override;
     void SetEditText(const QString& text) override;
 
-    TSilentEdit* Edit() const;
+    TSilentEdit* Edit() const { return edit; }
 
 private:
     QPointer<TSilentEdit> edit;
+};
+
+/// A label that is edited in an edit box.
+class TDropDownEdit : public TDropDownLineEdit {
+    Q_OBJECT
+
+public:
+    explicit TDropDownEdit(QWidget* parent = nullptr);
 };
 
 } // namespace tern7

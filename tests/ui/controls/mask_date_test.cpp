@@ -1,0 +1,141 @@
+#include <QDateTimeEdit>
+
+#include <tern7/ui/controls/drop_down_date_time_edit.h>
+#include <tern7/ui/controls/drop_down_mask_edit.h>
+#include <tern7/ui/controls/edit_mask.h>
+#include <tern7/ui/support/local_dates.h>
+#include <ui/controls/control_form.h>
+
+namespace tern7 {
+
+TEST(MaskEdit, MaskIsTranslated) {
+    const struct {
+        QString mask, inputMask, shown, typed;
+    } cases[] = {
+        {"", "", "any", "any"},
+        {"!99/99/0000;1;_", "00/00/9999;_", "1_/2_/2024", "122024"},
+        {"(000) 000-0000;0;*", "(999) 999-9999;*", "(0**) ***-****", "0"},
+        {">LLL<lll<>Aa", ">AAA<aaa!Nn;_", "ABCdefXy", "ABCdefXy"},
+        {"\\A-Cc\\\\#", "\\A-Xx\\\\#;_", "A-x_\\+", "x+"},
+        {"N[0]", "\\N\\[9\\];_", "N[7]", "7"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.mask.toStdString());
+        const TEditMask mask(c.mask);
+        EXPECT_EQ(mask.InputMask(), c.inputMask);
+        EXPECT_EQ(mask.Typed(c.shown), c.typed);
+    }
+}
+
+TEST(MaskEdit, ValueWithAndWithoutLiterals) {
+    const struct {
+        bool formatted;
+        QString value, typed, result;
+    } cases[] = {
+        {true, "", "0712", "07/12"},
+        {false, "", "0712", "0712"},
+        {false, "", "07", "07"},
+        {true, "", "", ""},
+        {true, "07/12", "0811", "08/11"},
+        {false, "0712", "0811", "0811"},
+        {true, "does not fit", "", "does not fit"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.value.toStdString() + "<" + c.typed.toStdString());
+        TControlForm form;
+        auto* label = form.Add<TDropDownMaskEdit>();
+        label->SetEditMask("99/99");
+        label->SetUseFormattedValue(c.formatted);
+        label->SetValue(c.value);
+        ASSERT_TRUE(form.Open());
+        label->DropDown();
+        Type(c.typed);
+        Press(Qt::Key_Return);
+        EXPECT_EQ(label->Value(), c.result);
+    }
+}
+
+TEST(DateTimeEdit, LocalForms) {
+    const struct {
+        const char* locale;
+        QString date, time;
+    } cases[] = {{"C", "2 Jan 2024", "15:04:05"},
+                 {"de_DE", "02.01.2024", "15:04:05"},
+                 {"en_US", "1/2/2024", "15:04:05"},
+                 {"fr_CA", "2024-01-02", "15 h 04:05"},
+                 {"cs_CZ", "02.01.2024", "15:04:05"}};
+    const QDate date(2024, 1, 2);
+    const QTime time(15, 4, 5);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.locale);
+        const QLocale locale(c.locale);
+        EXPECT_EQ(locale.toString(date, LocalDateFormat(locale)), c.date);
+        EXPECT_EQ(locale.toString(time, LocalTimeFormat(locale)), c.time);
+        EXPECT_EQ(ReadLocalDate(c.date, locale), date);
+        EXPECT_EQ(ReadLocalTime(c.time, locale), time);
+        EXPECT_EQ(ReadLocalDateTime(c.date + ' ' + c.time, locale), QDateTime(date, time));
+        EXPECT_EQ(ReadLocalDateTime("2024-01-02T15:04:05", locale), QDateTime(date, time));
+        EXPECT_EQ(ReadLocalDateTime(c.date, locale), QDateTime(date, QTime(0, 0)));
+        EXPECT_FALSE(ReadLocalDate("no date", locale).isValid());
+        EXPECT_FALSE(ReadLocalDateTime("2024-01-02 soon", locale).isValid());
+    }
+}
+
+TEST(DateTimeEdit, Values) {
+    const QString today = QDate::currentDate().toString("dd.MM.yyyy");
+    const struct {
+        const char* name;
+        TDateTimeEditKind kind;
+        QString value;
+        std::vector<Qt::Key> keys;
+        QString result;
+    } cases[] = {
+        {"the day before",
+         TDateTimeEditKind::ekDate,
+         "31.12.1699",
+         {Qt::Key_Down, Qt::Key_Return},
+         "30.12.1699"},
+        {"read from ISO", TDateTimeEditKind::ekDate, "2024-01-02", {Qt::Key_Return}, "02.01.2024"},
+        {"left as it was", TDateTimeEditKind::ekDate, "2024-01-02", {}, "2024-01-02"},
+        {"unreadable, left", TDateTimeEditKind::ekDate, "soon", {}, "soon"},
+        {"unreadable, Enter", TDateTimeEditKind::ekDate, "soon", {Qt::Key_Return}, today},
+        {"discarded", TDateTimeEditKind::ekDate, "", {Qt::Key_Up, Qt::Key_Escape}, ""},
+        {"typed",
+         TDateTimeEditKind::ekDate,
+         "",
+         {Qt::Key_0, Qt::Key_7},
+         QDate(QDate::currentDate().year(), QDate::currentDate().month(), 7)
+             .toString("dd.MM.yyyy")},
+        {"time", TDateTimeEditKind::ekTime, "7:05", {Qt::Key_Up}, "08:05:00"},
+    };
+    QLocale::setDefault(QLocale("de_DE"));
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        TControlForm form;
+        auto* label = form.Add<TDropDownDateTimeEdit>();
+        label->SetKind(c.kind);
+        label->SetValue(c.value);
+        ASSERT_TRUE(form.Open());
+        label->DropDown();
+        ASSERT_TRUE(label->EditControl()->hasFocus());
+        EXPECT_GE(label->EditControl()->width(), label->EditControl()->sizeHint().width());
+        for (const Qt::Key key : c.keys)
+            Press(key);
+        if (label->Dropped()) ClickAt(form.neighbour, {5, 5});
+        EXPECT_EQ(label->Value(), c.result);
+        EXPECT_FALSE(label->Dropped());
+    }
+    QLocale::setDefault(QLocale::c());
+}
+
+TEST(DateTimeEdit, DestroyedWhileOpen) {
+    TControlForm form;
+    QPointer<TDropDownDateTimeEdit> label = form.Add<TDropDownDateTimeEdit>();
+    label->BeforeDropUp = [&](TDropDownLabel*, const QString&, bool&) { delete label; };
+    ASSERT_TRUE(form.Open());
+    label->DropDown();
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(label);
+}
+
+} // namespace tern7
