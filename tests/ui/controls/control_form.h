@@ -59,13 +59,25 @@ inline void ClickAt(QWidget* widget, QPoint at, Qt::KeyboardModifiers modifiers 
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, modifiers, widget->mapTo(window, at));
 }
 
+/// Where a key that is pressed now would go.
+inline QWidget* KeyTarget() {
+    QWidget* popup = QApplication::activePopupWidget();
+    if (!popup) return QApplication::focusWidget();
+    return popup->focusWidget() ? popup->focusWidget() : popup;
+}
+
 inline void Type(const QString& text) {
     for (const QChar c : text)
-        QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
+        QTest::keyClick(KeyTarget(), c.toLatin1());
 }
 
 inline void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    QTest::keyClick(KeyTarget(), key, modifiers);
+}
+
+inline void Press(std::initializer_list<Qt::Key> keys) {
+    for (const Qt::Key key : keys)
+        Press(key);
 }
 
 } // namespace tern7

@@ -1,0 +1,70 @@
+#include <tern7/ui/controls/check_list_box.h>
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace tern7 {
+
+TKCheckListBox::TKCheckListBox(QWidget* parent) : QListView(parent) {
+    model.SetCheckable(true);
+    setModel(&model);
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    ApplySelectionMode();
+    connect(&model, &TItemListModel::checkChanged, this, &TKCheckListBox::checkChanged);
+}
+
+void TKCheckListBox::SetExtendedSelect(bool on) {
+    extendedSelect = on;
+    ApplySelectionMode();
+}
+
+void TKCheckListBox::SetMultiSelect(bool on) {
+    multiSelect = on;
+    ApplySelectionMode();
+}
+
+void TKCheckListBox::ApplySelectionMode() {
+    setSelectionMode(!multiSelect     ? SingleSelection
+                     : extendedSelect ? ExtendedSelection
+                                      : MultiSelection);
+}
+
+/// All selected rows take the mark that the given one gets.
+void TKCheckListBox::Toggle(const QModelIndex& index) {
+    if (!index.isValid()) return;
+    const bool on = !model.Checked(model.ItemOf(index.row()));
+    QModelIndexList changed = selectionModel()->selectedIndexes();
+    if (!changed.contains(index)) changed = {index};
+    for (const QModelIndex& row : changed)
+        model.SetChecked(model.ItemOf(row.row()), on);
+    OnClickCheck(this);
+}
+
+void TKCheckListBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier)
+        return QListView::keyPressEvent(event);
+    event->accept();
+    Toggle(currentIndex());
+}
+
+// The base class would switch the mark when the small box itself is hit, too: it only selects here.
+void TKCheckListBox::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || !index.isValid()) return;
+    const bool selecting =
+        multiSelect && (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
+    selectionModel()->setCurrentIndex(index, selectionCommand(index, event));
+    if (!selecting) Toggle(index);
+}
+
+void TKCheckListBox::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void TKCheckListBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+}
+
+} // namespace tern7

@@ -1,0 +1,323 @@
+#include <tern7/ui/controls/popup_menu.h>
+
+#include <algorithm>
+
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QScreen>
+#include <QStyle>
+
+#include <tern7/ui/controls/accessible_label.h>
+#include <tern7/ui/controls/text_search.h>
+#include <tern7/ui/support/system_metrics.h>
+#include <tern7/ui/support/text_size.h>
+
+namespace tern7 {
+
+namespace {
+
+void ForgetBreaks(TMenuItem& item) {
+    item.Break = TMenuBreak::mbNone;
+    for (int i = 0; i < item.Count(); ++i)
+        ForgetBreaks(item.Items(i));
+}
+
+void Split(TMenuItem& item, int limit, TKPopupSplitType type, TMenuBreak breakType) {
+    for (const int at : ColumnBreaks(item.Count(), limit, type))
+        item.Items(at).Break = breakType;
+    for (int i = 0; i < item.Count(); ++i)
+        if (item.Items(i).Count() > 0) Split(item.Items(i), limit, type, breakType);
+}
+
+/// Calls `visit` for every item that can be chosen, below all sub menus, in their order.
+template <class Visit>
+void ForEachLeaf(TMenuItem& menu, const Visit& visit) {
+    for (int i = 0; i < menu.Count(); ++i) {
+        TMenuItem& item = menu.Items(i);
+        if (item.HasSubMenu())
+            ForEachLeaf(item, visit);
+        else if (!item.IsSeparator())
+            visit(item);
+    }
+}
+
+} // namespace
+
+TKPopupMenu::TKPopupMenu(QWidget* parent)
+    : QWidget(parent, Qt::Popup), ownRoot(std::make_unique<TMenuItem>()), root(ownRoot.get()) {
+    root->BeforeChange = [this] {
+        if (isVisible()) CloseAll();
+    };
+    Init();
+}
+
+TKPopupMenu::TKPopupMenu(TMenuItem& submenu, TKPopupMenu& from)
+    : QWidget(&from, Qt::Popup), root(&submenu), opener(&from), images(from.images) {
+    Init();
+    setFont(from.font());
+    setLayoutDirection(from.layoutDirection());
+    setAccessibleName(submenu.PlainCaption());
+}
+
+TKPopupMenu::~TKPopupMenu() = default;
+
+void TKPopupMenu::Init() {
+    InstallAccessibleControls();
+    setAttribute(Qt::WA_WindowPropagation);
+    setAttribute(Qt::WA_X11NetWmWindowTypePopupMenu);
+    setMouseTracking(true);
+}
+
+// --- opening
+
+void TKPopupMenu::Popup(int X, int Y) {
+    PopupAt(QRect(X, Y, 0, 0));
+}
+
+void TKPopupMenu::PopupAt(const QRect& at) {
+    CloseSub();
+    anchor = at;
+    SystemMetrics().GetMetricSettings();
+    setFont(SystemMetrics().Font());
+    PrepareSearch();
+    if (fitToScreen) SplitIntoColumns();
+    ShowItems();
+    Lay();
+    if (shown.empty()) {
+        emit closed();
+        return;
+    }
+    Place();
+    mouseUsed = false;
+    openedAt = QCursor::pos();
+    if (search) search->setFocus();
+    show();
+    for (const TMenuItem* item = first; item; item = item->Parent()) {
+        const auto row = std::find(shown.begin(), shown.end(), item);
+        if (row != shown.end()) SetCurrentRow(static_cast<int>(row - shown.begin()));
+    }
+}
+
+void TKPopupMenu::SplitIntoColumns() {
+    const int chrome = 2 * FrameWidth() + (search ? search->sizeHint().height() : 0);
+    const int limit = (ScreenRoom().height() - chrome) / RowHeight();
+    ForgetBreaks(*root);
+    Split(*root, std::max(limit, 1), splitType, breakType);
+}
+
+void TKPopupMenu::PrepareSearch() {
+    int choices = 0;
+    ForEachLeaf(*root, [&](TMenuItem&) { ++choices; });
+    delete search;
+    search = nullptr;
+    if (choices < searchFrom) return;
+    search = new QLineEdit(this);
+    search->setPlaceholderText(tr("Search"));
+    search->setAccessibleName(tr("Search"));
+    search->setClearButtonEnabled(true);
+    search->installEventFilter(this);
+    connect(search, &QLineEdit::textChanged, this, &TKPopupMenu::SearchChanged);
+}
+
+// --- what is shown
+
+void TKPopupMenu::ShowItems() {
+    shown.clear();
+    showsHits = false;
+    for (int i = 0; i < root->Count(); ++i)
+        shown.push_back(&root->Items(i));
+    current = -1;
+}
+
+void TKPopupMenu::ShowHits(const QString& text) {
+    const TTextSearch wanted(text);
+    shown.clear();
+    showsHits = true;
+    ForEachLeaf(*root, [&](TMenuItem& item) {
+        const QString group = item.Parent() == root ? QString() : item.Parent()->PlainCaption();
+        if (wanted.Finds(item.PlainCaption() + u' ' + group)) shown.push_back(&item);
+    });
+    current = -1;
+}
+
+void TKPopupMenu::SearchChanged(const QString& text) {
+    CloseSub();
+    if (TTextSearch(text).IsEmpty())
+        ShowItems();
+    else
+        ShowHits(text);
+    Lay();
+    Place();
+    if (showsHits) Step(-1, 1);
+    update();
+}
+
+void TKPopupMenu::Lay() {
+    std::vector<TMenuRow> rows;
+    rows.reserve(shown.size());
+    const QFontMetrics metrics(font());
+    for (int i = 0; i < RowCount(); ++i) {
+        const TMenuItem& item = *Row(i);
+        QString text = RowText(i);
+        text.replace(u'\t', QStringLiteral("    "));
+        const bool breaks = !showsHits && item.Break != TMenuBreak::mbNone;
+        rows.push_back({metrics.horizontalAdvance(text), item.IsSeparator(), breaks,
+                        item.Break == TMenuBreak::mbBarBreak});
+    }
+    layout = LayoutMenu(rows, Metrics(), layoutDirection() == Qt::RightToLeft);
+    const bool fromRight = layoutDirection() == Qt::RightToLeft;
+    scroll = QPoint(fromRight ? layout.size.width() : 0, 0);
+    ScrollBy({0, 0});
+}
+
+QString TKPopupMenu::RowText(int row) const {
+    const TMenuItem& item = *Row(row);
+    if (!showsHits || item.Parent() == root) return item.PlainCaption();
+    return item.PlainCaption() + u'\t' + item.Parent()->PlainCaption();
+}
+
+TMenuItem* TKPopupMenu::CurrentItem() const {
+    return current < 0 ? nullptr : Row(current);
+}
+
+// --- geometry
+
+int TKPopupMenu::RowHeight() const {
+    return ternTextHeight(QStringLiteral("I"), font()) + 4;
+}
+
+int TKPopupMenu::FrameWidth() const {
+    return style()->pixelMetric(QStyle::PM_MenuPanelWidth, nullptr, this) +
+           std::max(style()->pixelMetric(QStyle::PM_MenuHMargin, nullptr, this),
+                    style()->pixelMetric(QStyle::PM_MenuVMargin, nullptr, this));
+}
+
+QRect TKPopupMenu::ViewRect() const {
+    const int frame = FrameWidth();
+    const int top = search ? search->sizeHint().height() : 0;
+    return rect().adjusted(frame, frame + top, -frame, -frame);
+}
+
+QRect TKPopupMenu::ScreenRoom() const {
+    const QScreen* at = QGuiApplication::screenAt(anchor.topLeft());
+    return (at ? at : screen())->availableGeometry();
+}
+
+QSize TKPopupMenu::WindowSize() const {
+    const int frame = 2 * FrameWidth();
+    QSize size = layout.size.expandedTo({0, RowHeight()}) + QSize(frame, frame);
+    if (search) {
+        const int least = ternTextWidth(QString(20, u'x'), font());
+        size = QSize(std::max(size.width(), least + frame),
+                     size.height() + search->sizeHint().height());
+    }
+    return size.boundedTo(ScreenRoom().size());
+}
+
+void TKPopupMenu::Place() {
+    const QSize size = WindowSize();
+    const QRect room = ScreenRoom();
+    QPoint at = opener ? PlaceBeside(size, room) : PlaceBelow(size, room);
+    at.setX(
+        std::clamp(at.x(), room.left(), std::max(room.left(), room.right() + 1 - size.width())));
+    at.setY(
+        std::clamp(at.y(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height())));
+    setGeometry(QRect(at, size));
+    ScrollBy({0, 0});
+    if (current >= 0) ScrollTo(current);
+}
+
+QPoint TKPopupMenu::PlaceBelow(QSize size, const QRect& room) const {
+    const bool fromRight = layoutDirection() == Qt::RightToLeft;
+    const int x = fromRight ? anchor.right() + 1 - size.width() : anchor.left();
+    const bool fitsBelow = anchor.bottom() + 1 + size.height() <= room.bottom() + 1;
+    const bool fitsAbove = anchor.top() - size.height() >= room.top();
+    return {x, fitsBelow || !fitsAbove ? anchor.bottom() + 1 : anchor.top() - size.height()};
+}
+
+QPoint TKPopupMenu::PlaceBeside(QSize size, const QRect& room) const {
+    const int left = anchor.left() - size.width(), right = anchor.right() + 1;
+    const bool fitsLeft = left >= room.left(), fitsRight = right + size.width() <= room.right() + 1;
+    const bool wantsLeft = layoutDirection() == Qt::RightToLeft;
+    const bool toLeft = wantsLeft ? fitsLeft || !fitsRight : fitsLeft && !fitsRight;
+    return {toLeft ? left : right, anchor.top() - FrameWidth()};
+}
+
+void TKPopupMenu::resizeEvent(QResizeEvent*) {
+    if (!search) return;
+    const int frame = FrameWidth();
+    search->setGeometry(frame, frame, width() - 2 * frame, search->sizeHint().height());
+}
+
+// --- sub menus and closing
+
+void TKPopupMenu::OpenSub(int row, bool byKey) {
+    TMenuItem& item = *Row(row);
+    if (sub && sub->isVisible() && sub->root == &item) {
+        if (byKey) sub->Step(-1, 1);
+        return;
+    }
+    CloseSub();
+    if (!item.HasSubMenu() || !item.Enabled) return;
+    sub = new TKPopupMenu(item, *this);
+    sub->ShowItems();
+    sub->anchor = QRect(mapToGlobal(RowRect(row).topLeft()), RowRect(row).size());
+    sub->Lay();
+    sub->Place();
+    sub->mouseUsed = true;
+    sub->show();
+    if (byKey) sub->Step(-1, 1);
+}
+
+void TKPopupMenu::CloseSub() {
+    hoverTimer.stop();
+    if (!sub) return;
+    TKPopupMenu* closing = sub;
+    sub = nullptr;
+    closing->hide();
+    closing->deleteLater();
+}
+
+TKPopupMenu& TKPopupMenu::Outermost() {
+    TKPopupMenu* menu = this;
+    while (menu->opener)
+        menu = menu->opener;
+    return *menu;
+}
+
+void TKPopupMenu::CloseAll() {
+    TKPopupMenu& outermost = Outermost();
+    outermost.CloseSub();
+    outermost.hide();
+}
+
+void TKPopupMenu::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    CloseSub();
+    scrollTimer.stop();
+    if (!opener && !triggering) emit closed();
+}
+
+void TKPopupMenu::Activate(int row) {
+    if (!Selectable(row)) return;
+    TMenuItem& item = *Row(row);
+    if (item.HasSubMenu())
+        OpenSub(row, true);
+    else
+        Trigger(item);
+}
+
+/// The menu is out of sight before the handler runs, and `closed` comes behind it.
+void TKPopupMenu::Trigger(TMenuItem& item) {
+    const QPointer<TKPopupMenu> outermost = &Outermost();
+    const TEvent<TMenuItem*> onClick = item.OnClick;
+    outermost->triggering = true;
+    CloseAll();
+    onClick(&item);
+    if (!outermost) return;
+    outermost->triggering = false;
+    emit outermost->closed();
+}
+
+} // namespace tern7
