@@ -49,7 +49,7 @@ TClass ClassOf(char c) {
     return Classes[static_cast<unsigned char>(c)];
 }
 
-bool IsWordChar(char c) {
+bool ContinuesWord(char c) {
     return ClassOf(c) == TClass::Letter || ClassOf(c) == TClass::Digit;
 }
 
@@ -166,7 +166,7 @@ private:
 
     size_t WordEnd() const {
         size_t end = i;
-        while (end < text.size() && IsWordChar(text[end]))
+        while (end < text.size() && ContinuesWord(text[end]))
             ++end;
         return end;
     }
@@ -187,7 +187,7 @@ private:
     /// A point starts a number unless it stands behind a name: .5, but t.5 is a column.
     bool StartsNumber() const {
         if (ClassOf(At(i + 1)) != TClass::Digit) return false;
-        return i == 0 || !(IsWordChar(text[i - 1]) || text[i - 1] == '"' || text[i - 1] == ')');
+        return i == 0 || !(ContinuesWord(text[i - 1]) || text[i - 1] == '"' || text[i - 1] == ')');
     }
 
     size_t SkipDigits(size_t from) const {
