@@ -72,8 +72,10 @@ private:
     }
 
     void AddTablesOf(const TDSField& field) {
-        for (TDSTable* table : field.GetTables())
-            AddTable(table);
+        const TDSTable* own = field.Table();
+        if (own && own == lastTable) return;
+        for (TDSTable* table : field.GetTables()) AddTable(table);
+        lastTable = own;
     }
 
     void AddResultFields() {

@@ -176,11 +176,10 @@ TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
 }
 
 const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condition) {
-    constexpr size_t size = 256;
-    if (slots.empty()) slots.resize(size);
-    const auto field = reinterpret_cast<uintptr_t>(condition.Field());
-    const auto op = reinterpret_cast<uintptr_t>(condition.Operator());
-    uint16_t& slot = slots[(field / 16 + field / 4096 + op / 32) % size];
+    if (slots.empty()) slots.resize(1024);
+    const uint64_t field = reinterpret_cast<uintptr_t>(condition.Field());
+    const uint64_t op = reinterpret_cast<uintptr_t>(condition.Operator());
+    uint16_t& slot = slots[((field * 31 + op) * 0x9E3779B97F4A7C15u) >> 54];
     if (slot == 0) {
         forms.push_back(MakeForm(*condition.Field(), *condition.Operator()));
         slot = static_cast<uint16_t>(forms.size());
@@ -193,7 +192,9 @@ const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condi
 
 bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condition,
                                     std::string& out) const {
-    if (!form.simple || condition.Param(1) || condition.Param(2)) return false;
+    if (!form.simple || (form.valueCount > 0 && condition.Param(1)) ||
+        (form.valueCount > 1 && condition.Param(2)))
+        return false;
     const size_t start = out.size();
     out += form.texts[0];
     for (size_t place = 0; place < 2 && form.values[place]; ++place) {

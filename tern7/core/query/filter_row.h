@@ -273,9 +273,9 @@ private:
     friend class TFilterBracket;
     friend class TQueryResult;
     struct TValue {
+        TSQLParam* param = nullptr;
         std::string text;
         std::string caption;
-        TSQLParam* param = nullptr;
         bool isParam = false;
     };
     /// What few conditions have.
@@ -307,12 +307,13 @@ private:
     void ReleaseReferences();
     void RestoreReferences();
 
+    // what building reads stands together
     TDSField* field = nullptr;
     TDSOperator* op = nullptr;
-    TValue values[2];
     int unknownFieldID = -1; // while `field` is none or the placeholder
     bool entered = true;
     bool recognized = false; // field and operator are there and no placeholders
+    TValue values[2];
     mutable std::unique_ptr<TExtras> extras;
 };
 
