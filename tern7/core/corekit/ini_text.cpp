@@ -163,19 +163,19 @@ void TKIniText::Cut(std::string_view text) {
 
 void TKIniText::Index() {
     const size_t mask = std::bit_ceil(2 * sections.size() + 1) - 1;
-    slots.assign(mask + 1, 0);
+    cells.assign(mask + 1, 0);
     std::vector<uint32_t> nameOf(sections.size());
     std::vector<uint32_t> firstOf; // by name: its first section
     for (uint32_t i = 0; i < sections.size(); ++i) {
         size_t slot = TTextHash()(sections[i].Name()) & mask;
-        while (slots[slot] != 0 &&
-               !SameText(sections[firstOf[slots[slot] - 1]].Name(), sections[i].Name()))
+        while (cells[slot] != 0 &&
+               !SameText(sections[firstOf[cells[slot] - 1]].Name(), sections[i].Name()))
             slot = (slot + 1) & mask;
-        if (slots[slot] == 0) {
+        if (cells[slot] == 0) {
             firstOf.push_back(i);
-            slots[slot] = static_cast<uint32_t>(firstOf.size());
+            cells[slot] = static_cast<uint32_t>(firstOf.size());
         }
-        nameOf[i] = slots[slot] - 1;
+        nameOf[i] = cells[slot] - 1;
     }
     starts.assign(firstOf.size() + 1, 0);
     for (uint32_t each : nameOf)
@@ -193,9 +193,9 @@ const TKIniSection* TKIniText::Find(std::string_view name) const {
 }
 
 const TKIniSection* TKIniText::FindFrom(size_t position, std::string_view name) const {
-    const size_t mask = slots.size() - 1;
-    for (size_t slot = TTextHash()(name) & mask; slots[slot] != 0; slot = (slot + 1) & mask) {
-        const size_t number = slots[slot] - 1;
+    const size_t mask = cells.size() - 1;
+    for (size_t slot = TTextHash()(name) & mask; cells[slot] != 0; slot = (slot + 1) & mask) {
+        const size_t number = cells[slot] - 1;
         const auto first = positions.begin() + starts[number];
         if (!SameText(sections[*first].Name(), name)) continue;
         const auto last = positions.begin() + starts[number + 1];

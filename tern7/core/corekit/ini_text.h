@@ -82,7 +82,7 @@ private:
     std::vector<TKIniSection> sections;
     // Open hash of names: 0 is empty, else 1 + the number of a name. The positions of the sections
     // of name n, ascending, are positions[starts[n]] up to positions[starts[n + 1]].
-    std::vector<uint32_t> slots;
+    std::vector<uint32_t> cells;
     std::vector<uint32_t> starts;
     std::vector<uint32_t> positions;
 

@@ -69,9 +69,9 @@ uint8_t TKVocabulary::Add(std::string_view word, bool reserved) {
         code = static_cast<uint8_t>(words.size());
         words.push_back(lower);
         size_t slot = SlotOf(lower);
-        while (slots[slot] != 0)
+        while (cells[slot] != 0)
             slot = (slot + 1) & 255u;
-        slots[slot] = code;
+        cells[slot] = code;
         if (lower.size() == 1) symbols[static_cast<unsigned char>(lower[0])] = code;
     }
     reservedWords[code] = reservedWords[code] || reserved;

@@ -34,7 +34,7 @@ public:
     /// 0 for an unknown word. The text must be in lower case.
     uint8_t CodeOf(std::string_view lowerWord) const {
         for (size_t slot = SlotOf(lowerWord);; slot = (slot + 1) & 255u) {
-            const uint8_t code = slots[slot];
+            const uint8_t code = cells[slot];
             if (code == 0 || words[code] == lowerWord) return code;
         }
     }
@@ -43,7 +43,7 @@ public:
 
 private:
     std::vector<std::string> words; // by code; 0 is none
-    std::array<uint8_t, 256> slots{};
+    std::array<uint8_t, 256> cells{};
     std::array<uint8_t, 256> symbols{};
     std::array<bool, 256> reservedWords{};
 

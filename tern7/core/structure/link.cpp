@@ -68,7 +68,7 @@ void TDSLink::ApplyDefOperator() {
     TStrings full = operators;
     full.resize(fields1.size(), "=");
     for (std::string& op : full)
-        if (op.empty()) op = "=";
+        if (op.empty()) op = '=';
     if (full != operators) SetOperators(std::move(full));
 }
 

@@ -55,8 +55,8 @@ public:
 
     /// `order` gives the place among objects of equal key; adding in rising order is O(1).
     void Add(T* object, uint32_t hash, uint32_t order) {
-        if ((used + 1) * 3 > slots.size() * 2) Rehash(nodes.size() + 1);
-        TSlot& slot = slots[SlotFor(hash)];
+        if ((used + 1) * 3 > cells.size() * 2) Rehash(nodes.size() + 1);
+        TSlot& slot = cells[SlotFor(hash)];
         if (slot.first == Unused) {
             slot = {hash, None, None};
             ++used;
@@ -65,8 +65,8 @@ public:
     }
 
     void Remove(const T* object, uint32_t hash) {
-        if (slots.empty()) return;
-        TSlot& slot = slots[SlotFor(hash)];
+        if (cells.empty()) return;
+        TSlot& slot = cells[SlotFor(hash)];
         int before = None;
         for (int i = slot.first; i >= 0; before = i, i = At(i).next)
             if (At(i).object == object) {
@@ -81,8 +81,8 @@ public:
     /// The first object in list order among those of the hash for which `same` is true.
     template <class Same>
     T* First(uint32_t hash, Same same) const {
-        if (slots.empty()) return nullptr;
-        for (int i = slots[SlotFor(hash)].first; i >= 0; i = At(i).next)
+        if (cells.empty()) return nullptr;
+        for (int i = cells[SlotFor(hash)].first; i >= 0; i = At(i).next)
             if (same(*At(i).object)) return At(i).object;
         return nullptr;
     }
@@ -90,8 +90,8 @@ public:
     /// Calls `visit` for every object of the hash, in list order.
     template <class Visit>
     void Each(uint32_t hash, Visit visit) const {
-        if (slots.empty()) return;
-        for (int i = slots[SlotFor(hash)].first; i >= 0; i = At(i).next)
+        if (cells.empty()) return;
+        for (int i = cells[SlotFor(hash)].first; i >= 0; i = At(i).next)
             visit(At(i).object);
     }
 
@@ -111,9 +111,9 @@ private:
     const TNode& At(int i) const { return nodes[static_cast<size_t>(i)]; }
 
     size_t SlotFor(uint32_t hash) const {
-        const size_t mask = slots.size() - 1;
+        const size_t mask = cells.size() - 1;
         size_t i = hash & mask;
-        while (slots[i].first != Unused && slots[i].hash != hash)
+        while (cells[i].first != Unused && cells[i].hash != hash)
             i = (i + 1) & mask;
         return i;
     }
@@ -149,19 +149,19 @@ private:
         while (size * 3 < expected * 5)
             size *= 2;
         std::vector<TSlot> old(size);
-        old.swap(slots);
+        old.swap(cells);
         used = 0;
         for (const TSlot& slot : old)
             if (slot.first >= 0) {
-                slots[SlotFor(slot.hash)] = slot;
+                cells[SlotFor(slot.hash)] = slot;
                 ++used;
             }
     }
 
     bool built = false;
-    std::vector<TSlot> slots; // a power of two, open addressing
+    std::vector<TSlot> cells; // a power of two, open addressing
     std::vector<TNode> nodes;
-    size_t used = 0; // slots that are not Unused
+    size_t used = 0; // cells that are not Unused
     int freeNode = None;
 };
 
