@@ -71,6 +71,11 @@ std::string BytesText(const QByteArray& bytes, bool textAsBytes) {
     return "0x" + bytes.toHex().toStdString();
 }
 
+TBoundValue FromInteger(TKind kind, long long number) {
+    const bool isBoolean = kind == TKind::Boolean && (number == 0 || number == 1);
+    return {isBoolean ? kind : TKind::Integer, std::to_string(number)};
+}
+
 /// A number that the driver gives as text in full precision.
 TBoundValue FromText(TKind kind, std::string text) {
     if (kind != TKind::Float) return {kind, std::move(text)};
@@ -112,7 +117,7 @@ TBoundValue CellOf(const QSqlQuery& query, int column, TBoundValue::TKind kind, 
     case QMetaType::UInt:
     case QMetaType::Long:
     case QMetaType::LongLong:
-        return {kind == TKind::Boolean ? kind : TKind::Integer, std::to_string(value.toLongLong())};
+        return FromInteger(kind, value.toLongLong());
     case QMetaType::QDate:
         return {TKind::Date, DateText(value.toDate())};
     case QMetaType::QTime:

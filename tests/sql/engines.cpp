@@ -34,7 +34,7 @@ void TEngineTest::DropEverything() {
             "SET search_path = tern7test;\n");
     } else if (GetParam() == TKEngine::MySQL) {
         Run("DROP DATABASE IF EXISTS sales;\nDROP DATABASE IF EXISTS tern7test;\n"
-            "CREATE DATABASE tern7test;\nUSE tern7test;\n");
+            "CREATE DATABASE tern7test CHARACTER SET utf8mb4;\nUSE tern7test;\n");
     }
 }
 
