@@ -3,7 +3,9 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 
+#include <tern7/ui/controls/accessible_menu.h>
 #include <tern7/ui/controls/drop_down_label.h>
+#include <tern7/ui/controls/popup_menu.h>
 #include <tern7/ui/support/guarded.h>
 
 namespace tern7 {
@@ -72,6 +74,8 @@ private:
 QAccessibleInterface* MakeAccessible(const QString& className, QObject* object) {
     if (className == QLatin1String("tern7::TDropDownLabel"))
         if (auto* label = qobject_cast<TDropDownLabel*>(object)) return new TAccessibleLabel(label);
+    if (className == QLatin1String("tern7::TKPopupMenu"))
+        if (auto* menu = qobject_cast<TKPopupMenu*>(object)) return MakeAccessibleMenu(menu);
     return nullptr;
 }
 

@@ -6,12 +6,12 @@
 namespace tern7 {
 
 TKCheckListBox::TKCheckListBox(QWidget* parent) : QListView(parent) {
-    model.SetCheckable(true);
-    setModel(&model);
+    itemModel.SetCheckable(true);
+    setModel(&itemModel);
     setUniformItemSizes(true);
     setEditTriggers(NoEditTriggers);
     ApplySelectionMode();
-    connect(&model, &TItemListModel::checkChanged, this, &TKCheckListBox::checkChanged);
+    connect(&itemModel, &TItemListModel::checkChanged, this, &TKCheckListBox::checkChanged);
 }
 
 void TKCheckListBox::SetExtendedSelect(bool on) {
@@ -33,11 +33,11 @@ void TKCheckListBox::ApplySelectionMode() {
 /// All selected rows take the mark that the given one gets.
 void TKCheckListBox::Toggle(const QModelIndex& index) {
     if (!index.isValid()) return;
-    const bool on = !model.Checked(model.ItemOf(index.row()));
+    const bool on = !itemModel.Checked(itemModel.ItemOf(index.row()));
     QModelIndexList changed = selectionModel()->selectedIndexes();
     if (!changed.contains(index)) changed = {index};
     for (const QModelIndex& row : changed)
-        model.SetChecked(model.ItemOf(row.row()), on);
+        itemModel.SetChecked(itemModel.ItemOf(row.row()), on);
     OnClickCheck(this);
 }
 

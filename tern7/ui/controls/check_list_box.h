@@ -25,11 +25,11 @@ public:
     bool MultiSelect() const { return multiSelect; }
     void SetMultiSelect(bool on);
 
-    const QStringList& Items() const { return model.Items(); }
-    void SetItems(const QStringList& lines) { model.SetItems(lines, false); }
-    bool Checked(int item) const { return model.Checked(item); }
-    void SetChecked(int item, bool on) { model.SetChecked(item, on); }
-    TItemListModel& Model() { return model; }
+    const QStringList& Items() const { return itemModel.Items(); }
+    void SetItems(const QStringList& lines) { itemModel.SetItems(lines, false); }
+    bool Checked(int item) const { return itemModel.Checked(item); }
+    void SetChecked(int item, bool on) { itemModel.SetChecked(item, on); }
+    TItemListModel& Model() { return itemModel; }
 
     TEvent<TKCheckListBox*> OnClickCheck;
 
@@ -46,7 +46,7 @@ private:
     void ApplySelectionMode();
     void Toggle(const QModelIndex& index);
 
-    TItemListModel model;
+    TItemListModel itemModel;
     bool extendedSelect = true;
     bool multiSelect = false;
 };

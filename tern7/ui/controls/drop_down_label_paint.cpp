@@ -45,8 +45,11 @@ void TDropDownLabel::paintEvent(QPaintEvent*) {
     const Qt::Alignment side = QStyle::visualAlignment(layoutDirection(), alignment());
     painter.setFont(TextFont());
     painter.setPen(TextColor());
-    const QString shown = painter.fontMetrics().elidedText(OneLine(text()), Qt::ElideRight,
-                                                           area.width(), Qt::TextShowMnemonic);
+    // Asked the way the size was, so that a text which fits is never cut for a fraction of a pixel.
+    QString shown = OneLine(text());
+    if (ternTextWidth(OneLine(Caption()), TextFont()) > area.width())
+        shown = painter.fontMetrics().elidedText(shown, Qt::ElideRight, area.width(),
+                                                 Qt::TextShowMnemonic);
     painter.drawText(area, static_cast<int>(side) | Qt::TextShowMnemonic | Qt::TextSingleLine,
                      shown);
     if (!focused && !hasFocus()) return;

@@ -84,7 +84,8 @@ void TDropDownListBox::HideControl() {
 void TDropDownListBox::FillList() {
     model->SetItems(Items(), SortList());
     if (!Images().isEmpty()) model->Image = [this](int item) { return ItemImage(item); };
-    const int row = ItemIndex() < 0 ? -1 : model->RowOf(ItemIndex());
+    const bool known = ItemIndex() >= 0 && ItemIndex() < Items().size();
+    const int row = known ? model->RowOf(ItemIndex()) : -1;
     desktop->List().setCurrentIndex(model->index(row));
 }
 
@@ -93,7 +94,7 @@ QIcon TDropDownListBox::ItemImage(int item) const {
         const TItemGroup& group = Groups().Items(g);
         if (!std::binary_search(group.Indices().begin(), group.Indices().end(), item)) continue;
         int image = -1;
-        DoGetItemImageIndex(group.Name(), Items()[item], image);
+        DoGetItemImageIndex(group.Name(), ItemText(item), image);
         return Images().value(image);
     }
     return {};

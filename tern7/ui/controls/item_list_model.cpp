@@ -17,18 +17,24 @@ void TItemListModel::SetItems(const QStringList& lines, bool sorted) {
     std::iota(order.begin(), order.end(), 0);
     if (sorted) {
         QCollator collator;
-        collator.setCaseSensitivity(Qt::CaseInsensitive);
         collator.setNumericMode(true);
         std::vector<QCollatorSortKey> keys;
         keys.reserve(order.size());
         for (const QString& item : items)
-            keys.push_back(collator.sortKey(item));
+            keys.push_back(collator.sortKey(item.toCaseFolded()));
         std::stable_sort(order.begin(), order.end(), [&](int a, int b) {
             return keys[static_cast<size_t>(a)] < keys[static_cast<size_t>(b)];
         });
     }
-    shown = order;
+    Show(order);
     endResetModel();
+}
+
+void TItemListModel::Show(std::vector<int> wanted) {
+    shown = std::move(wanted);
+    rows.assign(checks.size(), -1);
+    for (size_t row = 0; row < shown.size(); ++row)
+        rows[static_cast<size_t>(shown[row])] = static_cast<int>(row);
 }
 
 void TItemListModel::SetChecked(int item, bool on) {
@@ -41,16 +47,12 @@ void TItemListModel::SetChecked(int item, bool on) {
 
 void TItemListModel::Search(const QString& typed) {
     const TTextSearch wanted(typed);
-    beginResetModel();
-    shown.clear();
+    std::vector<int> hits;
     for (const int item : order)
-        if (wanted.Finds(items[item])) shown.push_back(item);
+        if (wanted.Finds(items[item])) hits.push_back(item);
+    beginResetModel();
+    Show(std::move(hits));
     endResetModel();
-}
-
-int TItemListModel::RowOf(int item) const {
-    const auto found = std::find(shown.begin(), shown.end(), item);
-    return found == shown.end() ? -1 : static_cast<int>(found - shown.begin());
 }
 
 int TItemListModel::rowCount(const QModelIndex& parent) const {

@@ -30,7 +30,7 @@ public:
     void Search(const QString& typed);
     int ItemOf(int row) const { return shown[static_cast<size_t>(row)]; }
     /// The row of an item, or -1 when a search hides it.
-    int RowOf(int item) const;
+    int RowOf(int item) const { return rows[static_cast<size_t>(item)]; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -44,9 +44,12 @@ signals:
     void checkChanged(int item);
 
 private:
+    void Show(std::vector<int> wanted);
+
     QStringList items;
     std::vector<int> order;
-    std::vector<int> shown;
+    std::vector<int> shown; // the item of each row
+    std::vector<int> rows;  // the row of each item, or -1
     std::vector<bool> checks;
     bool checkable = false;
 };

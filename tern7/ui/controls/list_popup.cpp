@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <tern7/ui/controls/item_list_model.h>
@@ -20,13 +21,23 @@ namespace {
 
 constexpr int mostRows = 12;
 
+/// Rows with some air, as in menus.
+class TListRows : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+    }
+};
+
 } // namespace
 
 TListPopup::TListPopup(QListView& listView, TItemListModel& listModel, QWidget* parent)
     : QFrame(parent, Qt::Popup), list(listView), model(listModel), search(new QLineEdit(this)) {
     setAttribute(Qt::WA_WindowPropagation);
-    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
     list.setParent(this);
+    list.setItemDelegate(new TListRows(&list));
     list.setFrameStyle(QFrame::NoFrame);
     list.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     list.setTextElideMode(Qt::ElideRight);

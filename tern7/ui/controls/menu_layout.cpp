@@ -41,6 +41,7 @@ TMenuLayout LayoutMenu(const std::vector<TMenuRow>& rows, const TMenuMetrics& me
         width = std::max(width, rows[i].textWidth + metrics.extraWidth);
         top += rowHeight;
     }
+    if (layout.columnStarts.size() == 1) width = std::max(width, metrics.leastWidth);
     closeColumn();
     layout.size = {left, height};
     for (QRect& bar : layout.bars)

@@ -38,6 +38,7 @@ struct TMenuMetrics {
     int separatorHeight = 0;
     int barWidth = 0;
     int extraWidth = 0; // of icon, check mark, arrow and margins, beside the text
+    int leastWidth = 0; // of a menu with one column
 };
 
 /// One pass over the rows; `fromRight` mirrors the result.

@@ -157,13 +157,15 @@ void TKPopupMenu::Lay() {
     std::vector<TMenuRow> rows;
     rows.reserve(shown.size());
     const QFontMetrics metrics(font());
+    groupWidth = 0;
+    for (int i = 0; i < RowCount(); ++i)
+        groupWidth = std::max(groupWidth, metrics.horizontalAdvance(GroupText(i)));
+    const int besideText = groupWidth > 0 ? groupWidth + 2 * metrics.averageCharWidth() : 0;
     for (int i = 0; i < RowCount(); ++i) {
         const TMenuItem& item = *Row(i);
-        QString text = RowText(i);
-        text.replace(u'\t', QStringLiteral("    "));
         const bool breaks = !showsHits && item.Break != TMenuBreak::mbNone;
-        rows.push_back({metrics.horizontalAdvance(text), item.IsSeparator(), breaks,
-                        item.Break == TMenuBreak::mbBarBreak});
+        rows.push_back({metrics.horizontalAdvance(item.PlainCaption()) + besideText,
+                        item.IsSeparator(), breaks, item.Break == TMenuBreak::mbBarBreak});
     }
     layout = LayoutMenu(rows, Metrics(), layoutDirection() == Qt::RightToLeft);
     const bool fromRight = layoutDirection() == Qt::RightToLeft;
@@ -171,10 +173,10 @@ void TKPopupMenu::Lay() {
     ScrollBy({0, 0});
 }
 
-QString TKPopupMenu::RowText(int row) const {
+/// What a hit is shown with: the sub menu that it comes from.
+QString TKPopupMenu::GroupText(int row) const {
     const TMenuItem& item = *Row(row);
-    if (!showsHits || item.Parent() == root) return item.PlainCaption();
-    return item.PlainCaption() + u'\t' + item.Parent()->PlainCaption();
+    return showsHits && item.Parent() != root ? item.Parent()->PlainCaption() : QString();
 }
 
 TMenuItem* TKPopupMenu::CurrentItem() const {
@@ -207,11 +209,7 @@ QRect TKPopupMenu::ScreenRoom() const {
 QSize TKPopupMenu::WindowSize() const {
     const int frame = 2 * FrameWidth();
     QSize size = layout.size.expandedTo({0, RowHeight()}) + QSize(frame, frame);
-    if (search) {
-        const int least = ternTextWidth(QString(20, u'x'), font());
-        size = QSize(std::max(size.width(), least + frame),
-                     size.height() + search->sizeHint().height());
-    }
+    if (search) size.rheight() += search->sizeHint().height();
     return size.boundedTo(ScreenRoom().size());
 }
 

@@ -107,7 +107,7 @@ private:
 
     // drawing
     void InitOption(QStyleOptionMenuItem& option, int row) const;
-    QString RowText(int row) const;
+    QString GroupText(int row) const;
     void DrawRows(QPainter& painter, const QRect& clip) const;
     void DrawScrollers(QPainter& painter) const;
 
@@ -146,6 +146,7 @@ private:
     std::vector<TMenuItem*> shown;
     bool showsHits = false;
     TMenuLayout layout;
+    int groupWidth = 0; // of the widest group beside a hit
     QPoint scroll;
     QRect anchor;
     QRect quietArea;

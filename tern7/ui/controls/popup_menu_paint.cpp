@@ -28,6 +28,7 @@ TMenuMetrics TKPopupMenu::Metrics() const {
     metrics.separatorHeight =
         style()->sizeFromContents(QStyle::CT_MenuItem, &option, text, this).height();
     metrics.barWidth = metrics.separatorHeight;
+    if (search) metrics.leastWidth = QFontMetrics(font()).averageCharWidth() * 24;
     return metrics;
 }
 
@@ -61,7 +62,8 @@ void TKPopupMenu::InitOption(QStyleOptionMenuItem& option, int row) const {
     }
     if (item.IsSeparator()) return;
     option.text = item.Caption;
-    if (showsHits && item.Parent() != root) option.text += u'\t' + item.Parent()->PlainCaption();
+    option.reservedShortcutWidth = groupWidth;
+    if (const QString group = GroupText(row); !group.isEmpty()) option.text += u'\t' + group;
     if (item.ImageIndex >= 0) option.icon = images.value(item.ImageIndex);
 }
 

@@ -1,0 +1,111 @@
+// Shows the controls; with a folder as argument it saves pictures of them in several looks instead.
+#include <QApplication>
+#include <QDir>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
+
+#include <examples/controls_gallery/gallery.h>
+
+namespace {
+
+QPalette Dark() {
+    QPalette dark(QColor(53, 56, 60), QColor(43, 45, 48));
+    dark.setColor(QPalette::Base, QColor(30, 31, 34));
+    dark.setColor(QPalette::Link, QColor(110, 170, 255));
+    dark.setColor(QPalette::Highlight, QColor(46, 90, 160));
+    return dark;
+}
+
+/// The window with the popups that stand above it.
+QPixmap Picture(QWidget& window) {
+    QCoreApplication::processEvents();
+    QRect area(window.pos(), window.size());
+    QList<QWidget*> popups;
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->windowType() == Qt::Popup) popups << widget;
+    for (const QWidget* widget : popups)
+        area |= widget->geometry();
+    QPixmap picture(area.size() * window.devicePixelRatioF());
+    picture.setDevicePixelRatio(window.devicePixelRatioF());
+    picture.fill(Qt::gray);
+    QPainter painter(&picture);
+    painter.drawPixmap(window.pos() - area.topLeft(), window.grab());
+    for (QWidget* widget : popups)
+        painter.drawPixmap(widget->pos() - area.topLeft(), widget->grab());
+    return picture;
+}
+
+void Key(int key, const QString& text = {}) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* target = popup && !popup->focusWidget() ? popup
+                      : popup                        ? popup->focusWidget()
+                                                     : QApplication::focusWidget();
+    if (!target) return;
+    QKeyEvent press(QEvent::KeyPress, key, {}, text);
+    QCoreApplication::sendEvent(target, &press);
+}
+
+void SavePictures(const QDir& folder, const QString& look) {
+    TGallery gallery;
+    gallery.move(60, 0);
+    gallery.show();
+    gallery.activateWindow();
+    const auto save = [&](const char* what) {
+        Picture(gallery).save(folder.filePath(look + '-' + what + ".png"));
+    };
+    const auto discard = [&](tern7::TDropDownLabel* label) {
+        label->DropUp(false);
+        QCoreApplication::processEvents();
+    };
+    save("closed");
+    gallery.edit->DropDown();
+    save("edit");
+    discard(gallery.edit);
+    gallery.date->DropDown();
+    save("date");
+    discard(gallery.date);
+    gallery.popup->DropDown();
+    Key(Qt::Key_End);
+    Key(gallery.layoutDirection() == Qt::RightToLeft ? Qt::Key_Left : Qt::Key_Right);
+    save("popup");
+    discard(gallery.popup);
+    gallery.longPopup->DropDown();
+    save("long-popup");
+    gallery.longPopup->Menu()->SearchField()->setText("1 ord");
+    save("search");
+    discard(gallery.longPopup);
+    gallery.listBox->DropDown();
+    save("list");
+    discard(gallery.listBox);
+    gallery.checkList->DropDown();
+    save("check-list");
+    discard(gallery.checkList);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setStyle("Fusion");
+    if (argc < 2) {
+        TGallery gallery;
+        gallery.show();
+        return QApplication::exec();
+    }
+    const QDir folder(argv[1]);
+    folder.mkpath(".");
+    SavePictures(folder, "light");
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    SavePictures(folder, "rtl");
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(Dark());
+    SavePictures(folder, "dark");
+    QApplication::setPalette(light);
+    QFont large = QApplication::font();
+    large.setPointSizeF(large.pointSizeF() * 1.8);
+    QApplication::setFont(large);
+    SavePictures(folder, "large");
+    return 0;
+}

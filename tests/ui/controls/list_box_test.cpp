@@ -1,0 +1,244 @@
+#include <QLineEdit>
+#include <QListView>
+
+#include <tern7/ui/controls/check_list_box.h>
+#include <tern7/ui/controls/drop_down_list_box.h>
+#include <ui/controls/control_form.h>
+
+namespace tern7 {
+
+namespace {
+
+QListView* ListOf(const TDropDownLabel* label) {
+    return static_cast<QListView*>(label->EditControl());
+}
+
+QLineEdit* SearchOf(const TDropDownLabel* label) {
+    return label->EditControl()->parentWidget()->findChild<QLineEdit*>();
+}
+
+QStringList Rows(const TDropDownLabel* label) {
+    QStringList rows;
+    const QAbstractItemModel* model = ListOf(label)->model();
+    for (int i = 0; i < model->rowCount(); ++i)
+        rows << model->index(i, 0).data().toString();
+    return rows;
+}
+
+void ClickRow(const TDropDownLabel* label, int row) {
+    QListView* list = ListOf(label);
+    const QRect place = list->visualRect(list->model()->index(row, 0));
+    ClickAt(list->viewport(), place.center());
+}
+
+template <class Label>
+struct TOpenList {
+    explicit TOpenList(const QStringList& items) {
+        label->SetItems(items);
+        QStringList values;
+        for (const QString& item : items)
+            values << item.toLower();
+        label->SetValues(values);
+        Record(*label, log);
+    }
+    bool Open() {
+        if (!form.Open()) return false;
+        ClickAt(label, label->rect().center());
+        return label->EditMode();
+    }
+
+    TControlForm form;
+    QPointer<Label> label = form.Add<Label>();
+    QStringList log;
+};
+
+const QStringList fruits = {"Pear", "Apple", "Cherry", "banana"};
+
+QStringList Numbered(int count) {
+    QStringList items;
+    for (int i = 0; i < count; ++i)
+        items << QString("Item %1").arg(i);
+    return items;
+}
+
+} // namespace
+
+TEST(ListBox, ChosenByMouseThroughSorting) {
+    TOpenList<TDropDownListBox> t(fruits);
+    t.label->SetSortList(true);
+    ASSERT_TRUE(t.Open());
+    EXPECT_EQ(Rows(t.label), (QStringList{"Apple", "banana", "Cherry", "Pear"}));
+    EXPECT_TRUE(SearchOf(t.label)->isHidden());
+    ClickRow(t.label, 1);
+    EXPECT_EQ(t.label->ItemIndex(), 3);
+    EXPECT_EQ(t.label->Value(), "banana");
+    EXPECT_EQ(t.label->Caption(), "banana");
+    EXPECT_EQ(t.log, (QStringList{"before down", "after down", "before up '' 1", "after up 1"}));
+    EXPECT_FALSE(t.label->EditMode());
+    EXPECT_EQ(t.form.focusWidget(), t.label);
+}
+
+TEST(ListBox, ChosenByKeys) {
+    const struct {
+        std::initializer_list<Qt::Key> keys;
+        QString value;
+        bool accepted;
+    } cases[] = {
+        {{Qt::Key_Down, Qt::Key_Return}, "cherry", true},
+        {{Qt::Key_Return}, "apple", true},
+        {{Qt::Key_End, Qt::Key_Enter}, "banana", true},
+        {{Qt::Key_C, Qt::Key_Return}, "cherry", true},
+        {{Qt::Key_Down, Qt::Key_Escape}, "apple", false},
+        {{Qt::Key_Down, Qt::Key_Tab}, "cherry", true}, // leaving accepts
+    };
+    for (const auto& c : cases) {
+        TOpenList<TDropDownListBox> t(fruits);
+        t.label->SetValue("apple");
+        ASSERT_TRUE(t.Open());
+        EXPECT_EQ(ListOf(t.label)->currentIndex().row(), 1);
+        Press(c.keys);
+        EXPECT_EQ(t.label->Value(), c.value);
+        EXPECT_EQ(t.log.last(), QString("after up %1").arg(c.accepted));
+        EXPECT_FALSE(t.label->EditMode());
+    }
+}
+
+TEST(ListBox, ClicksOutside) {
+    for (const bool onLabel : {true, false}) {
+        TOpenList<TDropDownListBox> t(fruits);
+        t.label->SetValue("apple");
+        ASSERT_TRUE(t.Open());
+        Press(Qt::Key_Down);
+        QWidget* window = t.label->EditControl()->window();
+        const QPoint at = onLabel ? t.label->mapToGlobal(t.label->rect().center())
+                                  : t.form.mapToGlobal(QPoint(480, 20));
+        ClickAt(window, window->mapFromGlobal(at));
+        EXPECT_EQ(t.label->Value(), onLabel ? "apple" : "cherry");
+        EXPECT_FALSE(t.label->Dropped());
+        EXPECT_EQ(t.log.size(), 4);
+    }
+}
+
+TEST(ListBox, SearchInTenThousandItems) {
+    TOpenList<TDropDownListBox> t(Numbered(10000));
+    ASSERT_TRUE(t.Open());
+    EXPECT_TRUE(SearchOf(t.label)->isVisible());
+    Type("77 item");
+    EXPECT_EQ(Rows(t.label)[1], "Item 177");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(t.label->Value(), "item 77");
+    EXPECT_LT(t.label->EditControl()->window()->findChildren<QWidget*>().size(), 25);
+
+    // A search that is left chooses nothing; its second hit is chosen by arrow and Enter.
+    t.label->DropDown();
+    EXPECT_EQ(ListOf(t.label)->currentIndex().row(), 77);
+    Type("99");
+    Press(Qt::Key_Tab);
+    EXPECT_EQ(t.label->Value(), "item 77");
+    t.label->DropDown();
+    EXPECT_EQ(Rows(t.label).size(), 10000);
+    Type("99");
+    Press({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(t.label->Value(), "item 199");
+}
+
+TEST(CheckList, ValueIsCommaText) {
+    TOpenList<TDropDownCheckListBox> t({"New York", "a, b", "Rome", "Oslo"});
+    t.label->SetValue("rome,\"new york\"");
+    EXPECT_EQ(t.label->Caption(), "Rome, New York");
+    t.label->SetSortList(true);
+    ASSERT_TRUE(t.Open());
+    EXPECT_EQ(Rows(t.label), (QStringList{"a, b", "New York", "Oslo", "Rome"}));
+    EXPECT_EQ(ListOf(t.label)->model()->index(3, 0).data(Qt::CheckStateRole), Qt::Checked);
+    ClickRow(t.label, 0);
+    Press({Qt::Key_End, Qt::Key_Space, Qt::Key_Return});
+    EXPECT_EQ(t.label->Value(), "\"a, b\",\"new york\"");
+    EXPECT_EQ(t.label->Caption(), "a, b, New York");
+}
+
+TEST(CheckList, WhatClosesIt) {
+    const struct {
+        Qt::Key last;
+        bool change;
+        QString value;
+    } cases[] = {
+        {Qt::Key_Return, true, "pear,apple"},
+        {Qt::Key_Tab, true, "pear,apple"},
+        {Qt::Key_Escape, true, "gone,apple"},
+        // Nothing was switched: an item that the list does not have stays.
+        {Qt::Key_Return, false, "gone,apple"},
+    };
+    for (const auto& c : cases) {
+        TOpenList<TDropDownCheckListBox> t(fruits);
+        t.label->SetValue("gone,apple");
+        ASSERT_TRUE(t.Open());
+        if (c.change) Press({Qt::Key_Home, Qt::Key_Space});
+        Press(c.last);
+        EXPECT_EQ(t.label->Value(), c.value);
+    }
+}
+
+TEST(CheckList, SearchChecksHits) {
+    TOpenList<TDropDownCheckListBox> t(Numbered(100));
+    ASSERT_TRUE(t.Open());
+    Type("77");
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(t.label->Dropped());
+    EXPECT_EQ(Rows(t.label).size(), 100);
+    Type("5");
+    Press({Qt::Key_Down, Qt::Key_Space, Qt::Key_Return, Qt::Key_Return});
+    // The mark of a hidden row counts too.
+    EXPECT_TRUE(t.label->Value().contains("item 77"));
+    EXPECT_TRUE(t.label->Value().contains("item 15"));
+}
+
+TEST(CheckListBox, MarksAndSelection) {
+    TControlForm form;
+    auto* box = form.Add<TKCheckListBox>();
+    EXPECT_TRUE(box->ExtendedSelect());
+    EXPECT_FALSE(box->MultiSelect());
+    box->resize(200, 200);
+    box->SetItems(fruits);
+    box->SetMultiSelect(true);
+    int clicks = 0;
+    box->OnClickCheck = [&](TKCheckListBox*) { ++clicks; };
+    ASSERT_TRUE(form.Open());
+    box->setFocus();
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_Space);
+    for (int i = 0; i < fruits.size(); ++i)
+        EXPECT_TRUE(box->Checked(i));
+    ClickAt(box->viewport(), box->visualRect(box->model()->index(1, 0)).center());
+    EXPECT_FALSE(box->Checked(1));
+    EXPECT_EQ(clicks, 2);
+}
+
+TEST(ListBox, DestroyedWhileOpen) {
+    for (const QString event :
+         {"outside", "form", "after down", "before up", "value", "after up", "cleared"}) {
+        SCOPED_TRACE(event.toStdString());
+        auto t = std::make_unique<TOpenList<TDropDownListBox>>(fruits);
+        const QPointer<TDropDownListBox> label = t->label;
+        const auto die = [label] { delete label; };
+        if (event == "after down") label->AfterDropDown = [=](TDropDownLabel*) { die(); };
+        if (event == "before up")
+            label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };
+        if (event == "value") QObject::connect(label, &TDropDownLabel::valueChanged, die);
+        if (event == "after up") label->AfterDropUp = [&](TDropDownLabel*, bool) { t.reset(); };
+        ASSERT_TRUE(t->form.Open());
+        ClickAt(label, label->rect().center());
+        if (event == "outside") die();
+        if (event == "form") t.reset();
+        if (event == "cleared") {
+            label->ClearAll();
+            Press({Qt::Key_Down, Qt::Key_Escape});
+            die();
+        }
+        if (label) Press({Qt::Key_Down, Qt::Key_Return});
+        EXPECT_FALSE(label);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(QApplication::activePopupWidget());
+    }
+}
+
+} // namespace tern7
