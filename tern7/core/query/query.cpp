@@ -192,6 +192,7 @@ std::unique_ptr<TKQuery> TKQuery::NewNested() const {
     nested->outer = const_cast<TKQuery*>(this);
     nested->paramNames = paramNames;
     nested->Services = Services;
+    nested->SaveTitles = false; // captions are the outer query's
     nested->CheckValues = CheckValues;
     nested->OnBuildSQL = OnBuildSQL;
     nested->SetDbStruct(structure);

@@ -170,14 +170,17 @@ void AddCondition(TFilterCond& condition, TRowText& row) {
     if (!condition.IsRecognized()) condition.SetSQLText(std::move(row.sqlText));
     for (int n = 1; n <= 2; ++n) {
         TRowText::TValue& value = row.values[n - 1];
-        condition.SetValue(n, std::move(value.text), value.isParam ? "" : value.caption);
+        condition.SetValue(n, std::move(value.text));
         condition.SetValueIsParam(n, value.isParam);
     }
     // behind both flags: the second parameter gives the first one another caption
     for (int n = 1; n <= 2; ++n) {
         TRowText::TValue& value = row.values[n - 1];
         TSQLParam* param = condition.Param(n);
-        if (!param) continue;
+        if (!param) { // a constant, or a flag that the operator has no use for
+            condition.SetValue(n, condition.Value(n), std::move(value.caption));
+            continue;
+        }
         if (!value.format.empty()) param->SetValueFormat(std::move(value.format));
         // one that says what is made of the field's anyway goes on following the field
         if (value.hasCaption && value.caption != param->Caption())

@@ -83,7 +83,7 @@ std::string_view UnfinishedText(TUnfinished reason) {
 TKRowTexts::TKRowTexts(const TStrings& titles) {
     const TKTitles captions(DefaultQueryTitles(), titles);
     auto take = [&](std::string& text, std::string_view key) {
-        text = captions.Text(QueryPanelTitles, key);
+        text = captions.Text(key);
     };
     take(headerLine, "ttlFilter");
     take(bracketLine, "ttlBracket");
