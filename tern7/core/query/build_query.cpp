@@ -126,6 +126,14 @@ private:
                 throw EKQueryPanelError(FormatMessage(messages::FieldNotFound, {field.Caption()}));
     }
 
+    /// What Unfinished says, at once for the common case.
+    bool IsFinished(const TFilterCond& condition) const {
+        if (!query.CheckValues && condition.IsRecognized() && condition.Entered() &&
+            condition.Operator()->ValueType() == TOpValueType::vtScalar)
+            return true;
+        return condition.Unfinished() == TUnfinished::No;
+    }
+
     /// True when the bracket wrote something. What was written ahead for rows that then write
     /// nothing is taken back, so one walk is enough.
     bool Bracket(const TFilterBracket& bracket) {
@@ -133,7 +141,7 @@ private:
         for (const auto& row : bracket.Rows()) {
             if (!row->GetEnabled()) continue;
             const TFilterCond* condition = row->AsCond();
-            if (condition && condition->Unfinished() != TUnfinished::No) continue;
+            if (condition && !IsFinished(*condition)) continue;
 
             const TKLineBuffer::TMark mark = conditions.Mark();
             if (any)

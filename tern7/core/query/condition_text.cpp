@@ -210,7 +210,7 @@ bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condit
             out += value;
         else
             out += ReplaceStr(value, "'", "''");
-        out += form.texts[place + 1];
+        if (!form.texts[place + 1].empty()) out += form.texts[place + 1];
     }
     return true;
 }
