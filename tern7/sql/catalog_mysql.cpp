@@ -25,7 +25,7 @@ public:
                    QStringLiteral("SELECT table_name FROM information_schema.tables"
                                   " WHERE table_schema = ?"
                                   " AND table_type IN ('BASE TABLE', 'SYSTEM VERSIONED', 'VIEW')"),
-                   {schema}, [&](const QSqlQuery& row) {
+                   {Bound(schema)}, [&](const QSqlQuery& row) {
                        tables.push_back({Listed(schema, TextOf(row, 0)), schema != current});
                    });
         return tables;
@@ -36,10 +36,10 @@ public:
             "SELECT table_name, column_name, data_type, column_type, character_maximum_length,"
             " numeric_scale, is_nullable, extra FROM information_schema.columns"
             " WHERE table_schema = ?");
-        QVariantList values = {schema};
+        QVariantList values = {Bound(schema)};
         if (!table.empty()) {
             sql += QStringLiteral(" AND table_name = ?");
-            values.append(ToQt(Unlisted(table)));
+            values.append(Bound(ToQt(Unlisted(table))));
         }
         TKCatalogFields fields;
         ForEachRow(database, sql + QStringLiteral(" ORDER BY table_name, ordinal_position"), values,
@@ -62,7 +62,7 @@ public:
             " WHERE table_schema = ? AND referenced_table_name IS NOT NULL"
             " ORDER BY table_name, constraint_name, ordinal_position");
         std::vector<TDBForeignKey> keys;
-        ForEachRow(database, sql, {schema}, [&](const QSqlQuery& row) {
+        ForEachRow(database, sql, {Bound(schema)}, [&](const QSqlQuery& row) {
             const std::string name = TextOf(row, 0);
             const std::string table = Listed(schema, TextOf(row, 1));
             if (keys.empty() || keys.back().Name != name || keys.back().Table != table) {
@@ -78,6 +78,8 @@ public:
     }
 
 private:
+    /// Names as bytes: they compare exactly, and Qt's ODBC driver leaves them as they are.
+    static QVariant Bound(const QString& name) { return name.toUtf8(); }
     static std::string Prefix(const QString& ofSchema) {
         return QuotedIfNeeded(FromQt(ofSchema), TKEngine::MySQL, '`') + ".";
     }

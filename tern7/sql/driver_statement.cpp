@@ -19,6 +19,14 @@ using TKind = TBoundValue::TKind;
 struct TBinding {
     QVariant value;
     std::string castTo = {};
+
+    std::string Placeholder(TKEngine engine, bool odbc) const {
+        // Qt's ODBC driver ends texts with a NUL, which MariaDB's takes for a part of them
+        const bool ended = odbc && engine == TKEngine::MySQL &&
+                           value.metaType().id() == QMetaType::QString && !value.isNull();
+        const std::string text = ended ? "TRIM(TRAILING _utf8mb4 0x00 FROM ?)" : "?";
+        return castTo.empty() ? text : "CAST(" + text + " AS " + castTo + ")";
+    }
 };
 
 bool IsNumberKind(TKind kind) {
@@ -114,7 +122,8 @@ TBinding BindingOf(const TBoundValue& value, TKEngine engine) {
 } // namespace
 
 TKDriverStatement MakeDriverStatement(const TKSelectText& select,
-                                      const std::vector<TBoundValue>& values, TKEngine engine) {
+                                      const std::vector<TBoundValue>& values, TKEngine engine,
+                                      bool odbc) {
     for (const TBoundValue& value : values)
         if (value.text.find('\0') != std::string::npos)
             throw EKDBInfoError(std::string(messages::NulInValue));
@@ -129,7 +138,7 @@ TKDriverStatement MakeDriverStatement(const TKSelectText& select,
         TBinding binding = BindingOf(values[i], engine);
         const size_t at = select.placeholders[i];
         text.append(select.text, from, at - from);
-        text += binding.castTo.empty() ? "?" : "CAST(? AS " + binding.castTo + ")";
+        text += binding.Placeholder(engine, odbc);
         statement.values.append(std::move(binding.value));
         from = at + 1;
     }

@@ -17,9 +17,10 @@ struct TKDriverStatement {
 
 /// Writes and binds the values so that each compares as the same constant would in the text:
 /// numbers as exact numbers, texts as texts, dates and times as texts in their canonical form.
-/// EKDBInfoError when a value holds a NUL, or when there are more or fewer values than
-/// placeholders.
+/// `odbc` is true for a connection through ODBC. EKDBInfoError when a value holds a NUL, or when
+/// there are more or fewer values than placeholders.
 TKDriverStatement MakeDriverStatement(const TKSelectText& select,
-                                      const std::vector<TBoundValue>& values, TKEngine engine);
+                                      const std::vector<TBoundValue>& values, TKEngine engine,
+                                      bool odbc = false);
 
 } // namespace tern7

@@ -73,7 +73,8 @@ void TKExecutor::Open(const TBoundSQL& statement, long long limit) {
     const QSqlDatabase database = connection.Database();
     const TKEngine engine = connection.Engine();
     const TKSelectText select = ReadSelect(statement.text, LexisOf(database, engine));
-    TKDriverStatement prepared = MakeDriverStatement(select, statement.values, engine);
+    TKDriverStatement prepared = MakeDriverStatement(
+        select, statement.values, engine, database.driverName() == QLatin1String("QODBC"));
     if (limit > 0 && select.canBeLimited && engine != TKEngine::Generic)
         prepared.text += QStringLiteral("\nLIMIT %1").arg(limit + 1); // one more: is there more?
 
