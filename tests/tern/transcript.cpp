@@ -62,9 +62,9 @@ std::string RunTranscript(const std::string& transcript, const fs::path& folder)
     };
     std::istringstream lines(transcript);
     for (std::string line; std::getline(lines, line);) {
-        const bool continues = line.starts_with("  > ") || line == "  >";
+        const bool continues = !command.empty() && line.starts_with("  > ");
         if (continues) {
-            command += line.substr(std::min<size_t>(4, line.size())) + "\n";
+            command += line.substr(4) + "\n";
         } else {
             run();
             if (line.starts_with("  $ ")) command = line.substr(4) + "\n";

@@ -31,9 +31,21 @@ void PrintVerbs() {
         "output, messages to the standard error. Exit status: 0 done, 1 refused, 2 wrong usage.\n");
 }
 
+constexpr TOption formatOptions[] = {{"--date"}, {"--time"}, {"--datetime"}, {"--quotes"}};
+constexpr std::string_view formatHelp =
+    R"(  --date F --time F --datetime F   formats such as yyyy-mm-dd, hh:nn:ss, instead of those
+                                   of the structure; empty: values stand as entered
+  --quotes []                      opening and closing sign of quoted names
+)";
+
+std::string Usage(const TVerb& verb) {
+    return "usage: tern " + std::string(verb.name) + " " + std::string(verb.usage);
+}
+
 void PrintHelp(const TVerb& verb) {
-    Print("usage: tern " + std::string(verb.name) + " " + std::string(verb.usage) + "\n\n");
+    PrintLine(Usage(verb));
     Print(verb.help);
+    if (verb.takesFormats) Print(formatHelp);
 }
 
 const TVerb* FindVerb(std::string_view name) {
@@ -54,11 +66,12 @@ int RunVerb(const TVerb& verb, std::span<const std::string> words) {
         return esDone;
     }
     try {
-        return verb.run(TCommandLine(words, verb.options, verb.leastArguments, verb.mostArguments));
+        std::vector<TOption> options(verb.options.begin(), verb.options.end());
+        if (verb.takesFormats)
+            options.insert(options.end(), std::begin(formatOptions), std::end(formatOptions));
+        return verb.run(TCommandLine(words, options, verb.leastArguments, verb.mostArguments));
     } catch (const EWrongUsage& error) {
-        const std::string name(verb.name);
-        Complain(name + ": " + error.what() + "\nusage: tern " + name + " " +
-                 std::string(verb.usage));
+        Complain(std::string(verb.name) + ": " + error.what() + "\n" + Usage(verb));
         return esWrongUsage;
     }
 }

@@ -5,97 +5,146 @@ namespace tern7 {
 namespace {
 
 constexpr TOption importOptions[] = {{"--schema"}, {"-o"}};
-constexpr TOption sqlOptions[] = {{"--syntax"}, {"--options"}, {"--main"},     {"--bound", false},
-                                  {"--date"},   {"--time"},    {"--datetime"}, {"--quotes"}};
-constexpr TOption runOptions[] = {{"--format"}, {"--limit"}, {"--param"},    {"--partial", false},
-                                  {"--date"},   {"--time"},  {"--datetime"}, {"--quotes"}};
-constexpr TOption formatOptions[] = {{"--date"}, {"--time"}, {"--datetime"}, {"--quotes"}};
+constexpr TOption sqlOptions[] = {{"--syntax"}, {"--options"}, {"--main"}, {"--bound", false}};
+constexpr TOption runOptions[] = {{"--format"}, {"--limit"}, {"--param"}, {"--partial", false}};
 constexpr TOption describeOptions[] = {{"--titles"}};
 
-#define TERN7_FORMAT_HELP                                                                          \
-    "  --date F --time F --datetime F   formats such as yyyy-mm-dd, hh:nn:ss, instead of those\n"  \
-    "                                   of the structure; empty: values stand as entered\n"        \
-    "  --quotes []                      opening and closing sign of quoted names\n"
-
 constexpr TVerb verbs[] = {
-    {"import", "DATABASE [--schema NAME] [-o FILE]",
-     "Makes a structure of a database: tables, fields, types, links from its foreign keys,\n"
-     "readable display names.\n"
-     "\n"
-     "DATABASE: sqlite:PATH  postgresql://user@host:port/name  mysql://user@host:port/name\n"
-     "          odbc:DSN; a password stands in the URL or comes from the environment\n"
-     "  --schema NAME                    the tables of this schema only\n"
-     "  -o FILE                          writes the structure there\n",
-     1, 1, importOptions, RunImport},
-    {"sql",
-     "STRUCTURE QUERY [--syntax sql1|sql2|oracle] [--options none|LIST] [--main TABLE] [--bound]",
-     "Prints the statement of a query.\n"
-     "\n"
-     "  --syntax sql2                    JOIN ... ON; sql1: tables with commas, inner joins in\n"
-     "                                   WHERE; oracle: the same with (+) for outer joins\n"
-     "  --options LIST                   none, or with commas soASCIIRFields, soSelectDistinct,\n"
-     "                                   soQuoteAliases, soBracketJoins, soBracketConditions,\n"
-     "                                   soSortByNames, instead of those of the query\n"
-     "  --main TABLE                     alias or name of the table that joins start from\n"
-     "  --bound                          every constant as ?, an empty line, then the values one\n"
-     "                                   a line as "
-     "{\"type\":...,\"value\":...}\n" TERN7_FORMAT_HELP,
-     2, 2, sqlOptions, RunSql},
-    {"run",
-     "DATABASE STRUCTURE QUERY [--format table|csv|json] [--limit N] [--param NAME=VALUE]... "
-     "[--partial]",
-     "Executes the bound statement of a query, read-only, and prints the rows.\n"
-     "\n"
-     "DATABASE: sqlite:PATH  postgresql://user@host:port/name  mysql://user@host:port/name\n"
-     "          odbc:DSN; a password stands in the URL or comes from the environment\n"
-     "  --format table                   for people; csv and json for programs\n"
-     "  --limit N                        the first N rows only\n"
-     "  --param NAME=VALUE               the value of a parameter, by its name or caption\n"
-     "  --partial                        leave unfinished conditions out\n" TERN7_FORMAT_HELP,
-     3, 3, runOptions, RunRun},
-    {"path",
-     "STRUCTURE FROM TO",
-     "Prints the tables of the join path between two tables, by alias, one a line.\n",
-     3,
-     3,
-     {},
-     RunPath},
-    {"structure",
-     "FILE",
-     "Reads a structure and prints it in the present format.\n",
-     1,
-     1,
-     {},
-     RunStructure},
-    {"query", "STRUCTURE FILE",
-     "Reads a query and prints it in the present format, with captions when it had them.\n"
-     "\n" TERN7_FORMAT_HELP,
-     2, 2, formatOptions, RunQuery},
-    {"describe", "STRUCTURE QUERY [--titles FILE]",
-     "Prints a query as sentences, in the language of its captions.\n"
-     "\n"
-     "  --titles FILE                    captions of this titles or query file instead\n",
-     2, 2, describeOptions, RunDescribe},
-    {"check",
-     "STRUCTURE QUERY...",
-     "Names every row and column of the queries that the structure no longer knows; exit status\n"
-     "1 when there are any.\n",
-     2,
-     -1,
-     {},
-     RunCheck},
-    {"titles",
-     "DEFAULTS SOURCE",
-     "Merges a translation over default captions and prints the result.\n"
-     "\n"
-     "DEFAULTS: panel  fields  or a file\n",
-     2,
-     2,
-     {},
-     RunTitles},
-};
+    {
+        .name = "import",
+        .usage = "DATABASE [--schema NAME] [-o FILE]",
+        .help = R"(
+Makes a structure of a database: tables, fields, types, links from its foreign keys,
+readable display names.
 
-#undef TERN7_FORMAT_HELP
+DATABASE: sqlite:PATH  postgresql://user@host:port/name  mysql://user@host:port/name
+          odbc:DSN; a password stands in the URL or comes from the environment
+  --schema NAME                    the tables of this schema only
+  -o FILE                          writes the structure there
+)",
+        .run = RunImport,
+        .options = importOptions,
+    },
+    {
+        .name = "sql",
+        .usage = "STRUCTURE QUERY [--syntax sql1|sql2|oracle] [--options none|LIST] "
+                 "[--main TABLE] [--bound]",
+        .help = R"(
+Prints the statement of a query.
+
+  --syntax sql2                    JOIN ... ON; sql1: tables with commas, inner joins in
+                                   WHERE; oracle: the same with (+) for outer joins
+  --options LIST                   none, or with commas soASCIIRFields, soSelectDistinct,
+                                   soQuoteAliases, soBracketJoins, soBracketConditions,
+                                   soSortByNames, instead of those of the query
+  --main TABLE                     alias or name of the table that joins start from
+  --bound                          every constant as ?, an empty line, then the values one
+                                   a line as {"type":...,"value":...}
+)",
+        .run = RunSql,
+        .leastArguments = 2,
+        .mostArguments = 2,
+        .options = sqlOptions,
+        .takesFormats = true,
+    },
+    {
+        .name = "run",
+        .usage = "DATABASE STRUCTURE QUERY [--format table|csv|json] [--limit N] "
+                 "[--param NAME=VALUE]... [--partial]",
+        .help = R"(
+Executes the bound statement of a query, read-only, and prints the rows.
+
+DATABASE: sqlite:PATH  postgresql://user@host:port/name  mysql://user@host:port/name
+          odbc:DSN; a password stands in the URL or comes from the environment
+  --format table                   for people, with <null> for NULL; csv and json for
+                                   programs
+  --limit N                        the first N rows only
+  --param NAME=VALUE               the value of a parameter, by its name or caption
+  --partial                        leave unfinished conditions out
+)",
+        .run = RunRun,
+        .leastArguments = 3,
+        .mostArguments = 3,
+        .options = runOptions,
+        .takesFormats = true,
+    },
+    {
+        .name = "path",
+        .usage = "STRUCTURE FROM TO",
+        .help = R"(
+Prints the tables of the join path between two tables, by alias, one a line.
+)",
+        .run = RunPath,
+        .leastArguments = 3,
+        .mostArguments = 3,
+    },
+    {
+        .name = "parse",
+        .usage = "[FILE]",
+        .help = R"(
+Prints what the parser reads in a SELECT statement, as JSON: distinct, allFields, fields,
+tables, where (brackets and conditions), rest (the text that was ignored). Without FILE the
+statement comes from the standard input.
+)",
+        .run = RunParse,
+        .leastArguments = 0,
+    },
+    {
+        .name = "structure",
+        .usage = "FILE",
+        .help = R"(
+Reads a structure and prints it in the present format.
+)",
+        .run = RunStructure,
+    },
+    {
+        .name = "query",
+        .usage = "STRUCTURE FILE",
+        .help = R"(
+Reads a query and prints it in the present format, with captions when it had them.
+)",
+        .run = RunQuery,
+        .leastArguments = 2,
+        .mostArguments = 2,
+        .takesFormats = true,
+    },
+    {
+        .name = "describe",
+        .usage = "STRUCTURE QUERY [--titles FILE]",
+        .help = R"(
+Prints a query as sentences, in the language of its captions.
+
+  --titles FILE                    captions of this titles or query file instead
+)",
+        .run = RunDescribe,
+        .leastArguments = 2,
+        .mostArguments = 2,
+        .options = describeOptions,
+    },
+    {
+        .name = "check",
+        .usage = "STRUCTURE QUERY...",
+        .help = R"(
+Names every row and column of the queries that the structure no longer knows; exit status 1
+when there are any.
+)",
+        .run = RunCheck,
+        .leastArguments = 2,
+        .mostArguments = -1,
+    },
+    {
+        .name = "titles",
+        .usage = "DEFAULTS SOURCE",
+        .help = R"(
+Merges a translation over default captions and prints the result.
+
+DEFAULTS: panel  fields  or a file
+)",
+        .run = RunTitles,
+        .leastArguments = 2,
+        .mostArguments = 2,
+    },
+};
 
 } // namespace
 

@@ -15,11 +15,12 @@ enum TExitStatus : int { esDone = 0, esRefused = 1, esWrongUsage = 2 };
 struct TVerb {
     std::string_view name;
     std::string_view usage; ///< what stands behind the name
-    std::string_view help;  ///< lines, each ended by LF
-    int leastArguments;
-    int mostArguments; ///< below 0: any number
-    std::span<const TOption> options;
+    std::string_view help;
     int (*run)(const TCommandLine& line);
+    int leastArguments = 1;
+    int mostArguments = 1; ///< below 0: any number
+    std::span<const TOption> options = {};
+    bool takesFormats = false; ///< --date, --time, --datetime and --quotes
 };
 
 std::span<const TVerb> Verbs();
@@ -27,6 +28,7 @@ std::span<const TVerb> Verbs();
 int RunImport(const TCommandLine& line);
 int RunSql(const TCommandLine& line);
 int RunRun(const TCommandLine& line);
+int RunParse(const TCommandLine& line);
 int RunPath(const TCommandLine& line);
 int RunStructure(const TCommandLine& line);
 int RunQuery(const TCommandLine& line);

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include <QtCore/QChar>
+#include <QtCore/QList>
 #include <QtCore/QStringView>
 
 #include <tern7/sql/qt_text.h>

@@ -1,6 +1,8 @@
 #include "row_writer.h"
 
 #include <algorithm>
+#include <charconv>
+#include <iterator>
 #include <unordered_map>
 
 #include <tern7/core/corekit/strings.h>
@@ -19,6 +21,19 @@ bool IsNumeric(TKind kind) {
     return kind == TKind::Integer || kind == TKind::Float || kind == TKind::Decimal;
 }
 
+/// As people read it: of the 17 digits that a floating point number may have the last two say
+/// nothing.
+std::string TableText(const TBoundValue& cell) {
+    if (cell.kind == TKind::Null) return "<null>";
+    double number = 0;
+    const char* const end = cell.text.data() + cell.text.size();
+    if (cell.kind != TKind::Float || std::from_chars(cell.text.data(), end, number).ptr != end)
+        return Printable(cell.text);
+    char digits[32];
+    return {digits,
+            std::to_chars(digits, std::end(digits), number, std::chars_format::general, 15).ptr};
+}
+
 class TTableWriter : public TRowWriter {
 public:
     void Begin(const std::vector<std::string>& columnNames) override {
@@ -34,7 +49,7 @@ public:
             const TBoundValue& cell = cells[i];
             const bool isNull = cell.kind == TKind::Null;
             TColumn& column = columns[i];
-            column.cells.push_back(isNull ? "<null>" : Printable(cell.text));
+            column.cells.push_back(TableText(cell));
             column.width = std::max(column.width, DisplayWidth(column.cells.back()));
             column.onlyNumbers &= isNull || IsNumeric(cell.kind);
             column.anyNumber |= IsNumeric(cell.kind);
