@@ -46,7 +46,7 @@ TListPopup* TDropDownListBox::CreateDesktop(QListView& list, TItemListModel& lis
     window->OnEnter = [this] { DropUp(true); };
     window->OnEscape = [this] { DropUp(false); };
     window->OnExit = [this] { ListBoxExit(); };
-    if (!list.property("checks").toBool()) window->OnMouseDown = window->OnEnter;
+    if (!listModel.Checkable()) window->OnMouseDown = window->OnEnter;
     return window;
 }
 
@@ -133,7 +133,6 @@ TDropDownCheckListBox::TDropDownCheckListBox(QWidget* parent) : TDropDownListBox
 
 QListView* TDropDownCheckListBox::CreateList(TItemListModel*& listModel) {
     auto* list = new TKCheckListBox;
-    list->setProperty("checks", true);
     listModel = &list->Model();
     connect(list, &TKCheckListBox::checkChanged, this, [this] { changed = true; });
     return list;

@@ -19,6 +19,11 @@ TDropDownPopup::~TDropDownPopup() {
     DiscardEditor(menu);
 }
 
+void TDropDownPopup::SetMaxItemCount(int count) {
+    if (menu && maxItemCount > 0 && count <= 0) menu->SetFitToScreen(true);
+    maxItemCount = count;
+}
+
 TKPopupMenu* TDropDownPopup::Menu() const {
     EnsureControl();
     return menu;
@@ -29,9 +34,12 @@ void TDropDownPopup::CreateControl() {
     if (menu) return menu->setParent(parentWidget(), menu->windowFlags());
     menu = new TKPopupMenu(parentWidget());
     menu->setLayoutDirection(layoutDirection());
-    // Queued: what the choice caused is done before the label looks whether there was one.
-    connect(
-        menu, &TKPopupMenu::closed, this, [this] { DropUp(false); }, Qt::QueuedConnection);
+    // Queued: what the choice caused is done before the label looks whether there was one. A menu
+    // that a handler has opened again stays.
+    const auto dismissed = [this] {
+        if (!menu || !menu->isVisible()) DropUp(false);
+    };
+    connect(menu, &TKPopupMenu::closed, this, dismissed, Qt::QueuedConnection);
 }
 
 void TDropDownPopup::BiDiModeChanged() {

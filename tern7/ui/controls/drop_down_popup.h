@@ -17,7 +17,7 @@ public:
 
     /// How many items a column holds; 0 leaves that to the screen.
     int MaxItemCount() const { return maxItemCount; }
-    void SetMaxItemCount(int count) { maxItemCount = count; }
+    void SetMaxItemCount(int count);
     /// The menu, made at its first use; null without a parent.
     TKPopupMenu* Menu() const;
 

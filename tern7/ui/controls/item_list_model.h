@@ -22,6 +22,7 @@ public:
 
     void SetItems(const QStringList& lines, bool sorted);
     const QStringList& Items() const { return items; }
+    bool Checkable() const { return checkable; }
     void SetCheckable(bool on) { checkable = on; }
     bool Checked(int item) const { return checks[static_cast<size_t>(item)]; }
     void SetChecked(int item, bool on);

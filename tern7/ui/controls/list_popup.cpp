@@ -67,7 +67,7 @@ void TListPopup::Open(const QRect& at, int width, int rowHeight) {
     Place(width, rowHeight);
     // Typing begins a search at once where there is one; otherwise the list looks for first
     // letters.
-    if (isLong && !list.property("checks").toBool())
+    if (isLong && !model.Checkable())
         search->setFocus();
     else
         list.setFocus();
@@ -164,8 +164,7 @@ bool TListPopup::KeyPressed(QKeyEvent& event, bool inSearch) {
 
 /// In a check list that is searched, Enter checks the hit and the search begins anew.
 void TListPopup::Enter() {
-    const bool checks = list.property("checks").toBool();
-    if (checks && !search->text().isEmpty()) {
+    if (model.Checkable() && !search->text().isEmpty()) {
         const QVariant item = list.currentIndex().data(TItemListModel::itemIndexRole);
         if (item.isValid()) model.SetChecked(item.toInt(), true);
         search->clear();

@@ -9,6 +9,7 @@
 #include <QStyle>
 
 #include <tern7/ui/controls/accessible_label.h>
+#include <tern7/ui/controls/editor_events.h>
 #include <tern7/ui/controls/text_search.h>
 #include <tern7/ui/support/system_metrics.h>
 #include <tern7/ui/support/text_size.h>
@@ -109,7 +110,8 @@ void TKPopupMenu::SplitIntoColumns() {
 void TKPopupMenu::PrepareSearch() {
     int choices = 0;
     ForEachLeaf(*root, [&](TMenuItem&) { ++choices; });
-    delete search;
+    // A handler may open the menu again from within a key press of the old field.
+    DiscardEditor(search);
     search = nullptr;
     if (choices < searchFrom) return;
     search = new QLineEdit(this);
@@ -315,7 +317,8 @@ void TKPopupMenu::Trigger(TMenuItem& item) {
     onClick(&item);
     if (!outermost) return;
     outermost->triggering = false;
-    emit outermost->closed();
+    // A handler may have opened the menu again.
+    if (!outermost->isVisible()) emit outermost->closed();
 }
 
 } // namespace tern7

@@ -218,10 +218,6 @@ TEST(Popup, OpensAtItsItem) {
 
 TEST(Popup, ClicksOutside) {
     TOpenPopup t;
-    auto* other = t.form.Add<TDropDownLabel>(200, 200);
-    other->SetValue("other");
-    int opened = 0;
-    other->OnCustomDropDown = [&](TDropDownLabel*, QString&, bool&) { ++opened; };
     ASSERT_TRUE(t.Open());
     // On the label itself: the menu goes and does not come back.
     ClickAt(t.label->Menu(),
@@ -229,6 +225,12 @@ TEST(Popup, ClicksOutside) {
     EXPECT_EQ(t.WaitForEnd().last(), "after up 0");
     EXPECT_FALSE(t.label->Menu()->isVisible());
     EXPECT_EQ(t.log.size(), 4);
+    // Elsewhere: the menu goes, and the press is heard by nobody twice.
+    t.label->DropDown();
+    ClickAt(t.label->Menu(), t.label->Menu()->mapFromGlobal(t.form.mapToGlobal(QPoint(400, 350))));
+    t.WaitForEnd();
+    EXPECT_EQ(t.log.size(), 8);
+    EXPECT_EQ(t.label->Value(), "");
 }
 
 TEST(Popup, SeparatorsAndDisabledItemsAreNotChosen) {
@@ -261,6 +263,8 @@ TEST(Popup, CountPerColumn) {
     EXPECT_EQ(breaks, "..|.|..");
     EXPECT_EQ(root.Items(5).Items(2).Break, TMenuBreak::mbBarBreak);
     EXPECT_FALSE(t.label->Menu()->FitToScreen());
+    t.label->SetMaxItemCount(0);
+    EXPECT_TRUE(t.label->Menu()->FitToScreen());
 }
 
 TEST(Popup, SearchFromFifteenItemsOn) {
@@ -303,6 +307,39 @@ TEST(Popup, TenThousandItems) {
     EXPECT_LT(menu->findChildren<QWidget*>().size(), 10);
     Press(Qt::Key_Return);
     EXPECT_EQ(t.label->Value(), "C4998");
+}
+
+TEST(PopupMenu, OpensAgainFromItsOwnHandler) {
+    TControlForm form;
+    ASSERT_TRUE(form.Open());
+    TKPopupMenu menu(&form);
+    int taken = 0;
+    for (int i = 0; i < searchFrom; ++i)
+        menu.Items().Add("&x").OnClick = [&](TMenuItem*) {
+            if (++taken == 1) menu.Popup(10, 10);
+        };
+    menu.Popup(10, 10);
+    Press({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_TRUE(menu.isVisible());
+    Press({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(taken, 2);
+    EXPECT_FALSE(menu.isVisible());
+}
+
+TEST(Popup, HandlerDropsDownAgain) {
+    TOpenPopup t;
+    int closed = 0;
+    t.label->AfterDropUp = [&](TDropDownLabel* label, bool) {
+        if (++closed == 1) label->DropDown();
+    };
+    ASSERT_TRUE(t.Open());
+    Press({Qt::Key_Down, Qt::Key_Return});
+    QTest::qWait(5);
+    EXPECT_TRUE(t.label->Menu()->isVisible());
+    Press(Qt::Key_Escape);
+    t.WaitForEnd();
+    EXPECT_EQ(closed, 2);
+    EXPECT_EQ(t.label->Value(), "i0");
 }
 
 TEST(Popup, Veto) {
