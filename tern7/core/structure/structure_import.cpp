@@ -32,6 +32,8 @@ std::string RoleOf(const TDBForeignKey& key) {
 TDatabaseImport::TDatabaseImport(TKCustomDBStructure& target) : structure(target) {
     if (!target.DatabaseInfo()) throw EKDBStructError(std::string(messages::NoDatabaseInfo));
     info = target.DatabaseInfo();
+    quote1 = info->QuoteSymbol1();
+    quote2 = info->QuoteSymbol2();
 }
 
 // --- names
@@ -107,6 +109,16 @@ void TDatabaseImport::AddColumns(TDSTable* table, const TDBFieldList& columns, b
         field->AddAppliedOperators();
         if (group) group->Add(field);
     }
+}
+
+// A local form of a date can silently mean another day.
+void TDatabaseImport::UseFormats() {
+    TSQLFormats& formats = structure.SQLFormats();
+    formats.SetDate("yyyy-mm-dd");
+    formats.SetTime("hh:nn:ss");
+    formats.SetDateTime("yyyy-mm-dd hh:nn:ss");
+    formats.SetQuoteSymbol1(quote1);
+    formats.SetQuoteSymbol2(quote2);
 }
 
 // --- a whole database
@@ -188,16 +200,9 @@ TDSTable* TKCustomDBStructure::AddTableFromDatabase(const std::string& name, std
     if (AutoAddFields) columns = databaseInfo->GetFieldList(name);
     TDSUpdate update(*this);
     TDSTable* table = import.AddTable(name, std::move(alias));
-    if (tables.GetCount() == 1 && sqlFormats == TSQLFormats()) UseIsoFormats(sqlFormats);
+    if (tables.GetCount() == 1 && sqlFormats == TSQLFormats()) import.UseFormats();
     import.AddColumns(table, columns, false);
     return table;
-}
-
-// A local form of a date can silently mean another day.
-void UseIsoFormats(TSQLFormats& formats) {
-    formats.SetDate("yyyy-mm-dd");
-    formats.SetTime("hh:nn:ss");
-    formats.SetDateTime("yyyy-mm-dd hh:nn:ss");
 }
 
 void ImportDatabase(TKCustomDBStructure& structure) {
@@ -206,7 +211,7 @@ void ImportDatabase(TKCustomDBStructure& structure) {
     TDSUpdate update(structure);
     TKCustomDBStructure::TReferencesReleased references(structure);
     structure.ClearStructure();
-    UseIsoFormats(structure.SQLFormats());
+    import.UseFormats();
     import.Fill();
 }
 

@@ -23,6 +23,8 @@ public:
     /// The fields of a table, in a group named after it or in the root group.
     void AddColumns(TDSTable* table, const TDBFieldList& columns, bool grouped);
 
+    /// Date formats that mean the same everywhere, and the quote symbols of the database.
+    void UseFormats();
     /// Reads tables, columns and foreign keys.
     void Read();
     /// Adds what Read found.
@@ -46,14 +48,12 @@ private:
     TKCustomDBStructure& structure;
     TKDBInfo* info = nullptr;
     std::unordered_set<std::string> displayNames; // of tables, in lower case
+    char quote1 = 0, quote2 = 0;
     std::vector<TSource> sources;
     std::vector<TDBForeignKey> keys;
     std::unordered_map<std::string_view, TSource*> byName;
     std::unordered_map<std::string_view, TSource*, TTextHash, TTextEqual> byNameIgnoringCase;
     std::map<std::pair<const TSource*, const TSource*>, std::set<TStrings>> linked;
 };
-
-/// `yyyy-mm-dd` and `hh:nn:ss`.
-void UseIsoFormats(TSQLFormats& formats);
 
 } // namespace tern7
