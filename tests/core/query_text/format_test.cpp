@@ -257,18 +257,17 @@ TEST_F(QueryFormat, SubQueriesNest) {
 }
 
 TEST_F(QueryFormat, SubQueriesNestNoDeeperThan200) {
-    std::string text = "[Main]\n[Row0]\nRowCount=0\n";
-    for (int depth = 1; depth <= 201; ++depth) {
-        text = "[Main]\nVersion=3\n[Row0]\nRowCount=1\n[Row1]\nFieldID=4\nOperator="
-               "InQuery\nSubQuery=" +
-               EncodePercent(text);
-        if (depth < 200) continue;
-        query.SetQueryString(text); // is read as far as it is asked for
-        if (depth == 200)
-            EXPECT_TRUE(query.AllParams().empty());
-        else
-            EXPECT_THROW(query.AllParams(), EKQueryPanelError);
-    }
+    std::vector<std::unique_ptr<TKQuery>> chain; // the outer one and 198 inside of it
+    for (int depth = 0; depth < 199; ++depth)
+        chain.push_back(chain.empty() ? query.NewNested() : chain.back()->NewNested());
+    TFilterCond* row = Add(chain.back()->Root(), "Order number", "InQuery");
+    TKQuery below(&structure);
+    Add(below.Root(), "Order number", "InQuery")->SetSubQuery("[Main]\n[Row0]\nRowCount=0\n");
+    row->SetSubQuery(below.GetQueryString());
+    ASSERT_TRUE(row->NestedQuery());
+    EXPECT_THROW(row->NestedQuery()->Root().GetFirstCondition()->NestedQuery(), EKQueryPanelError);
+    while (!chain.empty())
+        chain.pop_back(); // the innermost first
 }
 
 TEST_F(QueryFormat, ContentsChangeAndObjectsStay) {
