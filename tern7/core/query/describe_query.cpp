@@ -22,9 +22,7 @@ private:
     void AddRow(const TFilterRow& row, size_t level);
     void AddNested(const TFilterCond& condition, size_t level);
     std::string ColumnText(const TResultField& field) const;
-    std::string Caption(std::string_view key) const {
-        return std::string(titles.Text(key));
-    }
+    std::string Caption(std::string_view key) const { return std::string(titles.Text(key)); }
     void Line(size_t level, std::string text) {
         lines.push_back(std::string(2 * level, ' ') + std::move(text));
     }

@@ -82,9 +82,7 @@ std::string_view UnfinishedText(TUnfinished reason) {
 
 TKRowTexts::TKRowTexts(const TStrings& titles) {
     const TKTitles captions(DefaultQueryTitles(), titles);
-    auto take = [&](std::string& text, std::string_view key) {
-        text = captions.Text(key);
-    };
+    auto take = [&](std::string& text, std::string_view key) { text = captions.Text(key); };
     take(headerLine, "ttlFilter");
     take(bracketLine, "ttlBracket");
     take(andWord, "ttlAnd");
