@@ -15,10 +15,8 @@
 
 namespace tern7 {
 
-namespace {
-
 /// Begins a transaction that can change nothing and rolls it back at the end.
-class TReadOnlyTransaction {
+class TKExecutor::TReadOnlyTransaction {
 public:
     TReadOnlyTransaction(const QSqlDatabase& connection, TKEngine engine) : database(connection) {
         if (engine == TKEngine::PostgreSQL)
@@ -39,8 +37,6 @@ private:
     QSqlDatabase database;
     bool begun = false;
 };
-
-} // namespace
 
 /// The parts of an open statement. The transaction ends after the result and before the prepared
 /// statement, which can not be freed while a failed transaction lasts.

@@ -55,6 +55,7 @@ public:
     void Close();
 
 private:
+    class TReadOnlyTransaction;
     struct TOpened;
 
     const TKConnection& connection;
