@@ -6,11 +6,10 @@
 
 #include <tern7/core/corekit/errors.h>
 #include <tern7/core/corekit/messages.h>
-#include <tern7/core/corekit/strings.h>
 
 namespace tern7 {
 
-TKSourceText::TKSourceText(std::string source) : text(std::move(source)), lower(LowerCase(text)) {
+TKSourceText::TKSourceText(std::string source) : text(std::move(source)) {
     if (text.size() >= std::numeric_limits<uint32_t>::max())
         throw EKTernError(std::string(messages::TextTooLong));
 }

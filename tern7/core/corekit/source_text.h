@@ -20,8 +20,6 @@ public:
     TKSourceText& operator=(const TKSourceText&) = delete;
 
     std::string_view Text() const { return text; }
-    /// The same bytes with A to Z in lower case.
-    std::string_view Lower() const { return lower; }
     /// True for a view into Text().
     bool Owns(std::string_view piece) const;
     /// CR LF, LF and CR end a line. Linear in the text before the offset.
@@ -29,7 +27,6 @@ public:
 
 private:
     std::string text;
-    std::string lower;
 };
 
 } // namespace tern7

@@ -1,16 +1,22 @@
-#include <array>
+#include <algorithm>
 
 #include <tern7/core/global/messages.h>
 #include <tern7/core/parser/sql_parser.h>
 
 namespace tern7 {
 
-namespace {
+bool TKSQLParser::IsBracketWithJoiningWord() {
+    if (!Is(wOpen)) return false;
+    if (!joiningWords) joiningWords = &scanner.PairScan("(", ")", "between", "and,or");
+    return (*joiningWords)[scanner.GetBookmark()];
+}
 
-constexpr std::string_view JoiningWords = "and,or";
-constexpr std::string_view ComparingWords = "=,<>,!=,<,>,<=,>=,in,like,is,between";
-
-} // namespace
+bool TKSQLParser::IsBracketWithComparingWord() {
+    constexpr std::string_view words = "=,<>,!=,<,>,<=,>=,in,like,is,between";
+    if (!Is(wOpen)) return false;
+    if (!comparingWords) comparingWords = &scanner.PairScan("(", ")", "", words);
+    return (*comparingWords)[scanner.GetBookmark()];
+}
 
 // A bracket is made where a second node joins the first, so that none ever holds a single node.
 void TKSQLParser::ProcessBoolExpr(TSQLBracket& parent) {
@@ -41,8 +47,7 @@ TSQLBracket& TKSQLParser::WrapLast(TSQLBracket& parent, std::string_view linkTyp
 }
 
 void TKSQLParser::ProcessBoolFactor(TSQLBracket& parent) {
-    if (!Is(wOpen) || !scanner.ScanToPair("(", ")", "between", JoiningWords))
-        return ProcessCondition(parent, false);
+    if (!IsBracketWithJoiningWord()) return ProcessCondition(parent, false);
     const size_t start = scanner.GetBookmark();
     Step();
     ProcessBoolExpr(parent);
@@ -54,13 +59,13 @@ void TKSQLParser::ProcessCondition(TSQLBracket& parent, bool negated) {
     const size_t start = scanner.GetBookmark();
     while (Take(wNot))
         negated = !negated;
-    if (negated && Is(wOpen) && scanner.ScanToPair("(", ")", "between", JoiningWords)) {
+    if (negated && IsBracketWithJoiningWord()) {
         Step();
         ProcessBoolExpr(parent);
         RequireBracket();
         TSQLConditionNode& node = *parent.Nodes().Last();
         node.SetNot(!node.Not());
-    } else if (Is(wOpen) && scanner.ScanToPair("(", ")", "", ComparingWords)) {
+    } else if (IsBracketWithComparingWord()) {
         Step();
         ProcessCondition(parent, negated);
         RequireBracket();
@@ -77,21 +82,34 @@ void TKSQLParser::ProcessComparison(TSQLBracket& parent, bool negated) {
     if (Take(wNot)) negated = !negated;
     condition.SetNot(negated);
     const bool isBetween = Is(wBetween);
-    condition.SetOperator(scanner.GetTokStr());
+    condition.SetOperator(OperatorText());
     Step();
     if (scanner.EOS()) Error(messages::WrongSQL);
     bool isSubQuery = false;
+    const size_t start = scanner.GetBookmark();
     std::string_view value = WithSingleQuotes(ProcessConditionValue(isSubQuery));
-    if (isBetween) value = ProcessSecondValue(value, isSubQuery);
+    if (isBetween) value = ProcessSecondValue(value, start, isSubQuery);
     condition.SetValue(value);
     condition.SetIsSubQuery(isSubQuery);
 }
 
-std::string_view TKSQLParser::ProcessSecondValue(std::string_view first, bool& isSubQuery) {
+/// The token in lower case.
+std::string_view TKSQLParser::OperatorText() {
+    const std::string_view written = scanner.GetRealStr();
+    const bool isLower =
+        std::none_of(written.begin(), written.end(), [](char c) { return c != LowerChar(c); });
+    return isLower ? written : result->KeepText(scanner.GetTokStr());
+}
+
+std::string_view TKSQLParser::ProcessSecondValue(std::string_view first, size_t start,
+                                                 bool& isSubQuery) {
+    constexpr std::string_view joint = " and ";
     Require(wAnd);
+    const std::string_view second = WithSingleQuotes(ProcessConditionValue(isSubQuery));
     std::string both(first);
-    both.append(" and ").append(WithSingleQuotes(ProcessConditionValue(isSubQuery)));
-    return result->KeepText(both);
+    both.append(joint).append(second);
+    const std::string_view written = scanner.ExtractPiece(start, scanner.GetBookmark(), false);
+    return both == written ? written : result->KeepText(both);
 }
 
 /// "abc" as 'abc'. A text that only begins and ends with double quotes is an expression, and stays.

@@ -20,6 +20,18 @@ constexpr std::string_view OtherWords[] = {
     "or",       "=",       "<>",    "!=",   ">",     "<",    ">=",    "<=", "like", "in",
     "is",       "between", "desc",  "asc",  "(",     ")",    ",",     ".",  "*",    "\""};
 
+std::shared_ptr<const TKVocabulary> Words() {
+    static const std::shared_ptr<const TKVocabulary> words = [] {
+        auto vocabulary = std::make_shared<TKVocabulary>();
+        for (std::string_view word : ReservedWords)
+            vocabulary->Add(word, true);
+        for (std::string_view word : OtherWords)
+            vocabulary->Add(word, false);
+        return vocabulary;
+    }();
+    return words;
+}
+
 /// A name written between quote characters as it is meant.
 std::string Unquoted(std::string_view name) {
     const char close = name.back();
@@ -30,11 +42,9 @@ std::string Unquoted(std::string_view name) {
 
 } // namespace
 
-TKSQLParser::TKSQLParser() : result(std::make_unique<TKParserResult>()) {
-    for (std::string_view word : ReservedWords)
-        scanner.AddKeyword(word);
-    for (std::string_view word : OtherWords)
-        scanner.AddWord(word);
+TKSQLParser::TKSQLParser()
+    : source(std::make_shared<const TKSourceText>(std::string())), scanner(Words()),
+      result(std::make_unique<TKParserResult>()) {
     static_assert(std::size(ReservedWords) == wBy);
     static_assert(std::size(ReservedWords) + std::size(OtherWords) == wDoubleQuote);
 }
@@ -42,12 +52,17 @@ TKSQLParser::TKSQLParser() : result(std::make_unique<TKParserResult>()) {
 TKSQLParser::~TKSQLParser() = default;
 
 void TKSQLParser::SetSQL(const TStrings& lines) {
-    text = JoinStrings(lines, "\n");
+    SetText(JoinStrings(lines, "\n"));
+}
+
+void TKSQLParser::SetText(std::string sql) {
+    source = std::make_shared<const TKSourceText>(std::move(sql));
 }
 
 void TKSQLParser::Parse() {
-    scanner.SetSource(text);
-    result->SetSource(scanner.Source());
+    joiningWords = comparingWords = nullptr;
+    scanner.SetSource(source);
+    result->SetSource(source);
     RefuseDeepNesting();
     ProcessSelect();
     ProcessFrom();
@@ -120,9 +135,9 @@ void TKSQLParser::ProcessSelect() {
 void TKSQLParser::ProcessResultField() {
     const size_t start = scanner.GetBookmark();
     std::string expression = ProcessSQLExpr();
-    const std::string_view source = scanner.ExtractPiece(start, scanner.GetBookmark(), false);
+    const std::string_view written = scanner.ExtractPiece(start, scanner.GetBookmark(), false);
     std::string alias = Take(wAs) ? ProcessAlias() : std::string();
-    AddResultField(std::move(expression), std::move(alias)).Source = source;
+    AddResultField(std::move(expression), std::move(alias)).Source = written;
 }
 
 std::string TKSQLParser::ProcessSQLExpr() {
@@ -278,12 +293,6 @@ bool TKSQLParser::IsJoinWord() const {
 
 bool TKSQLParser::IsClauseWord() const {
     return Is(wWhere) || Is(wGroup) || Is(wOrder);
-}
-
-bool TKSQLParser::Take(uint8_t word) {
-    if (!Is(word)) return false;
-    Step();
-    return true;
 }
 
 void TKSQLParser::Require(uint8_t word) {

@@ -44,7 +44,7 @@ public:
     virtual ~TKSQLParser();
 
     void SetSQL(const TStrings& lines);
-    void SetText(std::string sql) { text = std::move(sql); }
+    void SetText(std::string sql);
     void Parse();
 
     TKParserResult& Result() { return *result; }
@@ -137,7 +137,11 @@ protected:
     bool IsClauseWord() const;
     void Step() { scanner.NextToken(); }
     /// Steps past the word if it is there.
-    bool Take(uint8_t word);
+    bool Take(uint8_t word) {
+        if (!Is(word)) return false;
+        Step();
+        return true;
+    }
     /// Steps past the word, or raises "Wrong SQL statement".
     void Require(uint8_t word);
     void SkipTokens(uint8_t word);
@@ -145,18 +149,25 @@ protected:
     [[noreturn]] void Error(std::string_view message) const;
 
 private:
-    std::string text;
+    std::shared_ptr<const TKSourceText> source;
     TKScanner scanner;
     std::unique_ptr<TKParserResult> result;
     bool isRestNoted = false;
     size_t noted = 0; // bookmark of the first token that was stepped over without notice
 
+    // Whether such words stand in the bracket that opens at a bookmark; none until first asked for.
+    const std::vector<bool>* joiningWords = nullptr;
+    const std::vector<bool>* comparingWords = nullptr;
+
     void RefuseDeepNesting();
+    bool IsBracketWithJoiningWord();
+    bool IsBracketWithComparingWord();
     void KeepRest();
     TSQLBracket& WrapLast(TSQLBracket& parent, std::string_view linkType);
     void ProcessComparison(TSQLBracket& parent, bool negated);
     std::string_view ReadOperand(bool isLeft, bool& isSubQuery);
-    std::string_view ProcessSecondValue(std::string_view first, bool& isSubQuery);
+    std::string_view OperatorText();
+    std::string_view ProcessSecondValue(std::string_view first, size_t start, bool& isSubQuery);
     std::string_view WithSingleQuotes(std::string_view value);
     void WidenSource(const TSQLBracket& parent, size_t start);
     void RequireBracket();

@@ -9,7 +9,7 @@ namespace {
 
 /// The tokens between bars, each with the number of its type in front.
 std::string Tokens(TKScanner& scanner, const char* text) {
-    scanner.SetSource(text);
+    scanner.SetSource(TStrings{text});
     std::string result;
     for (; !scanner.EOS(); scanner.NextToken()) {
         result += std::to_string(static_cast<int>(scanner.GetTokType()));
@@ -81,7 +81,7 @@ TEST(Scanner, BehindTheStatement) {
         {"a; -- c\n ;", ""}, {"a ; b ; ", "b ;"}, {"a", ""}, {"';' \";\"", ""}, {";b", "b"}};
     for (const auto& [text, behind] : cases) {
         TKScanner scanner;
-        scanner.SetSource(text);
+        scanner.SetSource(TStrings{text});
         EXPECT_EQ(scanner.Behind(), behind) << text;
     }
 }
@@ -112,7 +112,7 @@ TEST(Scanner, ScanToPair) {
             if (known)
                 for (const char* word : {"and", "or", "between", "(", ")"})
                     scanner.AddWord(word);
-            scanner.SetSource(each.text);
+            scanner.SetSource(TStrings{each.text});
             EXPECT_EQ(scanner.ScanToPair("(", ")", "between", "and,or"), each.found) << each.text;
             EXPECT_FALSE(scanner.ScanToPair("(", ")", "", "none,=")) << each.text;
         }
