@@ -5,7 +5,9 @@
 #include <cstdlib>
 #include <string>
 
+#include <fcntl.h>
 #include <malloc.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <ini.h>
@@ -96,7 +98,12 @@ void LoadBesideQSettings(benchmark::State& state) {
         const QSettings file(name, QSettings::IniFormat);
         benchmark::DoNotOptimize(file.contains("Main/Version"));
     };
-    bench::SideBySide(state, ours, settings);
+    timespec times[2] = {{1000000000, 0}, {1000000000, 0}};
+    auto touch = [&] { // QSettings reads a file again only when its time is another
+        ++times[1].tv_sec;
+        utimensat(AT_FDCWD, name, times, 0);
+    };
+    bench::SideBySide(state, ours, settings, touch);
     std::remove(name);
 }
 #endif

@@ -35,6 +35,12 @@ std::string_view WithoutLineEnd(std::string_view line) {
     return line;
 }
 
+/// As StartsText; mostly the case is the same.
+bool StartsKey(std::string_view text, std::string_view key) {
+    if (text.size() < key.size()) return false;
+    return std::memcmp(text.data(), key.data(), key.size()) == 0 || StartsText(text, key);
+}
+
 void DropEmptyAtEnd(TStrings& lines) {
     while (!lines.empty() && lines.back().empty())
         lines.pop_back();
@@ -74,17 +80,17 @@ TStrings TKIniSection::Lines() const {
 
 std::optional<TKIniSection::TFound>
 TKIniSection::FindWithin(size_t from, size_t to, std::string_view key, bool orEncoded) const {
-    while (from < to) {
-        const size_t behind = BehindLine(body, from);
-        const std::string_view each = body.substr(from, behind - from);
-        from = behind;
-        if (!StartsText(each, key)) continue;
-        std::string_view rest = each.substr(key.size());
+    for (; from < to; from = BehindLine(body, from)) {
+        std::string_view rest = body.substr(from, to - from);
+        // a key holds no line end, so that it ends in this line
+        if (!StartsKey(rest, key)) continue;
+        rest.remove_prefix(key.size());
         const bool encoded = orEncoded && StartsText(rest, EncodedSuffix);
         if (encoded) rest.remove_prefix(EncodedSuffix.size());
         if (rest.empty() || rest.front() != '=') continue;
-        next = behind;
-        return TFound{WithoutLineEnd(rest.substr(1)), encoded};
+        const size_t value = to - rest.size() + 1;
+        next = BehindLine(body, value);
+        return TFound{WithoutLineEnd(body.substr(value, next - value)), encoded};
     }
     return std::nullopt;
 }
@@ -99,12 +105,18 @@ bool TKIniSection::Has(std::string_view key) const {
     return Find(key, false).has_value();
 }
 
-std::string_view TKIniSection::Raw(std::string_view key) const {
+std::string_view TKIniSection::TakeNext(size_t keySize) const {
+    const size_t value = next + keySize + 1;
+    next = BehindLine(body, value);
+    return WithoutLineEnd(body.substr(value, next - value));
+}
+
+std::string_view TKIniSection::FindRaw(std::string_view key) const {
     const auto found = Find(key, false);
     return found ? found->value : std::string_view();
 }
 
-std::string TKIniSection::Text(std::string_view key) const {
+std::string TKIniSection::FindText(std::string_view key) const {
     const auto found = Find(key, true);
     if (!found) return {};
     return found->encoded ? DecodePercent(found->value) : std::string(found->value);
@@ -114,37 +126,39 @@ void TKIniSection::FailValue(std::string_view key, std::string_view value) const
     throw EKTernError(FormatMessage(messages::WrongValueOfKey, {key, name, value}));
 }
 
-int TKIniSection::Int(std::string_view key, int otherwise) const {
-    const std::string_view value = Trim(Raw(key));
+int TKIniSection::ToInt(std::string_view key, std::string_view value, int otherwise) const {
+    value = Trim(value);
     if (value.empty()) return otherwise;
     const auto number = StrToIntExact(value);
     if (!number) FailValue(key, value);
     return *number;
 }
 
-bool TKIniSection::Bool(std::string_view key, bool otherwise) const {
-    const std::string_view value = Trim(Raw(key));
+bool TKIniSection::ToBool(std::string_view key, std::string_view value, bool otherwise) const {
+    value = Trim(value);
     if (value.empty()) return otherwise;
     const auto truth = NStrToBool(value);
     if (!truth) FailValue(key, value);
     return *truth;
 }
 
+int TKIniSection::Line() const {
+    const auto before = static_cast<size_t>(name.data() - origin);
+    return 1 + static_cast<int>(CharCount(std::string_view(origin, before), '\n'));
+}
+
 TKIniText::TKIniText(std::string_view text) {
     Cut(text);
-    Index();
 }
 
 void TKIniText::Cut(std::string_view text) {
     std::string_view name;
-    int line = 1;
-    size_t counted = 0; // lines are counted up to here
     size_t bodyStart = 0;
-    int headerLine = 0;
+    bool open = false;
     std::string_view openName;
     const auto close = [&](size_t end) {
-        if (headerLine > 0)
-            sections.emplace_back(openName, text.substr(bodyStart, end - bodyStart), headerLine);
+        if (open)
+            sections.emplace_back(openName, text.substr(bodyStart, end - bodyStart), text.data());
     };
     for (size_t hit = text.find('['); hit != std::string_view::npos;
          hit = text.find('[', hit + 1)) {
@@ -152,16 +166,15 @@ void TKIniText::Cut(std::string_view text) {
         const size_t behind = BehindLine(text, hit);
         if (!IsHeader(text.substr(hit, behind - hit), name)) continue;
         close(hit);
-        line += static_cast<int>(CharCount(text.substr(counted, hit - counted), '\n'));
-        counted = hit;
-        headerLine = line;
+        open = true;
         openName = name;
         bodyStart = behind;
     }
     close(text.size());
 }
 
-void TKIniText::Index() {
+void TKIniText::Index() const {
+    if (!cells.empty()) return;
     const size_t mask = std::bit_ceil(2 * sections.size() + 1) - 1;
     cells.assign(mask + 1, 0);
     std::vector<uint32_t> nameOf(sections.size());
@@ -193,6 +206,7 @@ const TKIniSection* TKIniText::Find(std::string_view name) const {
 }
 
 const TKIniSection* TKIniText::FindFrom(size_t position, std::string_view name) const {
+    Index();
     const size_t mask = cells.size() - 1;
     for (size_t slot = TTextHash()(name) & mask; cells[slot] != 0; slot = (slot + 1) & mask) {
         const size_t number = cells[slot] - 1;

@@ -62,6 +62,7 @@ std::string XFloatToStr(double value) {
 }
 
 std::optional<bool> NStrToBool(std::string_view text) {
+    if (text == "0") return false;
     constexpr std::string_view trueWords[] = {"1", "true", "yes", "t", "y", "-1"};
     constexpr std::string_view falseWords[] = {"0", "false", "no", "f", "n"};
     const auto isText = [text](std::string_view word) { return SameText(word, text); };

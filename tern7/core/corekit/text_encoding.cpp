@@ -43,15 +43,6 @@ size_t SequenceLength(std::string_view text, size_t i) {
     return wrong ? 0 : length;
 }
 
-bool IsUTF8(std::string_view text) {
-    for (size_t i = SkipASCII(text, 0); i < text.size(); i = SkipASCII(text, i)) {
-        const size_t length = SequenceLength(text, i);
-        if (length == 0) return false;
-        i += length;
-    }
-    return true;
-}
-
 void AppendUTF8(std::string& result, unsigned code) {
     if (code < 0x80) {
         result += static_cast<char>(code);
@@ -75,6 +66,15 @@ std::string FromWindows1252(std::string_view bytes) {
 }
 
 } // namespace
+
+bool IsUTF8(std::string_view text) {
+    for (size_t i = SkipASCII(text, 0); i < text.size(); i = SkipASCII(text, i)) {
+        const size_t length = SequenceLength(text, i);
+        if (length == 0) return false;
+        i += length;
+    }
+    return true;
+}
 
 TKDecodedText DecodeTextFile(std::string bytes) {
     TKDecodedText result;

@@ -25,7 +25,6 @@ struct TKCustomDBStructure::TContent {
     TKObjectList<TDSOperator> operators;
     std::vector<std::unique_ptr<TDSFieldGroup>> groups;
     std::vector<TDSField*> rootFields;
-    TDSLookup<TDSField> ids;
     double version = 3.3;
     std::string defaultMainTable;
     bool rootFieldsFirst = false;

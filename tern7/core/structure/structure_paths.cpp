@@ -8,7 +8,8 @@ namespace tern7 {
 
 // --- graph
 
-TDSLinkGraph::TDSLinkGraph(const TKObjectList<TDSTable>& tables) {
+TDSLinkGraph::TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount) {
+    targets.reserve(2 * static_cast<size_t>(linkCount));
     offsets.reserve(static_cast<size_t>(tables.GetCount()) + 1);
     offsets.push_back(0);
     for (const auto& table : tables) {
@@ -16,7 +17,6 @@ TDSLinkGraph::TDSLinkGraph(const TKObjectList<TDSTable>& tables) {
             targets.push_back(static_cast<uint32_t>(link->OtherTable(table.get())->Index()));
         offsets.push_back(static_cast<uint32_t>(targets.size()));
     }
-    FindComponents();
 }
 
 void TDSLinkGraph::FindComponents() {
@@ -54,7 +54,7 @@ TDSPathTree::TDSPathTree(const TDSLinkGraph& ofGraph, uint32_t startTable)
 
 // A table is finished, with all its links, before the next one: so the tree can grow further later
 // and is the same as if it had been grown at once.
-void TDSPathTree::GrowTo(uint32_t table) {
+bool TDSPathTree::GrowTo(uint32_t table) {
     while (parents[table] == Unseen && head < tail) {
         const uint32_t from = queue[head++];
         for (const uint32_t* to = graph.Begin(from); to != graph.End(from); ++to)
@@ -64,6 +64,7 @@ void TDSPathTree::GrowTo(uint32_t table) {
                 queue[tail++] = *to;
             }
     }
+    return parents[table] != Unseen;
 }
 
 TDSPathTree& TKCustomDBStructure::TPathTrees::TreeOf(uint32_t start) {
@@ -108,8 +109,8 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
     for (const TDSTable* table : {&start, &end})
         if (&table->Structure() != this || table->Index() < 0)
             throw EKDBStructError(FormatMessage(messages::NoSuchTable, {table->TableAlias()}));
-    if (!pathTrees) pathTrees = std::make_unique<TPathTrees>(tables);
-    const TDSLinkGraph& graph = pathTrees->graph;
+    if (!pathTrees) pathTrees = std::make_unique<TPathTrees>(tables, links.GetCount());
+    TDSLinkGraph& graph = pathTrees->graph;
     const auto from = static_cast<uint32_t>(start.Index());
     const auto to = static_cast<uint32_t>(end.Index());
 
@@ -122,10 +123,13 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
         path.tables.push_back(tables[start.Index()]);
         return path;
     }
-    if (!graph.Connected(from, to)) throw EKDBStructError(std::string(messages::NoPath));
+    if (!graph.MayBeConnected(from, to)) throw EKDBStructError(std::string(messages::NoPath));
 
     TDSPathTree& tree = pathTrees->TreeOf(from);
-    tree.GrowTo(to);
+    if (!tree.GrowTo(to)) {
+        graph.FindComponents();
+        throw EKDBStructError(std::string(messages::NoPath));
+    }
     const uint32_t depth = tree.Depth(to);
     const size_t valid = pathTrees->written == &tree ? path.tables.size() : 0;
     path.tables.resize(depth + 1);

@@ -12,17 +12,20 @@ namespace tern7 {
 /// targets[offsets[i]] .. targets[offsets[i + 1]], in the order of its links.
 class TDSLinkGraph {
 public:
-    explicit TDSLinkGraph(const TKObjectList<TDSTable>& tables);
+    TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount);
 
     uint32_t Count() const { return static_cast<uint32_t>(offsets.size()) - 1; }
     const uint32_t* Begin(uint32_t table) const { return targets.data() + offsets[table]; }
     const uint32_t* End(uint32_t table) const { return targets.data() + offsets[table + 1]; }
-    /// True when a chain of links leads from one table to the other.
-    bool Connected(uint32_t a, uint32_t b) const { return components[a] == components[b]; }
     bool HasLoop(uint32_t table) const;
+    /// False only when no chain of links leads from one table to the other; always true before
+    /// FindComponents, which a search without result calls.
+    bool MayBeConnected(uint32_t a, uint32_t b) const {
+        return components.empty() || components[a] == components[b];
+    }
+    void FindComponents();
 
 private:
-    void FindComponents();
     std::vector<uint32_t> offsets, targets;
     std::vector<uint32_t> components;
 };
@@ -35,8 +38,8 @@ public:
     TDSPathTree(const TDSLinkGraph& graph, uint32_t startTable);
 
     uint32_t Start() const { return start; }
-    /// Grows the tree until it holds the table. The table must be connected to the start.
-    void GrowTo(uint32_t table);
+    /// Grows the tree until it holds the table; false when it can not be reached.
+    bool GrowTo(uint32_t table);
     /// The table before this one on the way from the start.
     uint32_t Parent(uint32_t table) const { return parents[table]; }
     uint32_t Depth(uint32_t table) const { return depths[table]; }
@@ -54,7 +57,7 @@ private:
 struct TKCustomDBStructure::TPathTrees {
     static constexpr size_t KeptTrees = 8;
 
-    explicit TPathTrees(const TKObjectList<TDSTable>& tables) : graph(tables) {}
+    TPathTrees(const TKObjectList<TDSTable>& tables, int linkCount) : graph(tables, linkCount) {}
     TDSPathTree& TreeOf(uint32_t start);
 
     TDSLinkGraph graph;

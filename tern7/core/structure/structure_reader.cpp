@@ -23,9 +23,10 @@ std::unique_ptr<TKCustomDBStructure::TContent> TKStructureReader::Read() {
     ReadTables(Count(*main, "TableCount"));
     ReadFields(Count(*main, "FieldCount"));
     ReadGroups(Count(*main, "FieldGroups"));
-    if (const TKIniSection* section = Next(structure_format::DatabaseSection))
+    if (const TKIniSection* section = Optional(structure_format::DatabaseSection))
         ReadDatabaseLines(*section);
-    if (const TKIniSection* section = Next(structure_format::FormatsSection)) ReadFormats(*section);
+    if (const TKIniSection* section = Optional(structure_format::FormatsSection))
+        ReadFormats(*section);
     return std::move(content);
 }
 
@@ -34,12 +35,19 @@ std::unique_ptr<TKCustomDBStructure::TContent> TKStructureReader::Read() {
 // Sections mostly stand in the order in which they are asked for.
 const TKIniSection* TKStructureReader::Next(std::string_view name) {
     const TKIniSection* section = nullptr;
-    if (cursor < ini.Sections().size() && SameText(ini.Sections()[cursor].Name(), name))
+    if (cursor < ini.Sections().size() && ini.Sections()[cursor].Name() == name)
         section = &ini.Sections()[cursor];
     else
         section = ini.Find(name);
     if (section) cursor = ini.PositionOf(*section) + 1;
     return section;
+}
+
+// Found by a scan, which costs less than the index of names that a whole text may do without.
+const TKIniSection* TKStructureReader::Optional(std::string_view name) {
+    for (const TKIniSection& section : ini.Sections())
+        if (SameText(section.Name(), name)) return &section;
+    return nullptr;
 }
 
 const TKIniSection& TKStructureReader::Numbered(std::string_view prefix, int number,
@@ -119,10 +127,12 @@ void TKStructureReader::ReadDatabaseLines(const TKIniSection& section) {
 
 void TKStructureReader::ReadOperators(int count) {
     for (int number = 1; number <= count; ++number) {
-        const std::string formerName = "Operation:" + std::to_string(number);
-        const bool former = !ini.Find("Operator:" + std::to_string(number)) && ini.Find(formerName);
         auto op = std::make_unique<TDSOperator>(structure);
-        ReadOperator(Numbered(former ? "Operation:" : "Operator:", number), *op);
+        const TKIniSection* former = nullptr; // early files call the sections so
+        if (cursor >= ini.Sections().size() ||
+            !StartsText(ini.Sections()[cursor].Name(), "Operator:"))
+            former = ini.Find("Operation:" + std::to_string(number));
+        ReadOperator(former ? *former : Numbered("Operator:", number), *op);
         AddOperator(std::move(op));
     }
 }

@@ -26,6 +26,7 @@ private:
 
     // sections and values
     const TKIniSection* Next(std::string_view name);
+    const TKIniSection* Optional(std::string_view name);
     const TKIniSection& Numbered(std::string_view prefix, int number, std::string_view suffix = {});
     [[noreturn]] static void FailSection(std::string_view name);
     [[noreturn]] static void FailValue(const TKIniSection& section, std::string_view key,
@@ -74,6 +75,7 @@ private:
                          TDSFieldGroup* group, std::vector<TDSField*>& fields);
     void PlaceRestInRoot();
     TDSField* FieldByID(int id) const;
+    void Remember(TDSField* field);
 
     TKCustomDBStructure& structure;
     TKIniText ini;
@@ -85,9 +87,11 @@ private:
     std::unordered_map<std::string_view, TDSOperator*, TTextHash, TTextEqual> operatorNames;
     std::unordered_map<std::string_view, std::shared_ptr<TOperators>> operatorLists; // by text
     std::vector<TLinkTask> linkTasks;
+    std::vector<TDSField*> fieldsByID; // small IDs; the others:
+    std::unordered_map<int, TDSField*> fieldsByLargeID;
     std::vector<std::pair<TDSField*, int>> withoutID; // and the ID that could not be used
     std::vector<bool> placed;                         // by position: the field stands in a group
-    const TDSTable* lastTable = nullptr;
+    TDSTable* lastTable = nullptr; // most fields have the table of the field before
 };
 
 } // namespace tern7

@@ -1,5 +1,6 @@
 #include <tern7/core/structure/structure_reader.h>
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -11,14 +12,18 @@ namespace tern7 {
 // --- fields
 
 void TKStructureReader::ReadFields(int count) {
-    content->ids.Start(ini.Sections().size());
+    const size_t expected = std::min(static_cast<size_t>(count), ini.Sections().size());
+    fieldsByID.assign(2 * expected + 64, nullptr);
+    content->fields.Reserve(expected);
     for (int number = 1; number <= count; ++number) {
         const TKIniSection& section = Numbered("Field:", number);
+        const int id = section.Int("ID", -1); // first, as it stands first
         const std::string_view kindName = Trim(section.Raw("Kind"));
         const auto kind = kindName.empty() ? TKFieldKind::kfkData : StrToFldKind(kindName);
         if (!kind) FailValue(section, "Kind", kindName);
         auto field = std::make_unique<TDSField>(structure, *kind);
         field->order = static_cast<uint32_t>(number);
+        GiveID(*field, id);
         ReadField(section, *field, number);
         content->fields.Add(std::move(field));
     }
@@ -26,7 +31,6 @@ void TKStructureReader::ReadFields(int count) {
 }
 
 void TKStructureReader::ReadField(const TKIniSection& section, TDSField& field, int number) {
-    GiveID(field, section.Int("ID", -1));
     ReadColumn(section, field);
     field.editType = static_cast<TDSEditType>(Ordinal(section, "EditType", 5));
     field.fieldType = static_cast<TFieldType>(Ordinal(section, "FieldType", FieldTypeCount));
@@ -52,8 +56,9 @@ void TKStructureReader::ReadColumn(const TKIniSection& section, TDSField& field)
 }
 
 TDSTable* TKStructureReader::ReadTableOf(const TKIniSection& section) {
+    const std::string_view raw = section.Raw("TableAlias");
+    if (lastTable && !raw.empty() && lastTable->TableAlias() == raw) return lastTable;
     const std::string alias = section.Text("TableAlias");
-    if (lastTable && lastTable->TableAlias() == alias) return const_cast<TDSTable*>(lastTable);
     std::string name;
     TDSTable* table = nullptr;
     if (!alias.empty()) {
@@ -133,7 +138,15 @@ void TKStructureReader::GiveID(TDSField& field, int id) {
     }
     field.id = id;
     content->lastID = std::max(content->lastID, id);
-    content->ids.Add(&field, HashOfNumber(id), field.order);
+    Remember(&field);
+}
+
+void TKStructureReader::Remember(TDSField* field) {
+    const auto place = static_cast<size_t>(field->id);
+    if (place < fieldsByID.size())
+        fieldsByID[place] = field;
+    else
+        fieldsByLargeID.emplace(field->id, field);
 }
 
 // A repeated number means the first field that has it; the others get numbers that no field has.
@@ -157,8 +170,10 @@ void TKStructureReader::GiveMissingIDs() {
 }
 
 TDSField* TKStructureReader::FieldByID(int id) const {
-    return content->ids.First(HashOfNumber(id),
-                              [id](const TDSField& field) { return field.ID() == id; });
+    if (id < 0) return nullptr;
+    if (static_cast<size_t>(id) < fieldsByID.size()) return fieldsByID[static_cast<size_t>(id)];
+    const auto found = fieldsByLargeID.find(id);
+    return found == fieldsByLargeID.end() ? nullptr : found->second;
 }
 
 // --- groups

@@ -58,13 +58,18 @@ TDSTable* TKStructureReader::TableByAlias(std::string_view alias) const {
 // behind the table are its own. The k-th mention of a table is the k-th section of the name.
 void TKStructureReader::ReadLinks(const TLinkTask& task) {
     std::unordered_map<const TDSTable*, size_t> behind; // the last section of each pair
+    size_t expected = ini.PositionOf(*task.section);
     for (const std::string& alias : ParseCommaText(task.aliases)) {
         TDSTable* other = TableByAlias(alias);
         if (!other) throw EKDBStructError(FormatMessage(messages::NoSuchTable, {alias}));
         const std::string name = structure_format::LinkSection(
             task.alias.empty() ? task.table->tableAlias : task.alias, other->tableAlias);
         const auto [from, isFirst] = behind.try_emplace(other, ini.PositionOf(*task.section));
-        const TKIniSection* section = ini.FindFrom(from->second, name);
+        const TKIniSection* section = nullptr;
+        if (++expected < ini.Sections().size() && ini.Sections()[expected].Name() == name)
+            section = &ini.Sections()[expected];
+        else
+            section = ini.FindFrom(from->second, name);
         if (!section || (!isFirst && ini.PositionOf(*section) < from->second)) FailSection(name);
         from->second = ini.PositionOf(*section) + 1;
 

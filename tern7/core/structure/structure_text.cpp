@@ -13,10 +13,14 @@ namespace tern7 {
 std::unique_ptr<TKCustomDBStructure::TContent>
 TKCustomDBStructure::ReadText(std::string_view text) {
     try {
+        if (IsUTF8(text)) {
+            constexpr std::string_view mark = "\xEF\xBB\xBF"; // of the byte order
+            if (text.substr(0, mark.size()) == mark) text.remove_prefix(mark.size());
+            return TKStructureReader(*this, text).Read();
+        }
         const TKDecodedText decoded = DecodeTextFile(std::string(text));
         std::unique_ptr<TContent> content = TKStructureReader(*this, decoded.text).Read();
-        if (decoded.wasWindows1252)
-            content->warnings.insert(content->warnings.begin(), std::string(messages::NoUTF8));
+        content->warnings.insert(content->warnings.begin(), std::string(messages::NoUTF8));
         return content;
     } catch (const EKDBStructError&) {
         throw;
@@ -67,7 +71,6 @@ void TKCustomDBStructure::Adopt(std::unique_ptr<TContent> content) {
     groups.items.swap(content->groups);
     groups.names.Drop();
     rootGroup.fields.swap(content->rootFields);
-    std::swap(indexes->ids, content->ids);
     lastFieldOrder = static_cast<uint32_t>(fields.GetCount());
     lastOperatorOrder = static_cast<uint32_t>(operators.GetCount());
     lastID = std::max(lastID, content->lastID);
