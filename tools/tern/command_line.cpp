@@ -2,13 +2,11 @@
 
 #include <algorithm>
 
+#include <tern7/core/corekit/strings.h>
+
 namespace tern7 {
 
 namespace {
-
-std::string Quoted(std::string_view word) {
-    return "\"" + std::string(word) + "\"";
-}
 
 const TOption& FindOption(std::span<const TOption> options, std::string_view name) {
     for (const TOption& option : options)
@@ -20,7 +18,8 @@ void CheckArguments(const std::vector<std::string>& arguments, int least, int mo
     const int count = static_cast<int>(arguments.size());
     if (count < least) throw EWrongUsage("an argument is missing");
     if (most >= 0 && count > most)
-        throw EWrongUsage("one argument too many: " + Quoted(arguments[static_cast<size_t>(most)]));
+        throw EWrongUsage("one argument too many: " +
+                          QuotedString(arguments[static_cast<size_t>(most)], '\"'));
     if (std::count(arguments.begin(), arguments.end(), "-") > 1)
         throw EWrongUsage("the standard input can be read once only");
 }
@@ -78,7 +77,8 @@ std::optional<size_t> TCommandLine::Choice(std::string_view option,
         if (word == *value) return position;
         known += (position++ ? ", " : "") + std::string(word);
     }
-    throw EWrongUsage(std::string(option) + " is one of " + known + ", not " + Quoted(*value));
+    throw EWrongUsage(std::string(option) + " is one of " + known + ", not " +
+                      QuotedString(*value, '\"'));
 }
 
 } // namespace tern7

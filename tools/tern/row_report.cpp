@@ -21,10 +21,6 @@ void ForEachRow(const TFilterBracket& bracket, bool all, const Call& call) {
     }
 }
 
-std::string Quoted(std::string_view name) {
-    return "\"" + std::string(name) + "\"";
-}
-
 /// Finds what is to be told in a query and then in the queries nested in it.
 class TRowReport {
 public:
@@ -53,7 +49,7 @@ private:
         const TKCustomDBStructure& structure = query->RequireStruct();
         if (!mainTable.empty() && !structure.TableByName(true, mainTable) &&
             !structure.TableByName(false, mainTable))
-            Add(around + "main table: unknown table " + Quoted(mainTable));
+            Add(around + "main table: unknown table " + QuotedString(mainTable, '\"'));
         FindUnknownFields();
         ForEachRow(query->Root(), true, [this](const TFilterRow& row) {
             if (const TFilterCond* condition = row.AsCond()) FindUnknown(*condition);
@@ -66,24 +62,26 @@ private:
         for (int i = 0; i < list.GetCount(); ++i)
             for (int n = 0; n < list[i]->GetDSFieldCount(); ++n)
                 if (IsUnknown(list[i]->GetDSField(n)))
-                    Add(around + "RField" + std::to_string(i) + " " + Quoted(list[i]->Caption()) +
-                        ": unknown field " + std::to_string(list[i]->GetDSFieldID(n)));
+                    Add(around + "RField" + std::to_string(i) + " " +
+                        QuotedString(list[i]->Caption(), '\"') + ": unknown field " +
+                        std::to_string(list[i]->GetDSFieldID(n)));
     }
 
     void FindUnknown(const TFilterCond& condition) {
         const std::string title = Title(condition);
         if (!condition.SQLText().empty()) {
-            Add(title + ": unrecognized condition " + Quoted(condition.SQLText()));
+            Add(title + ": unrecognized condition " + QuotedString(condition.SQLText(), '\"'));
             return;
         }
         if (IsUnknown(condition.Field()))
             Add(title + ": unknown field " +
-                (condition.UnknownFieldName().empty() ? std::to_string(condition.FieldID())
-                                                      : Quoted(condition.UnknownFieldName())));
+                (condition.UnknownFieldName().empty()
+                     ? std::to_string(condition.FieldID())
+                     : QuotedString(condition.UnknownFieldName(), '\"')));
         const TDSOperator* op = condition.Operator();
         if (!condition.OperatorName().empty() &&
             (!op || op == query->RequireStruct().PlaceholderOperator()))
-            Add(title + ": unknown operator " + Quoted(condition.OperatorName()));
+            Add(title + ": unknown operator " + QuotedString(condition.OperatorName(), '\"'));
     }
 
     bool IsUnknown(const TDSField* field) const {

@@ -81,6 +81,8 @@ inline constexpr std::string_view NoStructure = "Database structure is not speci
 inline constexpr std::string_view WrongValue = "Wrong value for field \"%s\": %s";
 inline constexpr std::string_view CanNotExecuteCondition = "Can not execute condition: %s";
 inline constexpr std::string_view FieldNotFound = "Field not found: %s";
+inline constexpr std::string_view PlaceholderInLiteral =
+    "An expression with fields can not hold \"@\" and a digit in a text: %s";
 inline constexpr std::string_view NestedTooDeep = "Rows are nested too deep";
 inline constexpr std::string_view ChangeWhileBuilding =
     "Rows can not be changed while the query is built";

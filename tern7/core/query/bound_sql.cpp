@@ -57,8 +57,9 @@ std::string Padded(int number, int width) {
 TBoundValue BoundDate(const TKDateTime& value) {
     const std::string date =
         Padded(value.year, 4) + "-" + Padded(value.month, 2) + "-" + Padded(value.day, 2);
-    const std::string time =
+    std::string time =
         Padded(value.hour, 2) + ":" + Padded(value.minute, 2) + ":" + Padded(value.second, 2);
+    if (value.millisecond != 0) time += "." + Padded(value.millisecond, 3);
     if (!value.hasTime) return {TKind::Date, date};
     if (!value.hasDate) return {TKind::Time, time};
     return {TKind::Timestamp, date + " " + time};
@@ -181,7 +182,7 @@ private:
     std::string SQLForm(int n) const {
         const TSQLParam* param = cond.Param(n);
         const std::string value = param ? param->Value() : cond.Value(n);
-        return IsDateOrTime(type) && !cond.IsListOperator()
+        return IsDateOrTime(type) && (param || !cond.IsListOperator())
                    ? query.ProcessDateValue(type, value, true)
                    : value;
     }

@@ -74,7 +74,8 @@ private:
     void AddTablesOf(const TDSField& field) {
         const TDSTable* own = field.Table();
         if (own && own == lastTable) return;
-        for (TDSTable* table : field.GetTables()) AddTable(table);
+        for (TDSTable* table : field.GetTables())
+            AddTable(table);
         lastTable = own;
     }
 
@@ -161,7 +162,8 @@ private:
     }
 
     void Condition(const TFilterCond& condition) {
-        if (condition.IsRecognized()) AddTablesOf(*condition.Field());
+        if (condition.Field() && !condition.Field()->IsPlaceholder())
+            AddTablesOf(*condition.Field());
         if (lastMainTable == nullptr && !tables.IsEmpty()) {
             lastMainTable = tables[0].Table;
             writer.SetMainTable(lastMainTable->TableName());
@@ -258,10 +260,11 @@ void TQueryResult::RequireSafeColumns() const {
         if (!IsSafeFragment(text))
             throw EKQueryPanelError(FormatMessage(messages::CanNotExecuteCondition, {text}));
     };
-    for (const auto& field : resultFields)
-        require(field->GetSQLExpr());
-    require(orderByText);
-    require(groupByText);
+    for (const auto& field : resultFields) {
+        require(field->Formula());
+        for (const TDSField* source : field->Fields().Items())
+            if (source && source->Kind() == TKFieldKind::kfkVirtual) require(source->FieldExpr());
+    }
 }
 
 std::string NestedBoundStatement(const TFilterCond& condition, TBoundValues& values) {

@@ -110,7 +110,7 @@ void TConditionWriter::SetMainTable(const std::string& name) {
     if (name == mainTable) return;
     mainTable = name;
     forms.clear();
-    slots.clear();
+    buckets.clear();
 }
 
 void TConditionWriter::Begin() {
@@ -118,7 +118,7 @@ void TConditionWriter::Begin() {
     if (present == revision) return;
     revision = present;
     forms.clear();
-    slots.clear();
+    buckets.clear();
 }
 
 TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
@@ -176,10 +176,10 @@ TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
 }
 
 const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condition) {
-    if (slots.empty()) slots.resize(1024);
+    if (buckets.empty()) buckets.resize(1024);
     const uint64_t field = reinterpret_cast<uintptr_t>(condition.Field());
     const uint64_t op = reinterpret_cast<uintptr_t>(condition.Operator());
-    uint16_t& slot = slots[((field * 31 + op) * 0x9E3779B97F4A7C15u) >> 54];
+    uint16_t& slot = buckets[((field * 31 + op) * 0x9E3779B97F4A7C15u) >> 54];
     if (slot == 0) {
         forms.push_back(MakeForm(*condition.Field(), *condition.Operator()));
         slot = static_cast<uint16_t>(forms.size());
@@ -264,14 +264,18 @@ std::string TKQuery::ExtractValue(const TFilterCond& condition, int n) const {
         if (isDate) value = ProcessDateValue(type, value, true);
         return ReplaceStr(value, "'", "''");
     }
-    if (!condition.Field() || !structure->IsQuotedType(condition.Field()->FieldType()))
-        return ReplaceStr(value, "'", "''");
-    std::string list;
-    for (const std::string& item : ParseCommaText(value)) {
-        if (!list.empty()) list += ',';
-        list += QuotedString(isDate ? ProcessDateValue(type, item, true) : item);
+    TStrings items;
+    if (isDate || KeepsQuotes(condition)) {
+        items = ParseCommaText(value);
+        if (isDate)
+            for (std::string& item : items)
+                item = ProcessDateValue(type, item, true);
     }
-    return list;
+    if (!KeepsQuotes(condition))
+        return ReplaceStr(isDate ? ComposeCommaText(items) : value, "'", "''");
+    for (std::string& item : items)
+        item = QuotedString(item);
+    return JoinStrings(items, ",");
 }
 
 } // namespace tern7

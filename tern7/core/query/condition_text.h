@@ -18,6 +18,8 @@ public:
 
     /// To be called before a run over conditions: drops what a changed structure made wrong.
     void Begin();
+    /// Drops what was kept: the structure is another one.
+    void Forget() { revision = 0; }
     /// The name that stands for "@m".
     const std::string& MainTable() const { return mainTable; }
     void SetMainTable(const std::string& name);
@@ -47,7 +49,7 @@ private:
     std::string mainTable;
     uint64_t revision = 0; // of the structure that the forms are made from
     std::vector<TForm> forms;
-    std::vector<uint16_t> slots; // by field and operator: position in `forms` plus one
+    std::vector<uint16_t> buckets; // by field and operator: position in `forms` plus one
 };
 
 /// Where bound values go: placeholders in the present style, values in text order.

@@ -103,7 +103,7 @@ void TFilterCond::SetValueIsParam(int n, bool value) {
     TValue& slot = values[Slot(n)];
     if (slot.isParam == value) return;
     slot.isParam = value;
-    UpdateSQLParams();
+    HoldParams();
     DoConditionChange(n == 1 ? wcParam1 : wcParam2);
 }
 
@@ -116,7 +116,7 @@ void TFilterCond::UpdateSQLParams() {
         // values of an operator that is not known are kept as they were read, parameters too
         const bool wanted = value.isParam && (n <= count || !op || op->IsPlaceholder());
         if (wanted && !value.param) result.AddParameter(*this, n);
-        if (!wanted && value.param) result.DeleteParameter(value.param);
+        if (!wanted && value.param) result.RemoveParameter(value.param);
     }
     result.UpdateParamCaptions(*this);
 }
@@ -146,6 +146,8 @@ TKQuery* TFilterCond::NestedQuery() const {
     }
     nested->SetSQLSyntax(query->SQLSyntax());
     nested->CheckValues = query->CheckValues;
+    nested->OnBuildSQL = query->OnBuildSQL;
+    nested->Services = query->Services;
     return nested.get();
 }
 
@@ -179,7 +181,7 @@ void TFilterCond::SetEntered(bool value) {
 }
 
 bool TFilterCond::ValueIsBare(int n) const {
-    if (!op || !field || ValueIsParam(n) || IsSubQueryOperator()) return false;
+    if (!op || !field || Param(n) || IsSubQueryOperator()) return false;
     const TKCustomDBStructure& structure = field->Structure();
     if (!structure.IsQuotedType(field->FieldType())) return true;
     return !IsListOperator() && op->Template().ValueIsBare(n);
@@ -207,7 +209,7 @@ TUnfinished TFilterCond::Unfinished() const {
 /// True when nothing at all would stand in value n's place.
 bool TFilterCond::WouldBeEmpty(int n) const {
     const TValue& value = values[n - 1];
-    return !value.isParam && Trim(value.text).empty() &&
+    return !value.param && Trim(value.text).empty() &&
            (ValueIsBare(n) || (n == 1 && IsListOperator()));
 }
 
@@ -222,6 +224,8 @@ void TFilterCond::DoConditionChange(int whatChanged) {
 void TFilterCond::ReleaseReferences() {
     if (field && !field->IsPlaceholder()) unknownFieldID = field->ID();
     if (op && !op->IsPlaceholder()) MakeExtras().unknownOperator = op->Name();
+    unknownField = unknownField || (field && field->IsPlaceholder());
+    unknownOp = unknownOp || (op && op->IsPlaceholder());
     field = nullptr;
     op = nullptr;
     recognized = false;
@@ -232,14 +236,15 @@ void TFilterCond::RestoreReferences() {
     TKCustomDBStructure* structure = query ? query->DbStruct() : nullptr;
     if (!structure) return;
     const TExtras& known = Extras();
-    if (unknownFieldID >= 0 || !known.unknownFieldName.empty() || !known.sqlText.empty()) {
+    if (unknownField || unknownFieldID >= 0 || !known.unknownFieldName.empty() ||
+        !known.sqlText.empty()) {
         field = unknownFieldID >= 0 ? structure->FieldByID(unknownFieldID) : nullptr;
         if (field)
             unknownFieldID = -1;
         else
             field = structure->PlaceholderField();
     }
-    if (!known.unknownOperator.empty() || !known.sqlText.empty()) {
+    if (unknownOp || !known.unknownOperator.empty() || !known.sqlText.empty()) {
         op = known.unknownOperator.empty() ? nullptr
                                            : structure->OperatorByName(known.unknownOperator);
         if (op)
@@ -247,13 +252,22 @@ void TFilterCond::RestoreReferences() {
         else
             op = structure->PlaceholderOperator();
     }
+    unknownField = unknownOp = false;
     recognized = field && !field->IsPlaceholder() && op && !op->IsPlaceholder();
     if (extras && recognized) extras->sqlText.clear();
 }
 
 void TFilterCond::ReferencesChanged() {
     recognized = field && !field->IsPlaceholder() && op && !op->IsPlaceholder();
+    HoldParams();
+}
+
+/// Brings the parameters up to date; that their list changed is told behind the condition's change.
+void TFilterCond::HoldParams() {
+    if (!query) return;
+    ++query->paramsHeld;
     UpdateSQLParams();
+    --query->paramsHeld;
 }
 
 TFilterCond::TExtras::TExtras() = default;

@@ -304,6 +304,7 @@ private:
     static const TExtras& NoExtras();
     bool WouldBeEmpty(int n) const;
     void ReferencesChanged();
+    void HoldParams();
     void ReleaseReferences();
     void RestoreReferences();
 
@@ -312,7 +313,9 @@ private:
     TDSOperator* op = nullptr;
     int unknownFieldID = -1; // while `field` is none or the placeholder
     bool entered = true;
-    bool recognized = false; // field and operator are there and no placeholders
+    bool recognized = false;   // field and operator are there and no placeholders
+    bool unknownField = false; // noted while references are released: a placeholder stood there
+    bool unknownOp = false;
     TValue values[2];
     mutable std::unique_ptr<TExtras> extras;
 };

@@ -114,12 +114,14 @@ void TKQuery::AttachRow(TFilterRow& row) {
     ForEachRow(row, [&](TFilterRow& below) {
         below.detached = false;
         TFilterCond* condition = below.AsCond();
-        if (!condition || !condition->extras) return;
-        for (std::unique_ptr<TSQLParam>& parked : condition->extras->parked) {
+        if (!condition) return;
+        for (int n = 1; n <= 2 && condition->extras; ++n) {
+            std::unique_ptr<TSQLParam>& parked = condition->extras->parked[n - 1];
             if (!parked) continue;
             result->PutParam(std::move(parked));
             params = true;
         }
+        condition->UpdateSQLParams(); // flags may have been changed meanwhile
         nestedPending = nestedPending || !condition->SubQuery().empty();
     });
     if (params) ParametersListChanged();
@@ -211,8 +213,12 @@ void TKQuery::InstantiateNested() {
     nestedPending = false;
     ForEachRow(*root, [](TFilterRow& row) {
         const TFilterCond* condition = row.AsCond();
-        if (TKQuery* nested = condition ? condition->NestedQuery() : nullptr)
-            nested->InstantiateNested();
+        if (!condition || !condition->IsSubQueryOperator()) return;
+        try {
+            if (TKQuery* nested = condition->NestedQuery()) nested->InstantiateNested();
+        } catch (const EKTernError&) {
+            // a damaged text matters where its row takes part: building it says so
+        }
     });
 }
 

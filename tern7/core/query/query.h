@@ -252,6 +252,7 @@ private:
     TKBuilderState state = TKBuilderState::stIdle;
     bool active = true;
     int updateNesting = 0;
+    int paramsHeld = 0; // a condition tells of its own change first
     mutable bool numbersKnown = false;
     bool nestedPending = false; // a sub-query text may hold parameters that have no name yet
     bool changePending = false;

@@ -15,11 +15,16 @@ std::string LocalText(const TKServices& services, TFieldType type, const TKDateT
     return text;
 }
 
-std::optional<TKDateTime> ReadLocal(const TKServices& services, TFieldType type,
+std::optional<TKDateTime> ReadLocalDate(const TKServices& services, TFieldType type,
                                     std::string_view text) {
     TKDateTime value;
     if (services.readLocalDate && services.readLocalDate(type, text, value)) return value;
     return ParseIsoDateTime(text);
+}
+
+/// A time is no date; whatever has a time of day can stand for a time.
+bool Fits(TFieldType type, const TKDateTime& value) {
+    return type == TFieldType::ftTime ? value.hasTime : value.hasDate;
 }
 
 const std::string& FormatOf(const TSQLFormats& formats, TFieldType type) {
@@ -36,8 +41,8 @@ std::string TKQuery::ProcessDateValue(TFieldType type, std::string_view value, b
     // Reading takes the date format for every type, times included; kept as applications know it.
     const std::string& format = toSQL ? FormatOf(formats, type) : formats.Date();
     if (format.empty()) return std::string(value);
-    const auto date = toSQL ? ReadLocal(Services, type, value) : ParseDateTime(format, Trim(value));
-    if (!date) return std::string(value);
+    const auto date = toSQL ? ReadLocalDate(Services, type, value) : ParseDateTime(format, Trim(value));
+    if (!date || !Fits(toSQL ? type : TFieldType::ftDate, *date)) return std::string(value);
     if (toSQL) return FormatDateTime(format, *date);
     return LocalText(Services, date->hasTime ? TFieldType::ftDateTime : TFieldType::ftDate, *date);
 }

@@ -121,6 +121,10 @@ void TKQuery::ConditionChanged(TFilterCond& condition, int whatChanged) {
     if (condition.detached) return;
     RefreshViews([&](TKQueryView& view) { view.RowChanged(condition); });
     if (active) OnConditionChange(condition, whatChanged);
+    if (active && updateNesting == 0 && paramsPending) {
+        paramsPending = false;
+        OnParamListChange(*this);
+    }
     Changed();
 }
 
@@ -132,7 +136,7 @@ void TKQuery::ResultFieldsChanged() {
 void TKQuery::ParametersListChanged() {
     RefreshViews([](TKQueryView& view) { view.ParametersChanged(); });
     if (!active) return;
-    if (updateNesting > 0)
+    if (updateNesting > 0 || paramsHeld > 0)
         paramsPending = true;
     else
         OnParamListChange(*this);

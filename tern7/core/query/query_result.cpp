@@ -38,6 +38,8 @@ void TQueryResult::SetResultFields(const TRFieldList& list) {
 
 void TQueryResult::DbStructChanged() {
     resultTables.Clear();
+    writer->Forget();
+    longestRevision = 0;
     conditions.Clear();
     fromLines.Clear();
     sql.Clear();
@@ -61,6 +63,7 @@ TSQLParam* TQueryResult::AddParameter(TFilterCond& condition) {
 }
 
 TSQLParam* TQueryResult::AddParameter(TFilterCond& condition, int valueNumber) {
+    if (TSQLParam* present = condition.Param(valueNumber)) return present;
     auto param = std::make_unique<TSQLParam>(condition, valueNumber);
     param->name = NewParamName();
     param->names = query.paramNames;
@@ -99,6 +102,7 @@ void TQueryResult::DeleteParameters(TFilterCond& condition) {
     std::vector<TSQLParam*> gone;
     for (int n = 2; n >= 1; --n)
         if (TSQLParam* param = condition.Param(n)) gone.push_back(param);
+    condition.values[0].isParam = condition.values[1].isParam = false;
     if (gone.empty()) return;
     TakeParams(gone);
     query.ParametersListChanged();
@@ -106,6 +110,12 @@ void TQueryResult::DeleteParameters(TFilterCond& condition) {
 
 void TQueryResult::DeleteParameter(TSQLParam* param) {
     if (params.IndexOf(param) < 0) return;
+    param->condition->values[param->valueNumber - 1].isParam = false;
+    RemoveParameter(param);
+}
+
+/// Removes the parameter and leaves the value flagged.
+void TQueryResult::RemoveParameter(TSQLParam* param) {
     TFilterCond& condition = *param->Condition();
     TakeParams({param});
     UpdateParamCaptions(condition);
@@ -115,8 +125,10 @@ void TQueryResult::DeleteParameter(TSQLParam* param) {
 void TQueryResult::ClearParams() {
     if (params.IsEmpty()) return;
     std::vector<TSQLParam*> all;
-    for (const auto& param : params)
+    for (const auto& param : params) {
         all.push_back(param.get());
+        param->condition->values[param->valueNumber - 1].isParam = false;
+    }
     TakeParams(all);
     query.ParametersListChanged();
 }

@@ -100,6 +100,7 @@ private:
     friend std::string NestedBoundStatement(const TFilterCond& condition, TBoundValues& values);
     TKLineBuffer BoundLines(TBoundValues& values);
     void RequireSafeColumns() const;
+    void RemoveParameter(TSQLParam* param);
     void AppendStatement(TKLineBuffer& out, const TKLineBuffer& conditionLines);
     std::vector<std::unique_ptr<TSQLParam>> TakeParams(const std::vector<TSQLParam*>& wanted);
     void PutParam(std::unique_ptr<TSQLParam> param);

@@ -95,6 +95,7 @@ private:
 
 void TKQueryTextReader::Read(std::string_view text, TStrings warnings) {
     query.RequireStruct();
+    query.RequireChangeable();
     const bool wasActive = query.Active();
     query.SetActive(false); // and so it stays when the reading fails
     {
@@ -119,7 +120,10 @@ void TKQueryTextReader::Take(TQueryText text) {
     query.SetQueryName(std::move(text.queryName));
     query.SetFormatVersion(text.version);
     if (text.options) query.SetSQLOptions(*text.options);
-    if (text.mainTable) query.SetMainTableName(std::move(*text.mainTable));
+    if (text.mainTable)
+        query.SetMainTableName(std::move(*text.mainTable));
+    else if (query.SaveMainTable)
+        query.SetMainTableName({});
     query.Description = std::move(text.description);
     query.UserData = std::move(text.userData);
     query.QResult().ResultFields().Assign(text.resultFields);

@@ -139,15 +139,17 @@ std::string TResultField::GetSQLExpr() const {
 
 void TResultField::AppendSQLExpr(std::string& out) const {
     if (formula == "@1" && fields.GetCount() >= 1) {
-        fields.GetItem(0)->AppendSQLExpr(out);
+        if (fields.GetItem(0)) fields.GetItem(0)->AppendSQLExpr(out);
         return;
     }
     // in ascending order over the whole text: "@1" is replaced before "@10" is considered, and
     // inside it; kept, since stored formulas rely on it
     std::string text = formula;
     const int count = std::min(static_cast<int>(CharCount(formula, '@')), fields.GetCount());
-    for (int n = 1; n <= count; ++n)
-        text = ReplaceStr(text, Placeholder(n), fields.GetItem(n - 1)->GetSQLExpr());
+    for (int n = 1; n <= count; ++n) {
+        const TDSField* field = fields.GetItem(n - 1);
+        text = ReplaceStr(text, Placeholder(n), field ? field->GetSQLExpr() : std::string());
+    }
     out += text;
 }
 

@@ -183,8 +183,6 @@ void TRFieldList::Assign(const TRFieldList& source) {
     const std::unique_ptr<TKQueryUpdate> update =
         Query() ? std::make_unique<TKQueryUpdate>(*Query()) : nullptr;
     Clear();
-    quoteAliases = source.quoteAliases;
-    asciiAliases = source.asciiAliases;
     justSorting = source.justSorting;
     for (const auto& field : source)
         New(GetCount())->Assign(*field);

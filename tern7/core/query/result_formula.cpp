@@ -44,6 +44,12 @@ size_t SkipQuoted(std::string_view text, size_t i) {
     return text.size();
 }
 
+bool HoldsPlaceholder(std::string_view text) {
+    for (size_t at = text.find('@'); at != std::string_view::npos; at = text.find('@', at + 1))
+        if (at + 1 < text.size() && IsDigit(text[at + 1])) return true;
+    return false;
+}
+
 bool IsWordChar(char c) {
     return IsLetter(c) || IsDigit(c) || c == '_' || c == '$' || static_cast<unsigned char>(c) > 127;
 }
@@ -131,9 +137,12 @@ void TResultField::ProcessExpression(std::string_view expression) {
     const TKCustomDBStructure& structure = owner->Query()->RequireStruct();
     TFormulaFields used;
     std::string text;
+    bool literalPlaceholder = false;
     for (size_t i = 0; i < expression.size();) {
         if (expression[i] == '\'') {
             const size_t end = SkipQuoted(expression, i);
+            literalPlaceholder =
+                literalPlaceholder || HoldsPlaceholder(expression.substr(i, end - i));
             text += expression.substr(i, end - i);
             i = end;
             continue;
@@ -156,13 +165,21 @@ void TResultField::ProcessExpression(std::string_view expression) {
         ++i;
         text += used.Use(FindByReadableName(structure, name, from));
     }
-    SetFields(used.Take(), std::move(text));
+    std::vector<TDSField*> fieldsUsed = used.Take();
+    if (literalPlaceholder && !fieldsUsed.empty())
+        throw EKExpressionError(FormatMessage(messages::PlaceholderInLiteral, {expression}),
+                                expression.find('@'));
+    SetFields(std::move(fieldsUsed), std::move(text));
 }
 
 void TResultField::ProcessSQLExpr(std::string_view sql) {
     const TKCustomDBStructure& structure = owner->Query()->RequireStruct();
     if (TDSField* field = structure.FieldBySQLExpr(sql)) {
         SetFields({field}, "@1");
+        return;
+    }
+    if (HoldsPlaceholder(sql)) { // in a literal, where it would be taken for one of the formula's
+        SetFields({}, std::string(sql));
         return;
     }
     const size_t longest = owner->Result()->LongestFieldExpr();

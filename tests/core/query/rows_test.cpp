@@ -61,7 +61,7 @@ TEST_F(TRows, EveryChangeIsToldInOrder) {
     EXPECT_EQ(Events(), (TStrings{"condition 1", "change", "condition 2", "change", "condition 3",
                                   "change"}));
     row->SetValue1IsParam(true);
-    EXPECT_EQ(Events(), (TStrings{"params", "condition 5", "change"}));
+    EXPECT_EQ(Events(), (TStrings{"condition 5", "params", "change"}));
     view.Take();
     {
         TKQueryUpdate update(query);
