@@ -93,6 +93,12 @@ function(tern7_check_headers library)
     target_compile_options(${library}_headers PRIVATE
       -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -O0 -g0)
     set_target_properties(${library}_headers PROPERTIES UNITY_BUILD OFF AUTOMOC OFF)
+    # A header of the core is also included behind those of Qt, which make macros of these words.
+    get_target_property(is_qt ${library} AUTOMOC)
+    if(NOT is_qt)
+      target_compile_definitions(${library}_headers PRIVATE
+        slots= signals=public emit= foreach= forever=)
+    endif()
   endif()
 endfunction()
 
