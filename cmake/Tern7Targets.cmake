@@ -38,6 +38,11 @@ if(NOT MSVC)
   # g++ 12 reports overlaps in the standard library's own strings that can not happen
   target_compile_options(tern7_build_flags INTERFACE
     $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+  # In a unity build every source but the first counts as a header.
+  if(CMAKE_UNITY_BUILD)
+    target_compile_options(tern7_build_flags INTERFACE
+      $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+  endif()
 endif()
 target_compile_options(tern7_build_flags INTERFACE ${sanitizers})
 target_link_options(tern7_build_flags INTERFACE ${sanitizers})
