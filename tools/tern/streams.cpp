@@ -1,5 +1,6 @@
 #include "streams.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -17,6 +18,39 @@ namespace {
 [[noreturn]] void RaisePrintError() {
     if (errno == EPIPE) throw TReaderGone();
     throw EKTernError(std::string("Can not write to the standard output: ") + std::strerror(errno));
+}
+
+constexpr std::string_view mask = "***";
+
+/// The passwords of the addresses in a line: between the first ":" behind "://" and the last "@"
+/// before the next address.
+void MaskAddresses(std::string& line) {
+    for (size_t start = line.find("://"); start != std::string::npos;
+         start = line.find("://", start + 3)) {
+        const size_t at = line.rfind('@', line.find("://", start + 3));
+        const size_t colon = line.find(':', start + 3);
+        if (at == std::string::npos || at < start || colon > at) continue;
+        line.replace(colon + 1, at - colon - 1, mask);
+    }
+}
+
+/// The same in a connection string: what stands behind the key, up to ";".
+void MaskKey(std::string& line, std::string_view key) {
+    const size_t start = LowerCase(line).find(key);
+    if (start == std::string::npos) return;
+    const size_t value = start + key.size();
+    line.replace(value, std::min(line.find(';', value), line.size()) - value, mask);
+}
+
+/// Whatever went wrong, an address that was given in the wrong place included.
+std::string WithoutPasswords(std::string_view message) {
+    TStrings lines = SplitLines(message);
+    for (std::string& line : lines) {
+        MaskAddresses(line);
+        for (std::string_view key : {"pwd=", "password="})
+            MaskKey(line, key);
+    }
+    return JoinStrings(lines, "\n");
 }
 
 std::string ReadStandardInput() {
@@ -44,9 +78,7 @@ void FinishPrinting() {
 }
 
 void Complain(std::string_view message) {
-    std::string line = "tern: " + std::string(TrimRight(message));
-    std::erase(line, '\r');
-    line += '\n';
+    const std::string line = "tern: " + WithoutPasswords(TrimRight(message)) + "\n";
     std::fwrite(line.data(), 1, line.size(), stderr);
 }
 

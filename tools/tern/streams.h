@@ -15,7 +15,7 @@ void PrintLine(std::string_view line);
 /// To be called last: what was printed has arrived, or Print's errors.
 void FinishPrinting();
 
-/// "tern: " and the message as a line of the standard error.
+/// "tern: " and the message as a line of the standard error, without the passwords of addresses.
 void Complain(std::string_view message);
 
 /// The bytes of a file, or of the standard input for "-".
