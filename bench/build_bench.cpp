@@ -1,12 +1,13 @@
 // Condition rows to WHERE text, beside a bare walk of the same tree with templates cut beforehand
-// that appends to a reserved string.
+// that appends to a reserved string; and rows read from their text.
 
-#include <benchmark/benchmark.h>
-
+#include <algorithm>
 #include <string>
 #include <vector>
 
 #include <tern7/core/query/query.h>
+
+#include "side_by_side.h"
 
 namespace tern7 {
 namespace {
@@ -91,41 +92,55 @@ bool BareWalk(const TFilterBracket& bracket, const TSplit*& split, std::string& 
     return any;
 }
 
-void BM_BuildConditions(benchmark::State& state) {
-    TBuildFixture fixture(static_cast<int>(state.range(0)), state.range(1) != 0);
-    for (auto _ : state) {
-        fixture.query.BuildQuery();
-        benchmark::DoNotOptimize(fixture.query.QResult().Conditions().Text().data());
-    }
-    state.SetItemsProcessed(state.iterations() * state.range(0));
-}
-
-void BM_BareWalk(benchmark::State& state) {
+// `times_as_fast` must be 0.67 or more: at most 1.5 times the bare walk's time.
+void BuildConditions(benchmark::State& state) {
     TBuildFixture fixture(static_cast<int>(state.range(0)), state.range(1) != 0);
     const std::vector<TSplit> splits = SplitTemplates(fixture.query.Root());
     fixture.query.BuildQuery();
-    const size_t size = fixture.query.QResult().Conditions().Text().size();
+    const std::string wanted = fixture.query.QResult().Conditions().Text();
     std::string last;
+    const auto repeats = std::max<int64_t>(1, 5000 / state.range(0));
+    bench::SideBySide(
+        state, repeats,
+        [&] {
+            fixture.query.BuildQuery();
+            benchmark::DoNotOptimize(fixture.query.QResult().Conditions().Text().data());
+        },
+        [&] {
+            std::string out;
+            out.reserve(wanted.size() + 64);
+            const TSplit* split = splits.data();
+            BareWalk(fixture.query.Root(), split, out);
+            benchmark::DoNotOptimize(out.data());
+            last = std::move(out);
+        });
+    if (last != wanted) state.SkipWithError("another text");
+}
+
+/// The rows' text read back: the time of a row must not grow with their number.
+void ReadRows(benchmark::State& state) {
+    TBuildFixture fixture(static_cast<int>(state.range(0)), state.range(1) != 0);
+    const std::string text = fixture.query.GetQueryString();
+    TKQuery read(&fixture.structure);
+    read.SetActive(false);
     for (auto _ : state) {
-        std::string out;
-        out.reserve(size + 64);
-        const TSplit* split = splits.data();
-        BareWalk(fixture.query.Root(), split, out);
-        benchmark::DoNotOptimize(out.data());
-        last = std::move(out);
+        read.SetQueryString(text);
+        benchmark::DoNotOptimize(read.Root().GetRowCount());
     }
-    if (last != fixture.query.QResult().Conditions().Text()) state.SkipWithError("another text");
-    state.SetItemsProcessed(state.iterations() * state.range(0));
+    state.counters["ns_a_row"] =
+        benchmark::Counter(static_cast<double>(state.iterations() * state.range(0)) * 1e-9,
+                           benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
 void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->ArgNames({"conditions", "nested"});
     for (int nested : {0, 1})
         for (int conditions : {5, 50, 500, 5000, 50000})
             bench->Args({conditions, nested});
 }
 
-BENCHMARK(BM_BareWalk)->Apply(Sizes);
-BENCHMARK(BM_BuildConditions)->Apply(Sizes);
+BENCHMARK(BuildConditions)->Apply(Sizes)->UseManualTime();
+BENCHMARK(ReadRows)->Apply(Sizes);
 
 } // namespace
 } // namespace tern7

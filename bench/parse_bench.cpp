@@ -1,5 +1,7 @@
-// Reading SQL text: TKSQLParser beside libpg_query's raw parse of the same text. The ratio of the
-// two lines of one size is what counts.
+// Reading SQL text, beside libpg_query's raw parse of the same text: TKSQLParser alone, and the
+// whole statement imported into a query. Then texts of a megabyte that are meant to do harm.
+
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 
@@ -7,6 +9,9 @@
 #include <pg_query.h>
 
 #include <tern7/core/parser/sql_parser.h>
+#include <tern7/core/query/query.h>
+
+#include "side_by_side.h"
 
 // From pg_query_internal.h, which can not be included without the server's headers.
 extern "C" {
@@ -21,6 +26,8 @@ void pg_query_exit_memory_context(void* context);
 }
 
 namespace {
+
+namespace bench = tern7::bench;
 
 void AppendCondition(std::string& sql, int i) {
     const std::string n = std::to_string(i % 97);
@@ -73,44 +80,129 @@ std::string Statement(int conditions, bool nested) {
     return sql + "\nORDER BY 1";
 }
 
-void Report(benchmark::State& state, const std::string& sql) {
-    state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(sql.size()));
-    state.SetComplexityN(state.range(0));
+void PgParse(const std::string& sql) {
+    void* const context = pg_query_enter_memory_context();
+    const PgRawParse parsed = pg_query_raw_parse(sql.c_str());
+    if (parsed.error) std::abort();
+    benchmark::DoNotOptimize(parsed.tree);
+    std::free(parsed.stderr_buffer);
+    pg_query_exit_memory_context(context);
 }
 
-void Tern(benchmark::State& state, bool nested) {
+void Parse(benchmark::State& state, bool nested) {
     const std::string sql = Statement(static_cast<int>(state.range(0)), nested);
-    for (auto _ : state) {
-        tern7::TKSQLParser parser;
-        parser.SetText(sql);
-        parser.Parse();
-        benchmark::DoNotOptimize(parser.Result().Where());
-    }
-    Report(state, sql);
+    const auto repeats = std::max<int64_t>(1, 1000 / state.range(0));
+    bench::SideBySide(
+        state, repeats,
+        [&] {
+            tern7::TKSQLParser parser;
+            parser.SetText(sql);
+            parser.Parse();
+            benchmark::DoNotOptimize(parser.Result().Where());
+        },
+        [&] { PgParse(sql); });
 }
 
-void LibPgQuery(benchmark::State& state, bool nested) {
-    const std::string sql = Statement(static_cast<int>(state.range(0)), nested);
-    for (auto _ : state) {
-        void* const context = pg_query_enter_memory_context();
-        const PgRawParse parsed = pg_query_raw_parse(sql.c_str());
-        if (parsed.error) std::abort();
-        benchmark::DoNotOptimize(parsed.tree);
-        std::free(parsed.stderr_buffer);
-        pg_query_exit_memory_context(context);
+/// The tables and columns of the statements.
+class TSales : public tern7::TKCustomDBStructure {
+public:
+    TSales() {
+        using enum tern7::TFieldType;
+        AddTable("Customers", "Cus");
+        AddTable("Orders", "Ord");
+        AddLink("Cus", "Ord")->AddPair("CustNo", "CustNo");
+        Add("Cus", "City", ftString);
+        Add("Cus", "CompanyName", ftString);
+        Add("Ord", "Amount", ftFloat);
+        Add("Ord", "OrderDate", ftDate);
+        Add("Ord", "ShipVia", ftInteger);
     }
-    Report(state, sql);
+
+private:
+    void Add(const char* table, const char* column, tern7::TFieldType type) {
+        tern7::TDSField* field =
+            AddField(tern7::TKFieldKind::kfkData, column, column, TableByName(true, table));
+        field->SetFieldType(type);
+        field->AddAppliedOperators();
+    }
+};
+
+using TRead = void (*)(tern7::TKQuery&, const std::string&);
+void ReadPlainly(tern7::TKQuery& query, const std::string& sql) {
+    query.ParseSQL(sql);
+}
+void ReadCompletely(tern7::TKQuery& query, const std::string& sql) {
+    query.ImportSQL(sql);
+}
+
+/// The whole way into the rows of a query, beside the yardstick's way into its tree.
+void Read(benchmark::State& state, bool nested, TRead read) {
+    TSales structure;
+    const std::string sql = Statement(static_cast<int>(state.range(0)), nested);
+    const auto repeats = std::max<int64_t>(1, 1000 / state.range(0));
+    bench::SideBySide(
+        state, repeats,
+        [&] {
+            tern7::TKQuery query(&structure);
+            read(query, sql);
+            benchmark::DoNotOptimize(query.Root());
+        },
+        [&] { PgParse(sql); });
+}
+
+std::string Hostile(int kind) {
+    constexpr size_t size = size_t{1} << 20;
+    const auto repeated = [](std::string_view piece) {
+        return tern7::Replicate(piece, size / piece.size());
+    };
+    const std::string where = "select Cus.City from Customers Cus where ";
+    switch (kind) {
+    case 0:
+        return where + tern7::Replicate("(", 200'000);
+    case 1:
+        return where + "Cus.City = 'never closed" + repeated(" x");
+    case 2:
+        return "select count(" + repeated("a, ");
+    case 3:
+        return where + tern7::Replicate("not ", 1'000'000) + "Cus.City = 'x'";
+    case 4:
+        return where + repeated("Cus.City = 'x' or ") + "Cus.City = 'y'";
+    default:
+        return "select " + repeated("Cus.City || ") + "'x' from Customers Cus";
+    }
+}
+
+void HostileMegabyte(benchmark::State& state, TRead read) {
+    TSales structure;
+    const std::string sql = Hostile(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        tern7::TKQuery query(&structure);
+        try {
+            read(query, sql);
+        } catch (const tern7::ESQLParserError&) {
+        }
+        benchmark::DoNotOptimize(query.Root());
+    }
 }
 
 void Sizes(benchmark::internal::Benchmark* bench) {
+    bench->ArgName("conditions");
     for (int size : {5, 50, 500, 5000, 50000})
         bench->Arg(size);
-    bench->Complexity(benchmark::oN)->Unit(benchmark::kMicrosecond);
+    bench->Unit(benchmark::kMicrosecond);
 }
 
-BENCHMARK_CAPTURE(Tern, flat, false)->Apply(Sizes);
-BENCHMARK_CAPTURE(LibPgQuery, flat, false)->Apply(Sizes);
-BENCHMARK_CAPTURE(Tern, nested, true)->Apply(Sizes);
-BENCHMARK_CAPTURE(LibPgQuery, nested, true)->Apply(Sizes);
+BENCHMARK_CAPTURE(Parse, flat, false)->Apply(Sizes)->UseManualTime();
+BENCHMARK_CAPTURE(Parse, nested, true)->Apply(Sizes)->UseManualTime();
+BENCHMARK_CAPTURE(Read, plain_flat, false, ReadPlainly)->Apply(Sizes)->UseManualTime();
+BENCHMARK_CAPTURE(Read, plain_nested, true, ReadPlainly)->Apply(Sizes)->UseManualTime();
+BENCHMARK_CAPTURE(Read, complete_flat, false, ReadCompletely)->Apply(Sizes)->UseManualTime();
+BENCHMARK_CAPTURE(Read, complete_nested, true, ReadCompletely)->Apply(Sizes)->UseManualTime();
+BENCHMARK_CAPTURE(HostileMegabyte, plain, ReadPlainly)
+    ->DenseRange(0, 5)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(HostileMegabyte, complete, ReadCompletely)
+    ->DenseRange(0, 5)
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 #include <ctime>
 #include <vector>
 
@@ -21,31 +22,42 @@ inline double Median(std::vector<double>& times) {
     return *middle;
 }
 
-/// Runs ours and the yardstick in turns, so that both see the same machine. The time of the line is
-/// ours; `yardstick` is the other's in nanoseconds, `times_as_fast` the ratio of the medians.
-/// `prepare` is called before each run of ours and not timed.
+/// Runs ours and the yardstick in turns, so that both see the same machine; the time of the line is
+/// that of both. `ours_ns` and `yardstick_ns` are the medians of a run's work divided by `repeats`
+/// (work below the clock is repeated), `times_as_fast` their ratio, and `best_of_both` that of the
+/// least times, to which a busy machine adds least. `prepare` is called before each run of ours and
+/// not timed.
 template <class Ours, class Yardstick, class Prepare>
-void SideBySide(benchmark::State& state, Ours ours, Yardstick yardstick, Prepare prepare) {
+void SideBySide(benchmark::State& state, int64_t repeats, Ours ours, Yardstick yardstick,
+                Prepare prepare) {
     std::vector<double> ourTimes, theirTimes;
     for (auto _ : state) {
         prepare();
         const double start = ThreadTime();
-        ours();
+        for (int64_t i = 0; i < repeats; ++i)
+            ours();
         const double between = ThreadTime();
-        yardstick();
+        for (int64_t i = 0; i < repeats; ++i)
+            yardstick();
         const double end = ThreadTime();
         ourTimes.push_back(between - start);
         theirTimes.push_back(end - between);
-        state.SetIterationTime(between - start);
+        state.SetIterationTime(end - start);
     }
-    const double theirs = Median(theirTimes);
-    state.counters["yardstick_ns"] = theirs * 1e9;
-    state.counters["times_as_fast"] = theirs / Median(ourTimes);
+    const auto least = [](const std::vector<double>& times) {
+        return *std::min_element(times.begin(), times.end());
+    };
+    const double once = 1e9 / static_cast<double>(repeats);
+    const double ourMedian = Median(ourTimes), theirMedian = Median(theirTimes);
+    state.counters["ours_ns"] = ourMedian * once;
+    state.counters["yardstick_ns"] = theirMedian * once;
+    state.counters["times_as_fast"] = theirMedian / ourMedian;
+    state.counters["best_of_both"] = least(theirTimes) / least(ourTimes);
 }
 
 template <class Ours, class Yardstick>
-void SideBySide(benchmark::State& state, Ours ours, Yardstick yardstick) {
-    SideBySide(state, ours, yardstick, [] {});
+void SideBySide(benchmark::State& state, int64_t repeats, Ours ours, Yardstick yardstick) {
+    SideBySide(state, repeats, ours, yardstick, [] {});
 }
 
 } // namespace tern7::bench

@@ -165,10 +165,26 @@ void TKBDEInfo::GetSQLValues(const std::string& sql, TStrings& values, TStrings&
     captions = std::move(list.captions);
 }
 
+std::function<void(TStrings&, TStrings&)> TKBDEInfo::SQLValuesJob(const std::string& sql) {
+    const QSqlDatabase database = OpenConnection(databaseName);
+    const TKEngine engine = Known().engine;
+    const QString file = database.databaseName();
+    if (engine == TKEngine::SQLite && (file.isEmpty() || file.contains(QLatin1String(":memory:"))))
+        return {};
+    const QString connection = database.connectionName();
+    const QString schemaChoice = SchemaChoice(database, engine);
+    return [connection, schemaChoice, engine, sql](TStrings& values, TStrings& captions) {
+        TValueList list = ReadValueListOnCopy(connection, schemaChoice, engine, sql);
+        values = std::move(list.values);
+        captions = std::move(list.captions);
+    };
+}
+
 void TKBDEInfo::LoadInfo(const TStrings& lines) {
-    if (std::string name = ValueOf(lines, "DatabaseName"); !name.empty())
-        SetDatabaseName(std::move(name));
-    if (std::string name = ValueOf(lines, "Schema"); !name.empty()) SetSchema(std::move(name));
+    std::string name = ValueOf(lines, "DatabaseName");
+    if (name.empty()) return;
+    SetDatabaseName(std::move(name));
+    SetSchema(ValueOf(lines, "Schema")); // not written when there is none
 }
 
 void TKBDEInfo::SaveInfo(TStrings& lines) {

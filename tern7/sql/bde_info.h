@@ -52,6 +52,10 @@ public:
     /// Executes one SELECT statement that can not change anything; both lists are left empty when
     /// it fails. Numbers, dates and times are in their canonical form, NULL is empty.
     void GetSQLValues(const std::string& sql, TStrings& values, TStrings& captions) override;
+    /// The call opens a connection of its own. Empty for a database that only this connection can
+    /// see: one of SQLite in memory.
+    std::function<void(TStrings& values, TStrings& captions)> SQLValuesJob(
+        const std::string& sql) override;
     void LoadInfo(const TStrings& lines) override;
     void SaveInfo(TStrings& lines) override;
     /// By table, and in a table by its referring columns. Keys to tables that are not listed are

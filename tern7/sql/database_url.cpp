@@ -52,6 +52,21 @@ std::string PercentDecoded(std::string_view text) {
     return decoded;
 }
 
+/// Everything but letters, digits and what can not be taken for a separator.
+std::string PercentEncoded(std::string_view text) {
+    constexpr std::string_view hexDigits = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        if (IsDigit(c) || (LowerChar(c) >= 'a' && LowerChar(c) <= 'z') ||
+            std::string_view("-._").find(c) != std::string_view::npos)
+            encoded += c;
+        else
+            encoded += {'%', hexDigits[code >> 4], hexDigits[code & 15]};
+    }
+    return encoded;
+}
+
 template <size_t Count>
 bool Contains(const std::string_view (&names)[Count], std::string_view name) {
     return std::find(std::begin(names), std::end(names), name) != std::end(names);
@@ -139,6 +154,21 @@ std::string TKDatabaseURL::DisplayText() const {
     text += host;
     if (port != 0) text += ":" + std::to_string(port);
     return text + "/" + database;
+}
+
+std::string TKDatabaseURL::Address() const {
+    const auto scheme = std::find_if(std::begin(schemes), std::end(schemes),
+                                     [this](const TScheme& each) { return each.driver == driver; });
+    std::string text(scheme->prefix);
+    if (driver == TDriver::ODBC && database.find('=') != std::string::npos) return {};
+    if (scheme->isPath) return text + database;
+    if (!user.empty()) text += PercentEncoded(user) + "@";
+    text += host.find(':') == std::string::npos ? PercentEncoded(host) : host;
+    if (port != 0) text += ":" + std::to_string(port);
+    text += "/" + PercentEncoded(database);
+    for (const auto& [name, value] : options)
+        text += (&name == &options.front().first ? "?" : "&") + name + "=" + PercentEncoded(value);
+    return text;
 }
 
 } // namespace tern7

@@ -33,6 +33,9 @@ struct TKDatabaseURL {
     /// Kind, user, host, port and name, for messages: never the password, no options, and of a
     /// connection string nothing at all.
     std::string DisplayText() const;
+    /// An address that reads back as this one, without the password: fit to be kept. A connection
+    /// string is left out, because it may hold one.
+    std::string Address() const;
 };
 
 /// EKDBInfoError when the text is no such address; the message repeats nothing of it that could be

@@ -1,6 +1,9 @@
 #include <tern7/sql/value_list.h>
 
+#include <atomic>
+
 #include <QtSql/QSqlDatabase>
+#include <QtSql/QSqlDriver>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlField>
 #include <QtSql/QSqlQuery>
@@ -37,6 +40,54 @@ TValueList ReadValueList(const QSqlDatabase& database, TKEngine engine, const st
     }
     if (query.lastError().isValid()) RaiseDriverError(query.lastError());
     return list;
+}
+
+namespace {
+
+/// A connection that lives as long as this object.
+class TCopiedConnection {
+public:
+    explicit TCopiedConnection(const QString& connection) {
+        static std::atomic<unsigned> count{0};
+        name = QStringLiteral("tern7-list-%1").arg(++count);
+        if (!QSqlDatabase::cloneDatabase(connection, name).isValid())
+            throw EKDBInfoError(FormatMessage(messages::NoSuchConnection, {FromQt(connection)}));
+    }
+    ~TCopiedConnection() { QSqlDatabase::removeDatabase(name); }
+    TCopiedConnection(const TCopiedConnection&) = delete;
+    TCopiedConnection& operator=(const TCopiedConnection&) = delete;
+
+    QSqlDatabase Open() const {
+        QSqlDatabase database = QSqlDatabase::database(name, false);
+        if (!database.open()) throw EKDBInfoError(OpenErrorText(database));
+        return database;
+    }
+
+private:
+    QString name;
+};
+
+} // namespace
+
+QString SchemaChoice(const QSqlDatabase& database, TKEngine engine) {
+    const bool postgres = engine == TKEngine::PostgreSQL;
+    if (!postgres && engine != TKEngine::MySQL) return {};
+    QString schemas;
+    ForEachRow(database,
+               postgres ? QStringLiteral("SHOW search_path") : QStringLiteral("SELECT DATABASE()"),
+               {}, [&](const QSqlQuery& query) { schemas = ToQt(TextOf(query, 0)); });
+    if (schemas.isEmpty()) return {};
+    if (postgres) return QStringLiteral("SET search_path = ") + schemas;
+    return QStringLiteral("USE ") +
+           database.driver()->escapeIdentifier(schemas, QSqlDriver::TableName);
+}
+
+TValueList ReadValueListOnCopy(const QString& connection, const QString& schemaChoice,
+                               TKEngine engine, const std::string& sql) {
+    const TCopiedConnection copy(connection);
+    const QSqlDatabase database = copy.Open();
+    if (!schemaChoice.isEmpty()) Execute(database, schemaChoice);
+    return ReadValueList(database, engine, sql);
 }
 
 } // namespace tern7

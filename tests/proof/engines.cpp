@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include <QtCore/QDateTime>
+#include <QtCore/QFile>
 #include <QtSql/QSqlError>
 #include <QtSql/QSqlRecord>
 
@@ -51,6 +52,8 @@ TCell CellOf(const TBoundValue& value) {
         return value.text;
     }
 }
+
+const std::vector<std::string> bytewise = {"pragma case_sensitive_like = on"};
 
 [[noreturn]] void Fail(const QSqlQuery& query) {
     throw std::runtime_error(FromQt(query.lastError().text()));
@@ -154,19 +157,22 @@ void TEngine::Execute(const std::string& sql, const TRow& values) const {
     Run(query);
 }
 
-void TEngine::Prepare(const std::string& sql) const {
-    Prepared(connection, ToQt(sql));
-}
-
 TRows TEngine::Select(const std::string& sql) const {
     QSqlQuery query = Prepared(connection, ToQt(sql));
     Run(query);
     return RowsOf(query);
 }
 
-std::unique_ptr<TEngine> OpenSQLite(const std::string& address, TKConnection::TMode mode) {
-    return std::make_unique<TEngine>(
-        address, std::vector<std::string>{"pragma case_sensitive_like = on"}, mode);
+std::unique_ptr<TEngine> OpenSQLite() {
+    return std::make_unique<TEngine>(TSample::Shared().Address(), bytewise);
+}
+
+std::unique_ptr<TEngine> OpenSQLiteCopy(const QTemporaryDir& folder) {
+    const QString sample = ToQt(TSample::Shared().Address()).section(QLatin1Char(':'), 1);
+    const QString copy = folder.filePath(QStringLiteral("copy.db"));
+    QFile::copy(sample, copy);
+    return std::make_unique<TEngine>("sqlite:" + FromQt(copy), bytewise,
+                                     TKConnection::TMode::ReadWrite);
 }
 
 std::unique_ptr<TEngine> OpenPostgreSQL() {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include <QtCore/QTemporaryDir>
 #include <QtSql/QSqlQuery>
 
 #include "cells.h"
@@ -25,18 +26,18 @@ public:
     TRows Bound(TKQuery& query, bool escapeWildcards = false) const;
     /// std::runtime_error with the statement and the words of the database when it fails.
     void Execute(const std::string& sql, const TRow& values = {}) const;
-    void Prepare(const std::string& sql) const;
     TRows Select(const std::string& sql) const;
 
 private:
     TKConnection connection;
 };
 
-/// SQLite with comparisons by bytes, and the servers of TERN7_TEST_POSTGRESQL and
-/// TERN7_TEST_MARIADB with the sample in a database of its own; none when the variable is not set.
-/// MariaDB either so that text means what it means elsewhere, or in its default mode.
-std::unique_ptr<TEngine> OpenSQLite(const std::string& address,
-                                    TKConnection::TMode mode = TKConnection::TMode::ReadOnly);
+/// SQLite with comparisons by bytes (the sample, or a copy in the folder that may be changed), and
+/// the servers of TERN7_TEST_POSTGRESQL and TERN7_TEST_MARIADB with the sample in a database of its
+/// own; none when the variable is not set. MariaDB either so that text means what it means
+/// elsewhere, or in its default mode.
+std::unique_ptr<TEngine> OpenSQLite();
+std::unique_ptr<TEngine> OpenSQLiteCopy(const QTemporaryDir& folder);
 std::unique_ptr<TEngine> OpenPostgreSQL();
 std::unique_ptr<TEngine> OpenMariaDB(bool defaultMode);
 

@@ -1,11 +1,9 @@
 #include "evaluator.h"
 
-#include <functional>
+#include <algorithm>
 #include <set>
 #include <unordered_map>
 #include <unordered_set>
-
-#include "like.h"
 
 #include <tern7/core/corekit/comma_text.h>
 #include <tern7/core/structure/structure.h>
@@ -14,20 +12,88 @@ namespace tern7::proof {
 
 namespace {
 
-using TTruth = std::optional<bool>; // nothing: unknown
+/// Three-valued logic: "all" is the least, "any" the greatest, "not" the sign turned round.
+enum TTruth { False = -1, Unknown = 0, True = 1, Absent = 2 }; // absent: takes no part
+TTruth Not(TTruth truth) {
+    return static_cast<TTruth>(-truth);
+}
+TTruth Truth(bool holds) {
+    return holds ? True : False;
+}
 
-TTruth Not(TTruth a) {
-    return a ? TTruth(!*a) : a;
+/// What stands in brackets behind IN: the texts of values, NULL apart.
+struct TList {
+    std::unordered_set<std::string> texts;
+    bool anyNull = false;
+
+    void Add(const TCell& cell) {
+        if (IsNull(cell))
+            anyNull = true;
+        else
+            texts.insert(TextOf(cell));
+    }
+    /// As in SQL: nothing is in an empty list, not even NULL.
+    TTruth Holds(const TCell& cell) const {
+        if (texts.empty() && !anyNull) return False;
+        if (IsNull(cell)) return Unknown;
+        return texts.contains(TextOf(cell)) ? True : anyNull ? Unknown : False;
+    }
+};
+
+/// LIKE by bytes: "%" stands for any text, "_" for one character.
+bool MatchesLike(std::string_view text, std::string_view pattern) {
+    if (pattern.empty()) return text.empty();
+    auto isInside = [&](size_t i) { return (static_cast<unsigned char>(text[i]) & 0xC0) == 0x80; };
+    size_t length = text.empty() ? 0 : 1; // of the first character
+    while (pattern[0] != text[0] && length < text.size() && isInside(length))
+        ++length;
+    if (pattern[0] == '%')
+        return MatchesLike(text, pattern.substr(1)) ||
+               (!text.empty() && MatchesLike(text.substr(length), pattern));
+    return !text.empty() && (pattern[0] == '_' || pattern[0] == text[0]) &&
+           MatchesLike(text.substr(length), pattern.substr(1));
+}
+
+/// A value as the user gave it, for comparison with a field of the type.
+TCell ValueCell(TFieldType type, std::string_view text) {
+    const TKindOfType kind = KindOf(type);
+    if (IsNumeric(kind)) return SameText(Trim(text), "null") ? TCell() : NumberCell(Trim(text));
+    if (kind == TKindOfType::Boolean) return NumberCell(text);
+    // a date alone is its midnight
+    if (kind == TKindOfType::Timestamp && text.size() == 10) return std::string(text) + " 00:00:00";
+    return std::string(text);
+}
+
+TCell Aggregated(TAggregate aggregate, const TRow& values) {
+    int64_t count = 0;
+    long double sum = 0;
+    bool whole = true;
+    TCell best;
+    for (const TCell& value : values) {
+        if (IsNull(value)) continue;
+        ++count;
+        const int order = IsNull(best) ? 0 : Compare(value, best);
+        if (IsNull(best) || (aggregate == TAggregate::Min ? order < 0 : order > 0)) best = value;
+        if (aggregate != TAggregate::Sum) continue;
+        const auto* fraction = std::get_if<double>(&value);
+        sum += fraction ? *fraction : static_cast<long double>(std::get<int64_t>(value));
+        whole = whole && !fraction;
+    }
+    switch (aggregate) {
+    case TAggregate::CountRows:
+        return static_cast<int64_t>(values.size());
+    case TAggregate::Count:
+        return count;
+    case TAggregate::Sum:
+        if (count == 0) return {};
+        return whole ? TCell(static_cast<int64_t>(sum)) : TCell(static_cast<double>(sum));
+    default:
+        return best;
+    }
 }
 
 /// One joined row: for each table of the query the number of its row, -1 where it is missing.
 using TJoinedRow = const int32_t*;
-using TColumn = std::function<TCell(TJoinedRow)>;
-using TTest = std::function<TTruth(TJoinedRow)>;
-
-TTest Negated(TTest test) {
-    return [test](TJoinedRow row) { return Not(test(row)); };
-}
 
 class TAnswer {
 public:
@@ -37,40 +103,32 @@ public:
     TRows Rows();
 
 private:
-    // --- tables
     void Join(const TResultTable& entry);
     const TTableRows& RowsOf(size_t place) const { return sample.Rows(tables[place]->TableName()); }
-    size_t PlaceOf(const TDSTable* table) const;
     size_t JoinedCount() const { return joined.size() / tables.size(); }
+    TJoinedRow Joined(size_t i) const { return joined.data() + i * tables.size(); }
     std::string Key(TJoinedRow row, size_t place, const TStrings& columns) const;
 
-    // --- conditions
-    std::optional<TTest> Bracket(const TFilterBracket& bracket) const;
-    std::optional<TTest> Condition(const TFilterCond& condition) const;
-    TTest Comparison(const TFilterCond& condition) const;
-    TTest InList(TColumn column, const TRow& items) const;
-    TTest Like(const TFilterCond& condition, const std::string& pattern) const;
+    TTruth Holds(const TFilterRow& row, TJoinedRow at);
+    TTruth Condition(const TFilterCond& condition, TJoinedRow at);
+    TTruth Comparison(const TFilterCond& condition, const TCell& cell) const;
+    const TList& ListOf(const TFilterCond& condition);
 
-    // --- columns
-    TColumn Column(const TDSField& field) const;
-    TColumn Formula(const TFormula& formula, std::vector<TColumn> fields) const;
+    TCell Value(const TDSField& field, TJoinedRow at);
+    TCell Value(const TResultField& column, TJoinedRow at);
     TRows AllColumns() const;
-    TRows Grouped() const;
+    TRows Grouped();
 
     const TSample& sample;
     const TKQuery& query;
     size_t limit;
     std::vector<const TDSTable*> tables;
     std::vector<int32_t> joined; // row numbers, one per table
+    std::unordered_map<const TFilterCond*, TList> lists;
+    std::unordered_map<const TDSField*, std::pair<size_t, size_t>> places; // table and column
 };
 
 // ---------------------------------------------------------------- tables
-
-size_t TAnswer::PlaceOf(const TDSTable* table) const {
-    for (size_t i = 0; i < tables.size(); ++i)
-        if (tables[i] == table) return i;
-    throw std::logic_error("table is not in the query: " + table->TableAlias());
-}
 
 /// Empty when the row is missing or one of the columns is NULL: nothing equals it then.
 std::string TAnswer::Key(TJoinedRow row, size_t place, const TStrings& columns) const {
@@ -111,7 +169,9 @@ void TAnswer::Join(const TResultTable& entry) {
     const bool newIsSecond = link->Table2() == entry.Table;
     const TStrings& ownColumns = newIsSecond ? link->Fields2() : link->Fields1();
     const TStrings& otherColumns = newIsSecond ? link->Fields1() : link->Fields2();
-    const size_t other = PlaceOf(newIsSecond ? link->Table1() : link->Table2());
+    const TDSTable* otherTable = newIsSecond ? link->Table1() : link->Table2();
+    const auto other =
+        static_cast<size_t>(std::find(tables.begin(), tables.end(), otherTable) - tables.begin());
     // an outer link keeps all rows of its first (left), second (right) or both tables
     const bool keepsFirst = type == TDSLinkType::ltOuterLeft || type == TDSLinkType::ltOuterFull;
     const bool keepsSecond = type == TDSLinkType::ltOuterRight || type == TDSLinkType::ltOuterFull;
@@ -142,163 +202,109 @@ void TAnswer::Join(const TResultTable& entry) {
 
 // ---------------------------------------------------------------- conditions
 
-/// Nothing when no row of the bracket takes part.
-std::optional<TTest> TAnswer::Bracket(const TFilterBracket& bracket) const {
-    std::vector<TTest> tests;
-    for (const auto& row : bracket.Rows()) {
-        if (!row->GetEnabled()) continue;
-        const TFilterBracket* inner = row->AsBracket();
-        if (auto test = inner ? Bracket(*inner) : Condition(*row->AsCond())) tests.push_back(*test);
-    }
-    if (tests.empty()) return std::nullopt;
-    const TFilterLinkType type = bracket.LinkType();
+TTruth TAnswer::Holds(const TFilterRow& row, TJoinedRow at) {
+    if (!row.GetEnabled()) return Absent;
+    const TFilterBracket* bracket = row.AsBracket();
+    if (!bracket) return Condition(*row.AsCond(), at);
+    const TFilterLinkType type = bracket->LinkType();
     const bool all = type == TFilterLinkType::fltAll || type == TFilterLinkType::fltNotAll;
     const bool negated = type == TFilterLinkType::fltNone || type == TFilterLinkType::fltNotAll;
-    return [tests, all, negated](TJoinedRow row) {
-        TTruth truth = all;
-        for (const TTest& test : tests) {
-            const TTruth next = test(row);
-            if (next == !all) {
-                truth = !all; // one false makes "all" false, one true makes "any" true
-                break;
-            }
-            if (!next) truth = next;
-        }
-        return negated ? Not(truth) : truth;
-    };
-}
-
-TRow SubQueryValues(const TSample& sample, const TKQuery& nested, size_t limit) {
-    TRow values;
-    for (const TRow& row : TAnswer(sample, nested, limit).Rows())
-        values.push_back(row.at(0));
-    return values;
-}
-
-/// A value as the user gave it, for comparison with a field of the type.
-TCell ValueCell(TFieldType type, std::string_view text) {
-    const TKindOfType kind = KindOf(type);
-    if (IsNumeric(kind)) return SameText(Trim(text), "null") ? TCell() : NumberCell(Trim(text));
-    if (kind == TKindOfType::Boolean) return NumberCell(text);
-    // a date alone is its midnight
-    if (kind == TKindOfType::Timestamp && text.size() == 10) return std::string(text) + " 00:00:00";
-    return std::string(text);
-}
-
-/// Nothing for a condition without field, operator or what the operator needs.
-std::optional<TTest> TAnswer::Condition(const TFilterCond& condition) const {
-    if (!condition.Field() || !condition.Operator()) return std::nullopt;
-    const TFieldType type = condition.Field()->FieldType();
-    const std::string& op = condition.Operator()->Name();
-    if (op == "InQuery" || op == "NotInQuery") {
-        if (condition.SubQuery().empty()) return std::nullopt;
-        const TTest in = InList(Column(*condition.Field()),
-                                SubQueryValues(sample, *condition.NestedQuery(), limit));
-        return op == "InQuery" ? in : Negated(in);
+    TTruth truth = Absent;
+    for (const auto& inner : bracket->Rows()) {
+        const TTruth next = Holds(*inner, at);
+        if (next == Absent) continue;
+        truth = truth == Absent ? next : all ? std::min(truth, next) : std::max(truth, next);
     }
-    const int values = op == "IsNull" ? 0 : op == "Between" || op == "BeginsAndEnds" ? 2 : 1;
-    for (int n = 1; n <= values; ++n)
-        if ((IsNumeric(KindOf(type)) || op == "InList") && Trim(condition.Value(n)).empty())
-            return std::nullopt;
-    if (op == "InList") {
-        TRow items;
+    return negated && truth != Absent ? Not(truth) : truth;
+}
+
+const TList& TAnswer::ListOf(const TFilterCond& condition) {
+    const auto [known, isNew] = lists.try_emplace(&condition);
+    TList& list = known->second;
+    if (!isNew) return list;
+    if (condition.IsSubQueryOperator())
+        for (const TRow& row : TAnswer(sample, *condition.NestedQuery(), limit).Rows())
+            list.Add(row.at(0));
+    else
         for (const std::string& item : ParseCommaText(condition.Value(1)))
-            items.push_back(ValueCell(type, item));
-        return InList(Column(*condition.Field()), items);
-    }
-    const std::string& text = condition.Value(1);
-    if (op == "StartsWith") return Like(condition, text + "%");
-    if (op == "Contains") return Like(condition, "%" + text + "%");
-    if (op == "BeginsAndEnds") return Like(condition, text + "%" + condition.Value(2));
-    if (op == "NotStartsWith") return Negated(Like(condition, text + "%"));
-    if (op == "NotContains") return Negated(Like(condition, "%" + text + "%"));
-    return Comparison(condition);
+            list.Add(ValueCell(condition.Field()->FieldType(), item));
+    return list;
 }
 
-/// As in SQL: nothing is in an empty list, not even NULL; else NULL on either side leaves it open.
-TTest TAnswer::InList(TColumn column, const TRow& items) const {
-    std::unordered_set<std::string> known;
-    bool anyNull = false;
-    for (const TCell& item : items)
-        if (IsNull(item))
-            anyNull = true;
-        else
-            known.insert(TextOf(item));
-    return [column, known, anyNull](TJoinedRow row) -> TTruth {
-        if (known.empty() && !anyNull) return false;
-        const TCell value = column(row);
-        if (IsNull(value)) return std::nullopt;
-        if (known.contains(TextOf(value))) return true;
-        return anyNull ? std::nullopt : TTruth(false);
-    };
-}
-
-TTest TAnswer::Like(const TFilterCond& condition, const std::string& pattern) const {
-    return [column = Column(*condition.Field()), pattern](TJoinedRow row) -> TTruth {
-        const TCell value = column(row);
-        if (IsNull(value)) return std::nullopt;
-        return MatchesLike(std::get<std::string>(value), pattern);
-    };
-}
-
-TTest TAnswer::Comparison(const TFilterCond& condition) const {
-    const TColumn column = Column(*condition.Field());
-    const TFieldType type = condition.Field()->FieldType();
-    auto compared = [column](TCell value, bool (*holds)(int)) -> TTest {
-        return [column, value, holds](TJoinedRow row) -> TTruth {
-            const TCell cell = column(row);
-            if (IsNull(cell) || IsNull(value)) return std::nullopt;
-            return holds(Compare(cell, value));
-        };
-    };
+/// Absent without field, operator or what the operator needs.
+TTruth TAnswer::Condition(const TFilterCond& condition, TJoinedRow at) {
+    if (!condition.Field() || !condition.Operator()) return Absent;
     const std::string& op = condition.Operator()->Name();
-    if (op == "IsNull") return [column](TJoinedRow row) -> TTruth { return IsNull(column(row)); };
-    const TCell value = ValueCell(type, condition.Value(1));
-    if (op == "Equal") return compared(value, [](int c) { return c == 0; });
-    if (op == "EqualOrNull")
-        return [column, equal = compared(value, [](int c) { return c == 0; })](TJoinedRow row) {
-            return IsNull(column(row)) ? TTruth(true) : equal(row);
-        };
-    if (op == "NotEqual") return compared(value, [](int c) { return c != 0; });
-    if (op == "LessThan") return compared(value, [](int c) { return c < 0; });
-    if (op == "LessOrEqual") return compared(value, [](int c) { return c <= 0; });
-    if (op == "GreaterThan") return compared(value, [](int c) { return c > 0; });
-    if (op == "GreaterOrEqual") return compared(value, [](int c) { return c >= 0; });
-    if (op != "Between") throw std::logic_error("unknown operator: " + op);
-    const TTest from = compared(value, [](int c) { return c >= 0; });
-    const TTest to = compared(ValueCell(type, condition.Value(2)), [](int c) { return c <= 0; });
-    return [from, to](TJoinedRow row) -> TTruth {
-        const TTruth a = from(row), b = to(row);
-        if (a == false || b == false) return false;
-        return a && b ? TTruth(true) : std::nullopt;
+    const std::string &first = condition.Value(1), &second = condition.Value(2);
+    const bool isQuery = condition.IsSubQueryOperator(), isList = op == "InList";
+    if (isQuery && condition.SubQuery().empty()) return Absent;
+    if (!isQuery && op != "IsNull" &&
+        (isList || IsNumeric(KindOf(condition.Field()->FieldType()))) &&
+        (Trim(first).empty() || (op == "Between" && Trim(second).empty())))
+        return Absent;
+
+    const TCell cell = Value(*condition.Field(), at);
+    if (op == "NotInQuery") return Not(ListOf(condition).Holds(cell));
+    if (isQuery || isList) return ListOf(condition).Holds(cell);
+    auto like = [&](const std::string& pattern) {
+        return IsNull(cell) ? Unknown : Truth(MatchesLike(std::get<std::string>(cell), pattern));
     };
+    if (op == "StartsWith") return like(first + "%");
+    if (op == "Contains") return like("%" + first + "%");
+    if (op == "BeginsAndEnds") return like(first + "%" + second);
+    if (op == "NotStartsWith") return Not(like(first + "%"));
+    if (op == "NotContains") return Not(like("%" + first + "%"));
+    return Comparison(condition, cell);
+}
+
+TTruth TAnswer::Comparison(const TFilterCond& condition, const TCell& cell) const {
+    const std::string& op = condition.Operator()->Name();
+    if (op == "IsNull") return Truth(IsNull(cell));
+    auto compare = [&](int n, bool (*holds)(int)) {
+        const TCell value = ValueCell(condition.Field()->FieldType(), condition.Value(n));
+        return IsNull(cell) || IsNull(value) ? Unknown : Truth(holds(Compare(cell, value)));
+    };
+    auto equal = [](int c) { return c == 0; };
+    auto atLeast = [](int c) { return c >= 0; };
+    auto atMost = [](int c) { return c <= 0; };
+    if (op == "Equal") return compare(1, equal);
+    if (op == "EqualOrNull") return std::max(compare(1, equal), Truth(IsNull(cell)));
+    if (op == "NotEqual") return Not(compare(1, equal));
+    if (op == "LessThan") return Not(compare(1, atLeast));
+    if (op == "LessOrEqual") return compare(1, atMost);
+    if (op == "GreaterThan") return Not(compare(1, atMost));
+    if (op == "GreaterOrEqual") return compare(1, atLeast);
+    if (op == "Between") return std::min(compare(1, atLeast), compare(2, atMost));
+    throw std::logic_error("unknown operator: " + op);
 }
 
 // ---------------------------------------------------------------- columns
 
-TColumn TAnswer::Column(const TDSField& field) const {
+TCell TAnswer::Value(const TDSField& field, TJoinedRow at) {
     if (field.Kind() == TKFieldKind::kfkVirtual) {
         const TVirtualField& description = sample.VirtualFields().at(field.ID());
-        std::vector<TColumn> parts;
+        TRow parts;
         for (int id : description.fieldIDs)
-            parts.push_back(Column(*field.Structure().FieldByID(id)));
-        return Formula(*description.formula, parts);
+            parts.push_back(Value(*field.Structure().FieldByID(id), at));
+        return description.formula->value(parts);
     }
-    const size_t place = PlaceOf(field.Table());
-    const TTableRows& table = RowsOf(place);
-    return [place, &table, column = table.ColumnOf(field.FieldExpr())](TJoinedRow row) {
-        return row[place] < 0 ? TCell() : table.rows[static_cast<size_t>(row[place])][column];
-    };
+    const auto [known, isNew] = places.try_emplace(&field);
+    auto& [place, column] = known->second;
+    if (isNew) {
+        const auto found = std::find(tables.begin(), tables.end(), field.Table());
+        if (found == tables.end()) throw std::logic_error("no table of " + field.GetSQLExpr());
+        place = static_cast<size_t>(found - tables.begin());
+        column = RowsOf(place).ColumnOf(field.FieldExpr());
+    }
+    return at[place] < 0 ? TCell() : RowsOf(place).rows[static_cast<size_t>(at[place])][column];
 }
 
-TColumn TAnswer::Formula(const TFormula& formula, std::vector<TColumn> fields) const {
-    if (fields.size() == 1 && formula.text == "@1") return fields[0];
-    return [value = formula.value, fields](TJoinedRow row) {
-        TRow cells;
-        for (const TColumn& field : fields)
-            cells.push_back(field(row));
-        return value ? value(cells) : TCell();
-    };
+TCell TAnswer::Value(const TResultField& column, TJoinedRow at) {
+    TRow cells;
+    for (const TDSField* field : column.Fields().Items())
+        cells.push_back(Value(*field, at));
+    const TFormula& formula = FormulaByText(column.Formula());
+    return formula.value ? formula.value(cells) : TCell();
 }
 
 TRows TAnswer::AllColumns() const {
@@ -306,88 +312,44 @@ TRows TAnswer::AllColumns() const {
     for (size_t i = 0; i < rows.size(); ++i)
         for (size_t place = 0; place < tables.size(); ++place) {
             const TTableRows& table = RowsOf(place);
-            const int32_t number = joined[i * tables.size() + place];
-            for (size_t column = 0; column < table.columns.size(); ++column)
-                rows[i].push_back(number < 0 ? TCell()
-                                             : table.rows[static_cast<size_t>(number)][column]);
+            const int32_t number = Joined(i)[place];
+            const TRow missing(table.columns.size());
+            const TRow& cells = number < 0 ? missing : table.rows[static_cast<size_t>(number)];
+            rows[i].insert(rows[i].end(), cells.begin(), cells.end());
         }
     return rows;
 }
 
-TCell Aggregated(TAggregate aggregate, const TRow& values) {
-    int64_t count = 0;
-    TCell best, sum;
-    for (const TCell& value : values) {
-        if (IsNull(value)) continue;
-        ++count;
-        const int order = IsNull(best) ? 0 : Compare(value, best);
-        if (IsNull(best) || (aggregate == TAggregate::Min ? order < 0 : order > 0)) best = value;
-        if (aggregate != TAggregate::Sum) continue;
-        const auto* whole = std::get_if<int64_t>(&value);
-        const auto* wholeSum = std::get_if<int64_t>(&sum);
-        if (whole && (IsNull(sum) || wholeSum)) {
-            sum = *whole + (wholeSum ? *wholeSum : 0);
-        } else {
-            const double before = IsNull(sum) ? 0
-                                  : wholeSum  ? static_cast<double>(*wholeSum)
-                                              : std::get<double>(sum);
-            sum = before + (whole ? static_cast<double>(*whole) : std::get<double>(value));
-        }
-    }
-    switch (aggregate) {
-    case TAggregate::CountRows:
-        return static_cast<int64_t>(values.size());
-    case TAggregate::Count:
-        return count;
-    case TAggregate::Sum:
-        return sum;
-    default:
-        return best;
-    }
-}
-
 /// The columns, and where one of them is an aggregate the rows in groups of equal fields of the
 /// others.
-TRows TAnswer::Grouped() const {
-    struct TOutput {
-        TAggregate aggregate;
-        TColumn column;
-    };
-    std::vector<TOutput> outputs;
-    std::vector<TColumn> keys;
-    bool anyAggregate = false;
-    for (const auto& field : query.QResult().ResultFields()) {
-        const TFormula& formula = FormulaByText(field->Formula());
-        std::vector<TColumn> fields;
-        for (const TDSField* source : field->Fields().Items())
-            fields.push_back(Column(*source));
-        outputs.push_back({formula.aggregate, Formula(formula, fields)});
-        if (formula.aggregate != TAggregate::None)
-            anyAggregate = true;
-        else
-            keys.insert(keys.end(), fields.begin(), fields.end());
-    }
+TRows TAnswer::Grouped() {
+    const TRFieldList& columns = query.QResult().ResultFields();
+    auto aggregate = [](const auto& column) { return FormulaByText(column->Formula()).aggregate; };
+    auto isPlain = [&](const auto& column) { return aggregate(column) == TAggregate::None; };
+    const bool grouped = !std::all_of(columns.begin(), columns.end(), isPlain);
     std::unordered_map<std::string, std::vector<TJoinedRow>> groups;
     for (size_t i = 0; i < JoinedCount(); ++i) {
-        const TJoinedRow row = joined.data() + i * tables.size();
-        std::string key = anyAggregate ? std::string() : std::to_string(i);
-        for (size_t k = 0; anyAggregate && k < keys.size(); ++k)
-            key += TextOf(keys[k](row)) + "|";
-        groups[key].push_back(row);
+        std::string key = grouped ? std::string() : std::to_string(i);
+        for (const auto& column : columns)
+            if (grouped && isPlain(column))
+                for (const TDSField* field : column->Fields().Items())
+                    key += TextOf(Value(*field, Joined(i))) + "|";
+        groups[key].push_back(Joined(i));
     }
-    if (anyAggregate && keys.empty()) groups[""]; // one row, whatever there is
+    // without a group one row, whatever there is
+    if (grouped && std::none_of(columns.begin(), columns.end(), isPlain)) groups[""];
     TRows rows;
     for (const auto& [key, members] : groups) {
         TRow& row = rows.emplace_back();
-        for (const TOutput& output : outputs) {
-            if (output.aggregate == TAggregate::None) {
-                row.push_back(output.column(members[0]));
+        for (const auto& column : columns) {
+            if (isPlain(column)) {
+                row.push_back(Value(*column, members[0]));
                 continue;
             }
             TRow values;
             for (const TJoinedRow member : members)
-                values.push_back(output.column(member));
-            row.push_back(Aggregated(output.aggregate, values));
+                values.push_back(Value(*column, member));
+            row.push_back(Aggregated(aggregate(column), values));
         }
     }
     return rows;
@@ -397,14 +359,11 @@ TRows TAnswer::Rows() {
     const TQueryResult& result = query.QResult();
     for (int i = 0; i < result.ResultTables().GetCount(); ++i)
         Join(result.ResultTables()[i]);
-    if (const auto test = Bracket(query.Root())) {
-        std::vector<int32_t> kept;
-        for (size_t i = 0; i < JoinedCount(); ++i) {
-            const TJoinedRow row = joined.data() + i * tables.size();
-            if ((*test)(row) == true) kept.insert(kept.end(), row, row + tables.size());
-        }
-        joined.swap(kept);
-    }
+    std::vector<int32_t> kept;
+    for (size_t i = 0; i < JoinedCount(); ++i)
+        if (const TTruth truth = Holds(query.Root(), Joined(i)); truth == True || truth == Absent)
+            kept.insert(kept.end(), Joined(i), Joined(i) + tables.size());
+    joined.swap(kept);
     const TRFieldList& fields = result.ResultFields();
     TRows rows = fields.JustSorting() || fields.IsEmpty() ? AllColumns() : Grouped();
     if (!query.SQLOptions().Contains(TSQLOption::soSelectDistinct)) return rows;

@@ -8,56 +8,28 @@ namespace tern7::proof {
 using enum TFieldType;
 
 TKindOfType KindOf(TFieldType type) {
-    switch (type) {
-    case ftSmallint:
-    case ftInteger:
-    case ftWord:
-    case ftAutoInc:
-    case ftLargeint:
-        return TKindOfType::Whole;
-    case ftBCD:
-    case ftCurrency:
-        return TKindOfType::Exact;
-    case ftFloat:
-        return TKindOfType::Floating;
-    case ftBoolean:
-        return TKindOfType::Boolean;
-    case ftDate:
-        return TKindOfType::Date;
-    case ftTime:
-        return TKindOfType::Time;
-    case ftDateTime:
-    case ftTimeStamp:
-        return TKindOfType::Timestamp;
-    case ftString:
-    case ftMemo:
-        return TKindOfType::Text;
-    default:
-        throw std::logic_error("the sample has no such type");
-    }
+    using enum TKindOfType;
+    static const std::map<TFieldType, TKindOfType> kinds = {
+        {ftSmallint, Whole},  {ftInteger, Whole}, {ftWord, Whole},         {ftAutoInc, Whole},
+        {ftLargeint, Whole},  {ftBCD, Exact},     {ftCurrency, Exact},     {ftFloat, Floating},
+        {ftBoolean, Boolean}, {ftDate, Date},     {ftTime, Time},          {ftDateTime, Timestamp},
+        {ftString, Text},     {ftMemo, Text},     {ftTimeStamp, Timestamp}};
+    return kinds.at(type); // the sample has no other
 }
 
 namespace {
 
-bool Any(TFieldType, TFieldType) {
-    return true;
-}
-bool Number(TFieldType type, TFieldType) {
-    return IsNumeric(KindOf(type));
-}
+using TTakes = bool (*)(TFieldType, TFieldType);
+const TTakes Any = [](TFieldType, TFieldType) { return true; };
+const TTakes Number = [](TFieldType type, TFieldType) { return IsNumeric(KindOf(type)); };
+const TTakes Same = [](TFieldType type, TFieldType other) { return KindOf(type) == KindOf(other); };
+const TTakes Ordered = [](TFieldType type, TFieldType) { return type != ftBoolean; };
 // sums and products of big integers would not fit
-bool Small(TFieldType type, TFieldType other) {
-    return (type == ftSmallint || type == ftInteger) && (other == ftSmallint || other == ftInteger);
+bool IsSmall(TFieldType type) {
+    return type == ftSmallint || type == ftInteger;
 }
-bool Summable(TFieldType type, TFieldType) {
-    return type == ftSmallint || type == ftInteger || type == ftBCD;
-}
-bool Ordered(TFieldType type, TFieldType) {
-    return type != ftBoolean;
-}
-bool Same(TFieldType type, TFieldType other) {
-    return KindOf(type) == KindOf(other);
-}
+const TTakes Small = [](TFieldType a, TFieldType b) { return IsSmall(a) && IsSmall(b); };
+const TTakes Summable = [](TFieldType a, TFieldType) { return IsSmall(a) || a == ftBCD; };
 
 TCell First(const TRow& f) {
     return f.at(0);

@@ -12,17 +12,6 @@ namespace tern7::proof {
 
 namespace {
 
-/// What makes up a text, one character each.
-std::vector<std::string> Characters(const std::string& text) {
-    std::vector<std::string> characters;
-    for (char c : text) {
-        if (characters.empty() || (static_cast<unsigned char>(c) & 0xC0) != 0x80)
-            characters.emplace_back();
-        characters.back() += c;
-    }
-    return characters;
-}
-
 std::string ValueText(const TCell& cell) {
     if (const auto* text = std::get_if<std::string>(&cell)) return *text;
     if (const auto* whole = std::get_if<int64_t>(&cell)) return std::to_string(*whole);
@@ -308,49 +297,38 @@ std::string TQueryGenerator::Value(const TDSField& field) {
 std::string TQueryGenerator::NumberValue(const TDSField& field, const std::string& number) {
     if (!OneIn(3)) return number;
     const bool whole = KindOf(field.FieldType()) == TKindOfType::Whole;
-    switch (Below(6)) {
-    case 0:
-        return number.find('.') == std::string::npos ? number + ".5" : "0" + number;
-    case 1:
-        return whole ? std::to_string(std::stoll(number) + 1) : number + "1";
-    case 2:
-        return number[0] == '-' ? number : "-" + number;
-    case 3:
-        return " " + number + " ";
-    case 4:
-        return OneIn(2) ? "null" : "NULL";
-    default:
-        return "70000";
-    }
+    const std::string others[] = {number.find('.') == std::string::npos ? number + ".5"
+                                                                        : "0" + number,
+                                  whole ? std::to_string(std::stoll(number) + 1) : number + "1",
+                                  number[0] == '-' ? number : "-" + number,
+                                  " " + number + " ",
+                                  "null",
+                                  "NULL",
+                                  "70000"};
+    return AnyOf(others);
 }
 
-std::string TQueryGenerator::TextValue(std::string text) {
+std::string TQueryGenerator::TextValue(const std::string& text) {
     static const std::string others[] = {"",   "'",        "%",   "O'Hara", "o''Double & O'Single",
                                          "_",  "1 OR 1=1", "ÄÖÜ", "\"x\"",  "NULL",
                                          "@1", ":v1 ?"};
     if (!OneIn(3)) return text;
-    switch (Below(5)) {
-    case 0:
-        return text + " ";
-    case 1:
-        return text + "'";
-    case 2:
-        for (char& c : text)
-            c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-        return text;
-    case 3:
-        return text.substr(0, text.find(' '));
-    default:
-        return AnyOf(others);
-    }
+    const std::string changed[] = {text + " ", text + "'", UpperCase(text),
+                                   text.substr(0, text.find(' ')), AnyOf(others)};
+    return AnyOf(changed);
 }
 
 /// A piece of a value, with wildcards at times. No backslash: engines disagree on it here.
 std::string TQueryGenerator::Pattern(const TDSField& field, bool anywhere) {
-    const std::vector<std::string> characters =
-        Characters(ReplaceStr(TextValue(Value(field)), "\\", "_"));
-    const size_t count = characters.size();
-    const size_t from = anywhere && count > 0 ? Below(static_cast<unsigned>(count)) : 0;
+    const std::string text = ReplaceStr(TextValue(Value(field)), "\\", "_");
+    std::vector<std::string> characters;
+    for (char c : text)
+        if (characters.empty() || (static_cast<unsigned char>(c) & 0xC0) != 0x80)
+            characters.emplace_back(1, c);
+        else
+            characters.back() += c;
+    const auto count = static_cast<unsigned>(characters.size());
+    const size_t from = anywhere && count > 0 ? Below(count) : 0;
     std::string pattern;
     for (size_t i = from; i < count && i < from + 1 + Below(5); ++i)
         pattern += OneIn(10) ? (OneIn(2) ? "_" : "%") : characters[i];

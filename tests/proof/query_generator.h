@@ -40,7 +40,7 @@ private:
     TDSField* AnyField() { return AnyOf(fields); }
     TCell CellOf(const TDSField& field, size_t rowNumber) const;
     std::string Value(const TDSField& field);
-    std::string TextValue(std::string text);
+    std::string TextValue(const std::string& text);
     std::string NumberValue(const TDSField& field, const std::string& number);
     std::string Pattern(const TDSField& field, bool anywhere);
     std::string List(const TDSField& field);

@@ -1,5 +1,5 @@
 // Every statement over the sample's structure runs: each field with each of its operators, each
-// pair of tables that has a path, in each syntax.
+// pair of tables that has a path, in each syntax. Both forms give the same rows, to the last one.
 
 #include <gtest/gtest.h>
 
@@ -30,25 +30,42 @@ std::string AnyValue(const TDSField& field, const TDSOperator& op) {
     }
 }
 
-/// The statement in both forms is one that the database takes; it need not fetch the rows.
-void ExpectPrepared(const TEngine& engine, TKQuery& query) {
-    query.BuildQuery();
-    if (!CanBeExecuted(query)) return;
-    for (const std::string& text :
-         {query.QResult().GetSQL().Text(), query.QResult().GetBoundSQL().text})
-        try {
-            engine.Prepare(text);
-        } catch (const std::exception& error) {
-            ADD_FAILURE() << error.what() << "\n" << text;
+/// A copy of the sample with three rows in each table, for the old join syntax makes products of
+/// whole chains of tables.
+class Sweep : public ::testing::Test {
+protected:
+    Sweep() {
+        TKCustomDBStructure& structure = TSample::Shared().Imported();
+        for (int i = 0; i < structure.GetTableCount(); ++i) {
+            const std::string table = QuotedString(structure.GetTable(i)->TableName(), '"');
+            engine->Execute("delete from " + table + " where rowid not in (select rowid from " +
+                            table + " limit 3)");
         }
-}
+    }
+
+    void ExpectRuns(TKQuery& query) {
+        query.BuildQuery();
+        if (!CanBeExecuted(query)) return;
+        ++executed;
+        try {
+            const TRows rows = engine->Text(query);
+            anyRows += !rows.empty();
+            EXPECT_EQ(SortedTexts(engine->Bound(query)), SortedTexts(rows))
+                << query.QResult().GetSQL().Text();
+        } catch (const std::exception& error) {
+            ADD_FAILURE() << error.what() << "\n" << query.QResult().GetSQL().Text();
+        }
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<TEngine> engine = OpenSQLiteCopy(folder);
+    int executed = 0, anyRows = 0;
+};
 
 } // namespace
 
-TEST(Sweep, EachFieldWithEachOfItsOperators) {
-    const auto engine = OpenSQLite(TSample::Shared().Address());
+TEST_F(Sweep, EachFieldWithEachOfItsOperators) {
     TKCustomDBStructure& structure = TSample::Shared().Imported();
-    int statements = 0;
     for (const auto& field : structure.Fields())
         for (TDSOperator* op : field->Operators())
             for (const TSQLSyntax syntax : syntaxes) {
@@ -56,28 +73,30 @@ TEST(Sweep, EachFieldWithEachOfItsOperators) {
                 query.SetSQLSyntax(syntax);
                 // alternately a column and all of them
                 TRFieldList& columns = query.QResult().ResultFields();
-                if (++statements % 2) columns.Insert(0, field->DisplayName() + " x", {field.get()});
+                if (executed % 2) columns.Insert(0, field->DisplayName() + " x", {field.get()});
                 TFilterCond* condition = query.Root().AddCond();
                 condition->SetField(field.get());
                 condition->SetOperator(op);
-                condition->SetValue(1, AnyValue(*field, *op));
-                condition->SetValue(2, AnyValue(*field, *op));
                 if (op->ValueType() == TOpValueType::vtSubQuery) {
-                    condition->SetValue(1, "");
                     const auto nested = query.NewNested();
                     nested->QResult().ResultFields().Insert(0, "x", {field.get()});
                     condition->SetSubQuery(nested->GetQueryString());
+                } else {
+                    condition->SetValue(1, AnyValue(*field, *op));
+                    condition->SetValue(2, AnyValue(*field, *op));
                 }
                 ASSERT_EQ(condition->Unfinished(), TUnfinished::No) << op->Name();
-                ExpectPrepared(*engine, query);
+                ExpectRuns(query);
             }
-    EXPECT_GT(statements, 3000);
+    EXPECT_GT(executed, 3000);
+    EXPECT_GT(anyRows, 1000);
 }
 
-TEST(Sweep, EachPairOfTablesWithAPath) {
-    const auto engine = OpenSQLite(TSample::Shared().Address());
-    int pairs = 0;
-    for (const auto& structure : TSample::Shared().Structures())
+TEST_F(Sweep, EachPairOfTablesWithAPath) {
+    for (const auto& structure : TSample::Shared().Structures()) {
+        std::map<const TDSTable*, TDSField*> firstFields;
+        for (const auto& field : structure->Fields())
+            firstFields.try_emplace(field->Table(), field.get());
         for (int i = 0; i < structure->GetTableCount(); ++i)
             for (int k = 0; k < structure->GetTableCount(); ++k) {
                 TKQuery query(structure.get());
@@ -85,22 +104,18 @@ TEST(Sweep, EachPairOfTablesWithAPath) {
                 query.SetSQLSyntax(syntaxes[(i + k) % 3]);
                 TRFieldList& columns = query.QResult().ResultFields();
                 for (const int table : {i, k})
-                    for (const auto& field : structure->Fields())
-                        if (field->Table() == structure->GetTable(table)) {
-                            columns.Insert(columns.GetCount(), "Column", {field.get()},
-                                           TSortingType::stDescending);
-                            break;
-                        }
+                    columns.Insert(columns.GetCount(), "Column",
+                                   {firstFields.at(structure->GetTable(table))},
+                                   TSortingType::stDescending);
                 try {
-                    query.BuildQuery();
+                    ExpectRuns(query);
                 } catch (const EKDBStructError& error) {
                     ASSERT_STREQ(error.what(), "Can not find path between tables");
-                    continue;
                 }
-                ++pairs;
-                ExpectPrepared(*engine, query);
             }
-    EXPECT_GT(pairs, 1000);
+    }
+    EXPECT_GT(executed, 1000);
+    EXPECT_GT(anyRows, 500);
 }
 
 } // namespace tern7::proof

@@ -1,5 +1,9 @@
 #include "engines.h"
 
+#include <thread>
+
+#include <QtSql/QSqlDatabase>
+
 #include <tern7/core/corekit/comma_text.h>
 #include <tern7/kbdeinfo.h>
 
@@ -343,10 +347,48 @@ TEST_P(TBDEInfo, ValueListsLeaveTheApplicationsTransactionAlone) {
     Run("INSERT INTO t VALUES (7)");
 }
 
+TEST_P(TBDEInfo, ValueListsCanBeReadInAnotherThread) {
+    Run("CREATE TABLE t (id int, name varchar(20));\n"
+        "INSERT INTO t VALUES (1, 'one'), (2, 'two');\n");
+    const qsizetype connections = QSqlDatabase::connectionNames().size();
+    TStrings values;
+    TStrings captions;
+    std::string error;
+    auto readThere = [&](const char* sql) {
+        const auto job = info.SQLValuesJob(sql);
+        ASSERT_TRUE(job);
+        std::thread([&] {
+            try {
+                job(values, captions);
+            } catch (const EKDBInfoError& e) {
+                error = e.what();
+            }
+        }).join();
+    };
+    readThere("SELECT id, name FROM t ORDER BY id");
+    EXPECT_EQ(values, (TStrings{"1", "2"})) << error;
+    EXPECT_EQ(captions, (TStrings{"one", "two"}));
+    readThere("SELECT id, nothing FROM t");
+    EXPECT_NE(error.find("nothing"), std::string::npos) << error;
+    EXPECT_EQ(QSqlDatabase::connectionNames().size(), connections);
+}
+
+TEST(BDEInfo, DatabaseInMemoryIsSeenByItsConnectionOnly) {
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "in memory");
+        database.setDatabaseName(":memory:");
+        TKBDEInfo info;
+        info.SetDatabaseName("in memory");
+        EXPECT_FALSE(info.SQLValuesJob("SELECT 1, 2"));
+    }
+    QSqlDatabase::removeDatabase("in memory");
+}
+
 TEST(BDEInfo, ConnectionName) {
     TKBDEInfo info;
-    info.LoadInfo({"DatabaseName=nobody", "Schema="});
-    EXPECT_EQ(info.DatabaseName(), "nobody");
+    info.LoadInfo({"DatabaseName=some", "Schema=s"});
+    info.LoadInfo({"DatabaseName=nobody"}); // without a schema, and so it was when it was saved
+    EXPECT_EQ(info.DatabaseName() + info.Schema(), "nobody");
     info.LoadInfo({"DatabaseName="});
     EXPECT_EQ(info.DatabaseName(), "nobody");
     TStrings lines;

@@ -1,7 +1,6 @@
 // tern parse: what the parser reads in a SELECT statement, as JSON.
 
 #include <cstdio>
-#include <utility>
 
 #include <tern7/core/parser/sql_parser.h>
 
@@ -12,50 +11,6 @@
 namespace tern7 {
 
 namespace {
-
-/// An object of JSON, a member at a time.
-class TJsonObject {
-public:
-    explicit TJsonObject(std::string& target) : out(target) { out += '{'; }
-    TJsonObject& Text(std::string_view key, std::string_view value) {
-        Key(key);
-        AppendJsonString(out, value);
-        return *this;
-    }
-    TJsonObject& Bool(std::string_view key, bool value) {
-        Key(key);
-        out += value ? "true" : "false";
-        return *this;
-    }
-    TJsonObject& Int(std::string_view key, int value) {
-        Key(key);
-        out += std::to_string(value);
-        return *this;
-    }
-    /// The value of the key is to be appended next.
-    void Key(std::string_view key) {
-        if (!first) out += ',';
-        first = false;
-        AppendJsonString(out, key);
-        out += ':';
-    }
-    void End() { out += '}'; }
-
-private:
-    std::string& out;
-    bool first = true;
-};
-
-template <class Items, class Append>
-void AppendArray(std::string& out, const Items& items, const Append& append) {
-    out += '[';
-    bool first = true;
-    for (const auto& item : items) {
-        if (!std::exchange(first, false)) out += ',';
-        append(*item);
-    }
-    out += ']';
-}
 
 void AppendNode(std::string& out, const TSQLConditionNode& node) {
     TJsonObject object(out);
@@ -73,8 +28,8 @@ void AppendNode(std::string& out, const TSQLConditionNode& node) {
             .Text("linkType", bracket.LinkType())
             .Bool("not", bracket.Not());
         object.Key("nodes");
-        AppendArray(out, bracket.Nodes(),
-                    [&](const TSQLConditionNode& inner) { AppendNode(out, inner); });
+        AppendJsonArray(out, bracket.Nodes(),
+                        [&](const TSQLConditionNode* inner) { AppendNode(out, *inner); });
     }
     object.End();
 }
@@ -84,7 +39,8 @@ std::string ResultAsJson(const TKParserResult& result) {
     TJsonObject object(out);
     object.Bool("distinct", result.Distinct).Bool("allFields", result.AllFields);
     object.Key("fields");
-    AppendArray(out, result.ResultFields, [&](const TSQLResultField& field) {
+    AppendJsonArray(out, result.ResultFields, [&](const auto& item) {
+        const TSQLResultField& field = *item;
         TJsonObject(out)
             .Text("alias", field.Alias)
             .Text("fieldName", field.FieldName())
@@ -94,8 +50,8 @@ std::string ResultAsJson(const TKParserResult& result) {
             .End();
     });
     object.Key("tables");
-    AppendArray(out, result.Tables, [&](const TSQLTable& table) {
-        TJsonObject(out).Text("name", table.TableName()).Text("alias", table.Alias).End();
+    AppendJsonArray(out, result.Tables, [&](const auto& table) {
+        TJsonObject(out).Text("name", table->TableName()).Text("alias", table->Alias).End();
     });
     object.Key("where");
     AppendNode(out, result.Where());

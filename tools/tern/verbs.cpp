@@ -7,6 +7,7 @@ namespace {
 constexpr TOption importOptions[] = {{"--schema"}, {"-o"}};
 constexpr TOption sqlOptions[] = {{"--syntax"}, {"--options"}, {"--main"}, {"--bound", false}};
 constexpr TOption runOptions[] = {{"--format"}, {"--limit"}, {"--param"}, {"--partial", false}};
+constexpr TOption loadOptions[] = {{"--complete", false}, {"--report"}};
 constexpr TOption describeOptions[] = {{"--titles"}};
 
 constexpr TVerb verbs[] = {
@@ -88,6 +89,24 @@ statement comes from the standard input.
 )",
         .run = RunParse,
         .leastArguments = 0,
+    },
+    {
+        .name = "load",
+        .usage = "STRUCTURE [SQLFILE] [--complete] [--report text|json]",
+        .help = R"(
+Reads a SELECT statement and prints it as a query, without captions. What was kept as text,
+and what was not read, is told on the standard error; exit status 1 when something was
+dropped. Without SQLFILE the statement comes from the standard input.
+
+  --complete                       tables, joins, aliases, grouping and options too
+  --report text                    everything that was read, one line each, with line and
+                                   column; json: the same as an array of objects
+)",
+        .run = RunLoad,
+        .leastArguments = 1,
+        .mostArguments = 2,
+        .options = loadOptions,
+        .takesFormats = true,
     },
     {
         .name = "structure",

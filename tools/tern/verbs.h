@@ -29,6 +29,7 @@ int RunImport(const TCommandLine& line);
 int RunSql(const TCommandLine& line);
 int RunRun(const TCommandLine& line);
 int RunParse(const TCommandLine& line);
+int RunLoad(const TCommandLine& line);
 int RunPath(const TCommandLine& line);
 int RunStructure(const TCommandLine& line);
 int RunQuery(const TCommandLine& line);

@@ -85,7 +85,8 @@ std::string LinkTarget(std::string name) {
         const ssize_t length = ::readlink(name.c_str(), target.data(), target.size());
         if (length <= 0 || static_cast<size_t>(length) == target.size()) break;
         target.resize(static_cast<size_t>(length));
-        name = target.front() == '/' ? target : FolderOf(name) + target;
+        if (target.front() != '/') target.insert(0, FolderOf(name));
+        name = std::move(target);
     }
     return {};
 }

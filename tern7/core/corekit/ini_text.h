@@ -108,8 +108,9 @@ public:
 
 private:
     std::vector<TKIniSection> sections;
-    // Made when a name is first asked for. Open hash of names: 0 is empty, else 1 + the number of a name. The positions of the sections
-    // of name n, ascending, are positions[starts[n]] up to positions[starts[n + 1]].
+    // Made when a name is first asked for. Open hash of names: 0 is empty, else 1 + the number of a
+    // name. The positions of the sections of name n, ascending, are positions[starts[n]] up to
+    // positions[starts[n + 1]].
     mutable std::vector<uint32_t> cells;
     mutable std::vector<uint32_t> starts;
     mutable std::vector<uint32_t> positions;
@@ -118,9 +119,11 @@ private:
     void Index() const;
 };
 
-/// True when the text can stand behind "=" as it is: no line break, no blank at either end, no NUL.
+/// True when the text can stand behind "=" as it is: no line break, no blank at either end, no NUL,
+/// and UTF-8, for a reader would take the whole text for another encoding.
 bool FitsOnLine(std::string_view text);
-/// "%", CR, LF and blanks at the ends as "%" and two hex digits.
+/// "%", CR, LF, NUL and blanks at the ends as "%" and two hex digits; in a text that is no UTF-8
+/// every byte above 127 too.
 std::string EncodePercent(std::string_view text);
 /// The reverse; a "%" without two hex digits behind it stays.
 std::string DecodePercent(std::string_view text);
@@ -129,6 +132,7 @@ std::string DecodePercent(std::string_view text);
 class TKIniWriter {
 public:
     void Section(std::string_view name);
+    /// A text that is no UTF-8 is taken for Windows-1252, as a reader would.
     void Line(std::string_view line);
     /// As it stands; the value must fit on a line (an assertion in debug builds).
     void Key(std::string_view key, std::string_view value);

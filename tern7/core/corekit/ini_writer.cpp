@@ -25,18 +25,21 @@ bool IsBracketLine(std::string_view line) {
 bool FitsOnLine(std::string_view text) {
     if (text.empty()) return true;
     return !IsSpace(text.front()) && !IsSpace(text.back()) &&
-           text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
+           text.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos &&
+           IsUTF8(text);
 }
 
 std::string EncodePercent(std::string_view text) {
     const size_t first = text.size() - TrimLeft(text).size();
     const size_t behind = TrimRight(text).size();
+    const unsigned char limit = IsUTF8(text) ? 0xFF : 0x7F;
     std::string result;
     result.reserve(text.size() + text.size() / 8);
     for (size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        if (c == '%' || c == '\r' || c == '\n' || c == '\0' || i < first || i >= behind) {
-            const auto code = static_cast<unsigned char>(c);
+        const auto code = static_cast<unsigned char>(c);
+        if (c == '%' || c == '\r' || c == '\n' || c == '\0' || i < first || i >= behind ||
+            code > limit) {
             result += {'%', HexDigits[code >> 4], HexDigits[code & 15]};
         } else {
             result += c;
@@ -71,7 +74,7 @@ void TKIniWriter::Section(std::string_view name) {
 }
 
 void TKIniWriter::Line(std::string_view line) {
-    text.append(line).append("\n");
+    text.append(IsUTF8(line) ? line : DecodeTextFile(std::string(line)).text).append("\n");
 }
 
 void TKIniWriter::Key(std::string_view key, std::string_view value) {

@@ -32,6 +32,9 @@ public:
         if (!starts.empty()) text += '\n';
         starts.push_back(text.size());
     }
+    /// Notes that a line begins so many characters behind the end: they are appended next, as the
+    /// end of the last line, the LF behind it the last of them.
+    void LineBeginsBehind(size_t characters) { starts.push_back(text.size() + characters); }
     void AddLine(std::string_view line) {
         NewLine();
         text += line;

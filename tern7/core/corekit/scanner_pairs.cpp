@@ -20,7 +20,7 @@ public:
             if (code != 0)
                 known[code] |= role;
             else
-                unknown.push_back({word, role});
+                unknown.emplace_back(word, role);
             list = GetAfterSep(list, ",");
         }
     }

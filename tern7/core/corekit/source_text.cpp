@@ -21,19 +21,21 @@ bool TKSourceText::Owns(std::string_view piece) const {
 }
 
 TKTextPosition TKSourceText::PositionOf(size_t offset) const {
-    const std::string_view before = Text().substr(0, offset);
-    TKTextPosition position;
-    size_t lineStart = 0;
-    for (size_t i = 0; i < before.size(); ++i) {
-        const bool ends =
-            before[i] == '\n' || (before[i] == '\r' && text.compare(i, 2, "\r\n") != 0);
-        if (!ends) continue;
-        ++position.line;
-        lineStart = i + 1;
+    return TKPositionWalk(*this).At(offset);
+}
+
+TKTextPosition TKPositionWalk::At(size_t offset) {
+    const auto continuesCharacter = [](char c) {
+        return (static_cast<unsigned char>(c) & 0xC0u) == 0x80;
+    };
+    for (; at < std::min(offset, text.size()); ++at) {
+        if (text[at] == '\n' || (text[at] == '\r' && text.compare(at, 2, "\r\n") != 0)) {
+            ++position.line;
+            position.column = 1;
+        } else if (!continuesCharacter(text[at])) {
+            ++position.column;
+        }
     }
-    const auto isCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0u) != 0x80; };
-    position.column += static_cast<int>(std::count_if(
-        before.begin() + static_cast<std::ptrdiff_t>(lineStart), before.end(), isCharacter));
     return position;
 }
 

@@ -10,17 +10,19 @@ namespace tern7 {
 namespace {
 
 constexpr std::array<std::string_view, FieldTypeCount> typeNames = {
-    "ftUnknown",   "ftString",     "ftSmallint",   "ftInteger",  "ftWord",      "ftBoolean",
-    "ftFloat",     "ftCurrency",   "ftBCD",        "ftDate",     "ftTime",      "ftDateTime",
-    "ftBytes",     "ftVarBytes",   "ftAutoInc",    "ftBlob",     "ftMemo",      "ftGraphic",
-    "ftFmtMemo",   "ftParadoxOle", "ftDBaseOle",   "ftTypedBinary", "ftCursor", "ftFixedChar",
-    "ftWideString", "ftLargeint",  "ftADT",        "ftArray",    "ftReference", "ftDataSet",
-    "ftOraBlob",   "ftOraClob",    "ftVariant",    "ftInterface", "ftIDispatch", "ftGuid",
-    "ftTimeStamp", "ftFMTBcd"};
+    "ftUnknown",    "ftString",     "ftSmallint", "ftInteger",     "ftWord",      "ftBoolean",
+    "ftFloat",      "ftCurrency",   "ftBCD",      "ftDate",        "ftTime",      "ftDateTime",
+    "ftBytes",      "ftVarBytes",   "ftAutoInc",  "ftBlob",        "ftMemo",      "ftGraphic",
+    "ftFmtMemo",    "ftParadoxOle", "ftDBaseOle", "ftTypedBinary", "ftCursor",    "ftFixedChar",
+    "ftWideString", "ftLargeint",   "ftADT",      "ftArray",       "ftReference", "ftDataSet",
+    "ftOraBlob",    "ftOraClob",    "ftVariant",  "ftInterface",   "ftIDispatch", "ftGuid",
+    "ftTimeStamp",  "ftFMTBcd"};
 
 } // namespace
 
-std::string_view FldTypeToStr(TFieldType type) { return typeNames[static_cast<size_t>(type)]; }
+std::string_view FldTypeToStr(TFieldType type) {
+    return typeNames[static_cast<size_t>(type)];
+}
 
 std::optional<TFieldType> StrToFldType(std::string_view name) {
     for (size_t i = 0; i < typeNames.size(); ++i)
@@ -49,13 +51,6 @@ std::string FieldTypesToStr(TFieldTypes types) {
         if (types.Contains(static_cast<TFieldType>(i)))
             names.emplace_back(FldTypeToStr(static_cast<TFieldType>(i)));
     return ComposeCommaText(names);
-}
-
-TFieldTypes StrToFieldTypes(std::string_view commaText) {
-    TFieldTypes types;
-    for (const std::string& name : ParseCommaText(commaText))
-        if (auto type = StrToFldType(name)) types.Include(*type);
-    return types;
 }
 
 } // namespace tern7

@@ -13,11 +13,44 @@ enum class TKFieldKind : uint8_t { kfkData = 0, kfkVirtual = 1 };
 
 /// Database field types; the ordinals stand in structure files.
 enum class TFieldType : uint8_t {
-    ftUnknown, ftString, ftSmallint, ftInteger, ftWord, ftBoolean, ftFloat, ftCurrency, ftBCD,
-    ftDate, ftTime, ftDateTime, ftBytes, ftVarBytes, ftAutoInc, ftBlob, ftMemo, ftGraphic, ftFmtMemo,
-    ftParadoxOle, ftDBaseOle, ftTypedBinary, ftCursor, ftFixedChar, ftWideString, ftLargeint, ftADT,
-    ftArray, ftReference, ftDataSet, ftOraBlob, ftOraClob, ftVariant, ftInterface, ftIDispatch, ftGuid,
-    ftTimeStamp, ftFMTBcd
+    ftUnknown,
+    ftString,
+    ftSmallint,
+    ftInteger,
+    ftWord,
+    ftBoolean,
+    ftFloat,
+    ftCurrency,
+    ftBCD,
+    ftDate,
+    ftTime,
+    ftDateTime,
+    ftBytes,
+    ftVarBytes,
+    ftAutoInc,
+    ftBlob,
+    ftMemo,
+    ftGraphic,
+    ftFmtMemo,
+    ftParadoxOle,
+    ftDBaseOle,
+    ftTypedBinary,
+    ftCursor,
+    ftFixedChar,
+    ftWideString,
+    ftLargeint,
+    ftADT,
+    ftArray,
+    ftReference,
+    ftDataSet,
+    ftOraBlob,
+    ftOraClob,
+    ftVariant,
+    ftInterface,
+    ftIDispatch,
+    ftGuid,
+    ftTimeStamp,
+    ftFMTBcd
 };
 inline constexpr int FieldTypeCount = 38;
 
@@ -26,7 +59,8 @@ class TFieldTypes {
 public:
     constexpr TFieldTypes() = default;
     constexpr TFieldTypes(std::initializer_list<TFieldType> types) {
-        for (TFieldType type : types) Include(type);
+        for (TFieldType type : types)
+            Include(type);
     }
     constexpr bool Contains(TFieldType type) const { return (bits >> static_cast<int>(type)) & 1u; }
     constexpr void Include(TFieldType type) { bits |= uint64_t{1} << static_cast<int>(type); }
@@ -60,9 +94,7 @@ constexpr bool IsDateOrTime(TFieldType type) {
            type == TFieldType::ftDateTime || type == TFieldType::ftTimeStamp;
 }
 
-/// The comma list of type names of a set, in the order of their ordinals, and back; unknown names
-/// are left out.
+/// The comma list of type names of a set, in the order of their ordinals.
 std::string FieldTypesToStr(TFieldTypes types);
-TFieldTypes StrToFieldTypes(std::string_view commaText);
 
 } // namespace tern7

@@ -86,6 +86,8 @@ inline constexpr std::string_view PlaceholderInLiteral =
 inline constexpr std::string_view NestedTooDeep = "Rows are nested too deep";
 inline constexpr std::string_view ChangeWhileBuilding =
     "Rows can not be changed while the query is built";
+inline constexpr std::string_view StructureChangedWhileBuilding =
+    "The structure can not be changed while the query is built";
 inline constexpr std::string_view NulInValue = "A value holds a NUL character";
 inline constexpr std::string_view NoQueryBase = "Query base is not specified";
 

@@ -8,6 +8,8 @@ const TDBFieldInfo* TDBFieldList::FindByName(std::string_view name) const {
     return nullptr;
 }
 
+std::function<void(TStrings&, TStrings&)> TKDBInfo::SQLValuesJob(const std::string&) { return {}; }
+
 void TKDBInfo::GetForeignKeys(std::vector<TDBForeignKey>& list) { list.clear(); }
 
 bool TKDBInfo::NeedsQuotes(const std::string& name) {

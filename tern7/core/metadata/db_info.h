@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include <tern7/core/corekit/life.h>
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/global/errors.h>
 #include <tern7/core/global/field_types.h>
@@ -59,6 +61,10 @@ public:
     /// Runs the statement: the first column of each row goes to `values`, the second to `captions`;
     /// both are cleared first. EKDBInfoError "Field count must be >= 2".
     virtual void GetSQLValues(const std::string& sql, TStrings& values, TStrings& captions) = 0;
+    /// What GetSQLValues does, as a call that may be made in another thread while this object is
+    /// used, or gone. Empty when the database can be asked in this thread only, as by default.
+    virtual std::function<void(TStrings& values, TStrings& captions)> SQLValuesJob(
+        const std::string& sql);
     /// Lines for the structure file, and back.
     virtual void LoadInfo(const TStrings& lines) = 0;
     virtual void SaveInfo(TStrings& lines) = 0;
@@ -80,6 +86,9 @@ public:
     void Update() { ConnectionChanged(); }
     void ConnectionChanged();
 
+    /// Structures that refer to this object watch it.
+    const TKLife& Life() const { return life; }
+
 protected:
     /// Part of ConnectionChanged: whatever else was read from the database is forgotten here.
     virtual void ForgetCatalog() {}
@@ -88,6 +97,7 @@ private:
     TDBFieldList fields;
     std::string fieldsTable;
     bool fieldsKnown = false;
+    TKLife life;
 };
 
 } // namespace tern7

@@ -13,7 +13,7 @@ size_t TSQLConditionNodeList::Checked(int index) const {
 void TSQLConditionNodeList::Grow() {
     const uint32_t room = std::max(capacity * 2, 2u);
     auto** const moved = static_cast<TSQLConditionNode**>(
-        memory->allocate(room * sizeof *items, alignof(TSQLConditionNode*)));
+        memory->allocate(room * sizeof(TSQLConditionNode*), alignof(TSQLConditionNode*)));
     std::copy(begin(), end(), moved);
     items = moved;
     capacity = room;

@@ -93,6 +93,7 @@ public:
 
     /// The statement that views point into.
     void SetSource(std::shared_ptr<const TKSourceText> text) { source = std::move(text); }
+    const std::shared_ptr<const TKSourceText>& Source() const { return source; }
 
 private:
     std::pmr::monotonic_buffer_resource memory;

@@ -129,12 +129,14 @@ std::string_view TKSQLParser::ProcessConditionValue(bool& isSubQuery) {
 }
 
 std::string_view TKSQLParser::ReadOperand(bool isLeft, bool& isSubQuery) {
-    const auto isEnd = [this, isLeft] {
+    const size_t start = scanner.GetBookmark();
+    bool isColumn = true; // the present token stands where a column may bear any name
+    const auto isEnd = [&] {
         const uint8_t word = scanner.GetTokCode();
         return (word >= wAnd && word <= wBetween) || (isLeft && word == wNot) ||
+               (!isLeft && !isColumn && word >= wHaving && word <= wFetch) ||
                scanner.GetTokType() == TKTokenType::Keyword;
     };
-    const size_t start = scanner.GetBookmark();
     int depth = 0;
     for (; Is(wOpen); Step())
         ++depth;
@@ -148,6 +150,7 @@ std::string_view TKSQLParser::ReadOperand(bool isLeft, bool& isSubQuery) {
         } else if (depth == 0 && isEnd()) {
             break;
         }
+        isColumn = Is(wPoint);
     }
     return scanner.ExtractPiece(start, scanner.GetBookmark(), false);
 }

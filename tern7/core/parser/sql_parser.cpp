@@ -16,9 +16,11 @@ constexpr size_t MaxSubQueryDepth = 200;
 constexpr std::string_view ReservedWords[] = {"select", "from",  "join", "where",
                                               "order",  "group", "by"};
 constexpr std::string_view OtherWords[] = {
-    "distinct", "as",      "inner", "left", "right", "full", "outer", "on", "not",  "and",
-    "or",       "=",       "<>",    "!=",   ">",     "<",    ">=",    "<=", "like", "in",
-    "is",       "between", "desc",  "asc",  "(",     ")",    ",",     ".",  "*",    "\""};
+    "distinct", "as",        "inner", "left",   "right", "full",    "outer",  "on",
+    "not",      "and",       "or",    "=",      "<>",    "!=",      ">",      "<",
+    ">=",       "<=",        "like",  "in",     "is",    "between", "having", "union",
+    "except",   "intersect", "limit", "offset", "fetch", "desc",    "asc",    "(",
+    ")",        ",",         ".",     "*",      "\""};
 
 std::shared_ptr<const TKVocabulary> Words() {
     static const std::shared_ptr<const TKVocabulary> words = [] {
@@ -305,8 +307,11 @@ void TKSQLParser::SkipTokens(uint8_t word) {
 }
 
 void TKSQLParser::Error(std::string_view message) const {
-    throw ESQLParserError(std::string(message) +
-                          "\r\nLine:" + std::to_string(scanner.GetTokLine()));
+    RaiseSQLError(message, scanner.GetTokLine());
+}
+
+void RaiseSQLError(std::string_view message, int line) {
+    throw ESQLParserError(std::string(message) + "\r\nLine:" + std::to_string(line));
 }
 
 } // namespace tern7

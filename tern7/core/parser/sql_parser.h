@@ -11,6 +11,9 @@
 
 namespace tern7 {
 
+/// ESQLParserError with the message and the line.
+[[noreturn]] void RaiseSQLError(std::string_view message, int line);
+
 /// Reads one SELECT statement into a TKParserResult. It does not check SQL in general: it takes
 /// what a query panel needs and leaves out the rest.
 ///
@@ -79,8 +82,8 @@ protected:
     void ProcessBoolTerm(TSQLBracket& parent);
     void ProcessBoolFactor(TSQLBracket& parent);
     void ProcessCondition(TSQLBracket& parent, bool negated);
-    /// The right-hand text up to a reserved word, an operator, "and" or "or" outside of brackets;
-    /// sets the flag when it is a sub-select.
+    /// The right-hand text up to a reserved word, an operator, "and", "or" or the word of a clause
+    /// that is not read, outside of brackets; sets the flag when it is a sub-select.
     std::string_view ProcessConditionValue(bool& isSubQuery);
     /// The left-hand text: it ends at "not" too.
     std::string_view ProcessConditionField();
@@ -119,6 +122,13 @@ protected:
         wIn,
         wIs,
         wBetween,
+        wHaving,
+        wUnion,
+        wExcept,
+        wIntersect,
+        wLimit,
+        wOffset,
+        wFetch,
         wDesc,
         wAsc,
         wOpen,

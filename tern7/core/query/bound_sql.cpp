@@ -69,8 +69,10 @@ TBoundValue BoundDate(const TKDateTime& value) {
 TBoundValue BoundQuoted(TFieldType type, std::string text) {
     if (type == TFieldType::ftBoolean && (text == "1" || text == "0"))
         return {TKind::Boolean, std::move(text)};
-    if (IsDateOrTime(type))
-        if (const auto date = ParseIsoDateTime(text)) return BoundDate(*date);
+    const auto date = IsDateOrTime(type) ? ParseIsoDateTime(text) : std::nullopt;
+    // a time in a date field, or the reverse, is no value of the type: the text stays
+    if (date && (type == TFieldType::ftTime ? date->hasTime : date->hasDate))
+        return BoundDate(*date);
     return {TKind::Text, std::move(text)};
 }
 

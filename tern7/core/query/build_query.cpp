@@ -4,6 +4,7 @@
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/condition_text.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/read_sql/sql_pieces.h>
 #include <tern7/core/structure/structure.h>
 
 namespace tern7 {
@@ -15,9 +16,11 @@ public:
     /// Without `boundValues` the text form.
     TQueryBuild(TKQuery& owner, TBoundValues* boundValues)
         : query(owner), result(owner.QResult()), structure(owner.RequireStruct()),
+          revision(structure.Revision()),
           bracketConditions(result.SQLOptions().Contains(TSQLOption::soBracketConditions)),
-          values(boundValues), writer(*result.writer),
-          conditions(std::move(result.spareConditions)) {
+          values(boundValues), isPlain(!boundValues && !owner.OnBuildSQL), writer(*result.writer),
+          tables(std::move(result.spareTables)), conditions(std::move(result.spareConditions)) {
+        tables.Clear();
         conditions.Clear();
         writer.Begin();
         conditions.Reserve(result.conditions);
@@ -31,7 +34,7 @@ public:
     }
 
     void Store() {
-        result.resultTables = std::move(tables);
+        result.spareTables = std::exchange(result.resultTables, std::move(tables));
         result.spareConditions = std::exchange(result.conditions, std::move(conditions));
         result.orderByText = std::move(orderBy);
         result.groupByText = std::move(groupBy);
@@ -40,6 +43,7 @@ public:
     /// The condition lines alone, over the tables that the query was built with.
     TKLineBuffer Conditions() {
         tables = result.resultTables;
+        if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table->TableName());
         Bracket(query.Root());
         return std::move(conditions);
     }
@@ -52,15 +56,17 @@ private:
         TDSTable* table = structure.TableByName(true, name);
         if (!table) table = structure.TableByName(false, name);
         if (!table) throw EKDBStructError(FormatMessage(messages::NoSuchTable, {name}));
+        Begin(table);
+    }
+
+    void Begin(TDSTable* table) {
         tables.Join(table, nullptr);
+        writer.SetMainTable(table->TableName());
     }
 
     void AddTable(TDSTable* table) {
         if (tables.Contains(table)) return;
-        if (tables.IsEmpty()) {
-            tables.Join(table, nullptr);
-            return;
-        }
+        if (tables.IsEmpty()) return Begin(table);
         // The tables of the list lie on shortest paths from the base, so the missing ones are the
         // last ones of this path.
         const std::vector<TDSTable*>& path = structure.GetPath(*tables[0].Table, *table).Tables();
@@ -72,11 +78,10 @@ private:
     }
 
     void AddTablesOf(const TDSField& field) {
-        const TDSTable* own = field.Table();
-        if (own && own == lastTable) return;
+        if (field.IsPlaceholder()) return;
         for (TDSTable* table : field.GetTables())
             AddTable(table);
-        lastTable = own;
+        lastTable = field.Table();
     }
 
     void AddResultFields() {
@@ -138,22 +143,24 @@ private:
     /// True when the bracket wrote something. What was written ahead for rows that then write
     /// nothing is taken back, so one walk is enough.
     bool Bracket(const TFilterBracket& bracket) {
+        const std::string_view joint = JoinsByAnd(bracket.LinkType()) ? " AND\n(" : " OR\n(";
         bool any = false;
         for (const auto& row : bracket.Rows()) {
             if (!row->GetEnabled()) continue;
-            const TFilterCond* condition = row->AsCond();
-            if (condition && !IsFinished(*condition)) continue;
-
-            const TKLineBuffer::TMark mark = conditions.Mark();
-            if (any)
-                conditions.Last() += JoinsByAnd(bracket.LinkType()) ? " AND" : " OR";
-            else
-                conditions.AddLine(IsNegated(bracket.LinkType()) ? " NOT (" : " (");
-            if (condition) {
-                Condition(*condition);
-            } else if (!Bracket(*row->AsBracket())) {
-                conditions.Rollback(mark);
-                continue;
+            if (const TFilterCond* condition = row->AsCond()) {
+                if (!IsFinished(*condition)) continue;
+                if (!any) Open(bracket);
+                Condition(*condition, any ? joint : "\n(");
+            } else {
+                const TKLineBuffer::TMark mark = conditions.Mark();
+                if (any)
+                    conditions.Last() += joint.substr(0, joint.size() - 2);
+                else
+                    Open(bracket);
+                if (!Bracket(*row->AsBracket())) {
+                    conditions.Rollback(mark);
+                    continue;
+                }
             }
             any = true;
         }
@@ -161,38 +168,51 @@ private:
         return any;
     }
 
-    void Condition(const TFilterCond& condition) {
-        if (condition.Field() && !condition.Field()->IsPlaceholder())
-            AddTablesOf(*condition.Field());
-        if (lastMainTable == nullptr && !tables.IsEmpty()) {
-            lastMainTable = tables[0].Table;
-            writer.SetMainTable(lastMainTable->TableName());
-        }
-        conditions.NewLine();
+    void Open(const TFilterBracket& bracket) {
+        conditions.AddLine(IsNegated(bracket.LinkType()) ? " NOT (" : " (");
+    }
+
+    /// `before` ends the line before and opens the condition's bracket, which not all have.
+    void Condition(const TFilterCond& condition, std::string_view before) {
+        const TDSField* field = condition.Field();
+        if (field && !(lastTable && field->Table() == lastTable)) AddTablesOf(*field);
+        if (!condition.IsRecognized())
+            for (TDSTable* table : TablesOfText(structure, condition.SQLText()))
+                AddTable(table);
+        if (!bracketConditions) before.remove_suffix(1);
+        conditions.LineBeginsBehind(before.size() - (bracketConditions ? 1 : 0));
         std::string& out = conditions.Last();
-        if (bracketConditions) out += '(';
-        if (values) {
+        if (isPlain) {
+            writer.Append(condition, out, before);
+        } else if (values) {
+            out += before;
             AppendBoundCondition(writer, query, condition, *values, out);
-        } else if (query.OnBuildSQL) {
+        } else {
             std::string text;
             writer.Append(condition, text);
             query.OnBuildSQL(const_cast<TFilterCond&>(condition), text);
-            out += text;
-        } else {
-            writer.Append(condition, out);
+            out.append(before).append(text);
         }
         if (bracketConditions) out += ')';
+        if (!isPlain) RequireSameStructure();
+    }
+
+    /// The tables found so far, and templates, are those of the structure as it was.
+    void RequireSameStructure() const {
+        if (query.DbStruct() != &structure || structure.Revision() != revision)
+            throw EKQueryPanelError(std::string(messages::StructureChangedWhileBuilding));
     }
 
     TKQuery& query;
     TQueryResult& result;
     TKCustomDBStructure& structure;
+    uint64_t revision; // of the structure
     bool bracketConditions;
     TBoundValues* values;
+    bool isPlain; // text form that no one changes
     TConditionWriter& writer;
     TRTableList tables;
-    const TDSTable* lastTable = nullptr;     // is in the list
-    const TDSTable* lastMainTable = nullptr; // is known to the writer
+    const TDSTable* lastTable = nullptr; // is in the list
     TKLineBuffer conditions;
     std::string orderBy;
     std::string groupBy;

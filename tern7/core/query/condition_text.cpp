@@ -21,6 +21,10 @@ bool HoldsAt(std::string_view text) {
     return text.find('@') != std::string_view::npos;
 }
 
+char* Put(char* to, std::string_view text) {
+    return to + text.copy(to, text.size());
+}
+
 void RemoveQuotes(std::string& text, size_t from) {
     size_t to = text.find('\'', from);
     if (to == std::string::npos) return;
@@ -109,16 +113,19 @@ void CheckBareValue(const TFilterCond& condition, int n) {
 void TConditionWriter::SetMainTable(const std::string& name) {
     if (name == mainTable) return;
     mainTable = name;
-    forms.clear();
-    buckets.clear();
+    DropForms();
 }
 
 void TConditionWriter::Begin() {
     const uint64_t present = query.RequireStruct().Revision();
     if (present == revision) return;
     revision = present;
+    DropForms();
+}
+
+void TConditionWriter::DropForms() {
     forms.clear();
-    buckets.clear();
+    cells.assign(Cells + CellsTried, 0);
 }
 
 TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
@@ -163,55 +170,91 @@ TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
                 form.simple = false;
                 return form;
             }
-            form.values[place++] = item.kind == TPiece::Value1 ? 1 : 2;
+            form.valueAt[place++] = item.kind == TPiece::Value1 ? 0 : 1;
+            form.places = static_cast<uint8_t>(place);
             continue;
         }
         form.simple = form.simple && !HoldsAt(piece);
         form.texts[place] += piece;
     }
-    if (!form.keepsQuotes)
-        for (std::string& text : form.texts)
-            RemoveQuotes(text, 0);
-    return form;
-}
-
-const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condition) {
-    if (buckets.empty()) buckets.resize(1024);
-    const uint64_t field = reinterpret_cast<uintptr_t>(condition.Field());
-    const uint64_t op = reinterpret_cast<uintptr_t>(condition.Operator());
-    uint16_t& slot = buckets[((field * 31 + op) * 0x9E3779B97F4A7C15u) >> 54];
-    if (slot == 0) {
-        forms.push_back(MakeForm(*condition.Field(), *condition.Operator()));
-        slot = static_cast<uint16_t>(forms.size());
+    for (std::string& text : form.texts) {
+        if (!form.keepsQuotes) RemoveQuotes(text, 0);
+        form.length += text.size();
     }
-    TForm& form = forms[slot - 1u];
-    if (form.field != condition.Field() || form.op != condition.Operator())
-        form = MakeForm(*condition.Field(), *condition.Operator());
     return form;
 }
 
-bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condition,
-                                    std::string& out) const {
-    if (!form.simple || (form.valueCount > 0 && condition.Param(1)) ||
-        (form.valueCount > 1 && condition.Param(2)))
-        return false;
+inline const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condition) {
+    if (condition.formHint < forms.size()) {
+        const TForm& form = forms[condition.formHint];
+        if (form.field == condition.field && form.op == condition.op) return form;
+    }
+    return FindForm(condition);
+}
+
+const TConditionWriter::TForm& TConditionWriter::FindForm(const TFilterCond& condition) {
+    const uint64_t key = reinterpret_cast<uintptr_t>(condition.field) * 31 +
+                         reinterpret_cast<uintptr_t>(condition.op);
+    const size_t first = (key * 0x9E3779B97F4A7C15u) >> (64 - CellBits);
+    size_t cell = first;
+    const auto isOther = [&](const TForm& form) {
+        return form.field != condition.field || form.op != condition.op;
+    };
+    while (cell < first + CellsTried && cells[cell] != 0 && isOther(forms[cells[cell] - 1u]))
+        ++cell;
+    if (cell == first + CellsTried) cell = first;
+    if (cells[cell] == 0 || isOther(forms[cells[cell] - 1u]))
+        PutForm(cell, MakeForm(*condition.field, *condition.op));
+    condition.formHint = static_cast<uint16_t>(cells[cell] - 1);
+    return forms[condition.formHint];
+}
+
+void TConditionWriter::PutForm(size_t cell, TForm form) {
+    if (cells[cell] == 0) {
+        forms.push_back(std::move(form));
+        cells[cell] = static_cast<uint16_t>(forms.size());
+    } else {
+        forms[cells[cell] - 1u] = std::move(form);
+    }
+}
+
+inline bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condition,
+                                           std::string_view before, std::string& out) {
+    if (!form.simple) return false;
+    size_t length = before.size() + form.length;
+    bool plain = true;
+    for (size_t place = 0; place < form.places; ++place) {
+        const TFilterCond::TValue& value = condition.values[form.valueAt[place]];
+        if (value.param) return false;
+        plain = plain && value.text.IsPlain();
+        length += value.text.Get().size();
+    }
+    if (!plain) return AppendDoubled(form, condition, before, out);
+    // room is asked for once: the pieces are short
     const size_t start = out.size();
-    out += form.texts[0];
-    for (size_t place = 0; place < 2 && form.values[place]; ++place) {
-        const std::string& value = condition.Value(form.values[place]);
-        const size_t quote = value.find('\'');
-        // a second value is looked for in the first one, too; and quotes may have to go again
-        if ((form.valueCount > 1 && HoldsAt(value)) ||
-            (quote != std::string::npos && !form.keepsQuotes)) {
-            out.resize(start);
-            return false;
-        }
-        if (quote == std::string::npos)
-            out += value;
-        else
-            out += ReplaceStr(value, "'", "''");
-        if (!form.texts[place + 1].empty()) out += form.texts[place + 1];
+    out.resize(start + length);
+    char* to = Put(Put(out.data() + start, before), form.texts[0]);
+    for (size_t place = 0; place < form.places; ++place) {
+        to = Put(to, condition.values[form.valueAt[place]].text.Get());
+        if (!form.texts[place + 1].empty()) to = Put(to, form.texts[place + 1]);
     }
+    return true;
+}
+
+/// The same for values with quotes, which are doubled. Another way when these would have to go
+/// again, or the first of two values holds what may be the placeholder of the second.
+bool TConditionWriter::AppendDoubled(const TForm& form, const TFilterCond& condition,
+                                     std::string_view before, std::string& out) {
+    for (size_t place = 0; place < form.places; ++place) {
+        const std::string& value = condition.values[form.valueAt[place]].text.Get();
+        if ((!form.keepsQuotes && value.find('\'') != std::string::npos) ||
+            (form.valueCount > 1 && HoldsAt(value)))
+            return false;
+    }
+    out.append(before).append(form.texts[0]);
+    for (size_t place = 0; place < form.places; ++place)
+        out.append(ReplaceStr(condition.values[form.valueAt[place]].text.Get(), "'", "''"))
+            .append(form.texts[place + 1]);
     return true;
 }
 
@@ -231,16 +274,18 @@ std::string TConditionWriter::SequentialText(const TFilterCond& condition) const
     return text;
 }
 
-void TConditionWriter::Append(const TFilterCond& condition, std::string& out) {
+void TConditionWriter::Append(const TFilterCond& condition, std::string& out,
+                              std::string_view before) {
     if (!condition.IsRecognized()) {
-        out += condition.SQLText();
+        out.append(before).append(condition.SQLText());
         return;
     }
     const TForm& form = FormOf(condition);
     if (query.CheckValues)
         for (int n = 1; n <= form.valueCount; ++n)
             if (form.bare[n - 1]) CheckBareValue(condition, n);
-    if (!AppendSimple(form, condition, out)) out += SequentialText(condition);
+    if (!AppendSimple(form, condition, before, out))
+        out.append(before).append(SequentialText(condition));
 }
 
 std::string NestedStatement(const TFilterCond& condition) {

@@ -24,32 +24,43 @@ public:
     const std::string& MainTable() const { return mainTable; }
     void SetMainTable(const std::string& name);
 
-    /// Appends the text of a condition that is finished. EKWrongValueError for a value that may not
-    /// stand without quotes.
-    void Append(const TFilterCond& condition, std::string& out);
+    /// Appends the text of a condition that is finished, and `before` ahead of it.
+    /// EKWrongValueError for a value that may not stand without quotes.
+    void Append(const TFilterCond& condition, std::string& out, std::string_view before = {});
 
 private:
     /// A template without its values: texts[0] value texts[1] value texts[2].
     struct TForm {
         const TDSField* field = nullptr;
         const TDSOperator* op = nullptr;
+        size_t length = 0;   ///< of the texts together
         bool simple = false; ///< one pass gives what the replacements one after the other give
         bool keepsQuotes = false;
         int valueCount = 0;
         bool bare[2] = {};
-        int values[2] = {}; ///< which value stands at the first and at the second place
+        uint8_t places = 0;
+        uint8_t valueAt[2] = {}; ///< which value stands at the first and at the second place, from 0
         std::string texts[3];
     };
+    void DropForms();
     const TForm& FormOf(const TFilterCond& condition);
+    const TForm& FindForm(const TFilterCond& condition);
+    void PutForm(size_t cell, TForm form);
     TForm MakeForm(const TDSField& field, const TDSOperator& op) const;
-    bool AppendSimple(const TForm& form, const TFilterCond& condition, std::string& out) const;
+    static bool AppendSimple(const TForm& form, const TFilterCond& condition,
+                             std::string_view before, std::string& out);
+    static bool AppendDoubled(const TForm& form, const TFilterCond& condition,
+                              std::string_view before, std::string& out);
     std::string SequentialText(const TFilterCond& condition) const;
 
     const TKQuery& query;
     std::string mainTable;
     uint64_t revision = 0; // of the structure that the forms are made from
     std::vector<TForm> forms;
-    std::vector<uint16_t> buckets; // by field and operator: position in `forms` plus one
+    // The forms by field and operator: position in `forms` plus one, in one of the cells from the
+    // hash on. When they are all taken the first one is given away, so the memory has a limit.
+    static constexpr size_t CellBits = 10, Cells = size_t{1} << CellBits, CellsTried = 4;
+    std::vector<uint16_t> cells;
 };
 
 /// Where bound values go: placeholders in the present style, values in text order.

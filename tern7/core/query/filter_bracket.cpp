@@ -4,14 +4,9 @@
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/filter_row.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_record.h>
 
 namespace tern7 {
-
-namespace {
-
-constexpr int maxLevel = 1000;
-
-} // namespace
 
 TFilterBracket::TFilterBracket(TKQuery& owner) : TFilterRow(owner, TFilterRowType::frtBracket) {}
 
@@ -21,6 +16,7 @@ TFilterBracket::~TFilterBracket() {
 
 void TFilterBracket::SetLinkType(TFilterLinkType value) {
     if (value == linkType) return;
+    WillChange();
     linkType = value;
     if (query) query->BracketChanged(*this);
 }
@@ -79,6 +75,14 @@ int TFilterBracket::Depth() const {
     return depth;
 }
 
+bool TFilterBracket::CanHold(const TFilterRow& row) const {
+    const TFilterBracket* bracket = row.AsBracket();
+    if (!bracket) return true;
+    for (const TFilterBracket* around = this; around; around = around->Parent())
+        if (around == bracket) return false;
+    return Level() + 1 + bracket->Depth() <= MaxLevel;
+}
+
 TFilterBracket* TFilterBracket::InsertBracket(int index) {
     std::unique_ptr<TFilterRow> row(new TFilterBracket(*query));
     return InsertRow(index, std::move(row))->AsBracket();
@@ -94,14 +98,18 @@ TFilterRow* TFilterBracket::InsertRow(int index, std::unique_ptr<TFilterRow> row
     if (!row || row->query != query)
         throw std::invalid_argument("a row can only be put into its own query");
     query->RequireChangeable();
-    if (const TFilterBracket* bracket = row->AsBracket();
-        bracket && Level() + 1 + bracket->Depth() > maxLevel)
-        throw EKQueryPanelError(std::string(messages::NestedTooDeep));
+    if (!CanHold(*row)) throw EKQueryPanelError(std::string(messages::NestedTooDeep));
 
     TFilterRow* result = row.get();
     rows.insert(rows.begin() + index, std::move(row));
     result->parent = this;
     result->indexHint = index;
+    if (detached) { // nobody sees it
+        query->AddDetached(*result);
+        query->detachedRows.erase(result); // goes with this bracket
+        return result;
+    }
+    if (TKQueryRecord* record = query->RecordOfChange()) record->RowPut(*this, index, *result);
     query->AttachRow(*result);
     query->RowsAdded(*this, index, 1);
     return result;
@@ -111,22 +119,33 @@ std::unique_ptr<TFilterRow> TFilterBracket::TakeRow(TFilterRow* row) {
     const int index = GetRowIndex(row);
     if (index < 0) return nullptr;
     query->RequireChangeable();
-    query->RowsRemoved(*this, index, 1);
+    if (!detached) query->RowsRemoved(*this, index, 1);
     std::unique_ptr<TFilterRow> taken = std::move(rows[static_cast<size_t>(index)]);
     rows.erase(rows.begin() + index);
     taken->parent = nullptr;
+    if (detached) {
+        query->AddDetached(*taken);
+        return taken;
+    }
     query->DetachRow(*taken);
+    if (TKQueryRecord* record = query->RecordOfChange()) record->RowTaken(*this, index, *taken);
     query->Changed();
     return taken;
 }
 
 void TFilterBracket::DeleteRow(TFilterRow* row) {
-    if (std::unique_ptr<TFilterRow> taken = TakeRow(row)) taken->rowState = TRowState::rsDestroying;
+    if (std::unique_ptr<TFilterRow> taken = TakeRow(row)) query->Drop(std::move(taken));
 }
 
 void TFilterBracket::ClearRows() {
+    if (detached) return rows.clear();
     if (rows.empty()) return;
     query->RequireChangeable();
+    if (query->RecordOfChange()) {
+        while (!rows.empty())
+            DeleteRow(rows.back().get());
+        return;
+    }
     query->RowsRemoved(*this, 0, GetRowCount());
     std::vector<std::unique_ptr<TFilterRow>> taken = std::move(rows);
     rows.clear();

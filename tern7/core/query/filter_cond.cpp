@@ -19,10 +19,12 @@ TFilterCond::TFilterCond(TKQuery& owner) : TFilterRow(owner, TFilterRowType::frt
 
 TFilterCond::~TFilterCond() {
     rowState = TRowState::rsDestroying;
+    if (query) query->ForgetEvents(*this);
 }
 
 void TFilterCond::SetField(TDSField* value) {
     if (value == field && !(value && value->IsPlaceholder())) return;
+    WillChange();
     field = value;
     if (!value || !value->IsPlaceholder()) {
         unknownFieldID = -1;
@@ -37,6 +39,7 @@ void TFilterCond::SetField(TDSField* value) {
 
 void TFilterCond::SetOperator(TDSOperator* value) {
     if (value == op && !(value && value->IsPlaceholder())) return;
+    WillChange();
     op = value;
     if (extras && (!value || !value->IsPlaceholder())) {
         extras->unknownOperator.clear();
@@ -47,6 +50,7 @@ void TFilterCond::SetOperator(TDSOperator* value) {
 }
 
 void TFilterCond::SetUnknownField(int id, std::string name) {
+    WillChange();
     field = query && query->DbStruct() ? query->DbStruct()->PlaceholderField() : nullptr;
     unknownFieldID = id;
     if (!name.empty() || extras) MakeExtras().unknownFieldName = std::move(name);
@@ -55,6 +59,7 @@ void TFilterCond::SetUnknownField(int id, std::string name) {
 }
 
 void TFilterCond::SetUnknownOperator(std::string name) {
+    WillChange();
     op = query && query->DbStruct() ? query->DbStruct()->PlaceholderOperator() : nullptr;
     MakeExtras().unknownOperator = std::move(name);
     ReferencesChanged();
@@ -63,6 +68,7 @@ void TFilterCond::SetUnknownOperator(std::string name) {
 
 void TFilterCond::SetSQLText(std::string value) {
     if (value == SQLText()) return;
+    WillChange();
     MakeExtras().sqlText = std::move(value);
     DoConditionChange(wcField);
 }
@@ -79,8 +85,9 @@ void TFilterCond::SetValue(int n, std::string text, std::string valueCaption) {
     TValue& value = values[Slot(n)];
     if (query && query->BuilderState() != TKBuilderState::stLoading && query->OnSetValue)
         query->OnSetValue(*this, text, valueCaption);
-    if (value.text == text && value.caption == valueCaption) return;
-    value.text = std::move(text);
+    if (value.text.Get() == text && value.caption == valueCaption) return;
+    WillChange();
+    value.text.Set(std::move(text));
     value.caption = std::move(valueCaption);
     DoValueChange(n);
 }
@@ -102,8 +109,18 @@ int TFilterCond::ValueCount() const {
 void TFilterCond::SetValueIsParam(int n, bool value) {
     TValue& slot = values[Slot(n)];
     if (slot.isParam == value) return;
+    WillChange();
     slot.isParam = value;
     HoldParams();
+    DoConditionChange(n == 1 ? wcParam1 : wcParam2);
+}
+
+void TFilterCond::SetParamTexts(int n, std::string newCaption, std::string format) {
+    TSQLParam* param = Param(n);
+    if (!param || (param->Caption() == newCaption && param->ValueFormat() == format)) return;
+    WillChange();
+    if (param->Caption() != newCaption) param->SetCaption(std::move(newCaption));
+    param->SetValueFormat(std::move(format));
     DoConditionChange(n == 1 ? wcParam1 : wcParam2);
 }
 
@@ -123,6 +140,7 @@ void TFilterCond::UpdateSQLParams() {
 
 void TFilterCond::SetSubQuery(std::string text, TSQLOptions options) {
     if (text == SubQuery() && options == SubQueryOptions()) return;
+    WillChange();
     TExtras& own = MakeExtras();
     own.subQuery = std::move(text);
     own.subQueryOptions = options;
@@ -170,12 +188,14 @@ bool TFilterCond::IsListOperator() const {
 
 void TFilterCond::SetCaption(std::string value) {
     if (value == GetCaption()) return;
+    WillChange();
     MakeExtras().caption = std::move(value);
     DoConditionChange(wcCaption);
 }
 
 void TFilterCond::SetEntered(bool value) {
     if (value == entered) return;
+    WillChange();
     entered = value;
     if (query) query->RowChanged(*this);
 }
@@ -196,8 +216,8 @@ TUnfinished TFilterCond::Unfinished() const {
                                              : TUnfinished::NoOperator;
     }
     if (IsSubQueryOperator())
-        return values[0].text.empty() && SubQuery().empty() ? TUnfinished::NoSubQuery
-                                                            : TUnfinished::No;
+        return values[0].text.Get().empty() && SubQuery().empty() ? TUnfinished::NoSubQuery
+                                                                  : TUnfinished::No;
     const int count = ValueCount();
     if (count > 0 && !entered) return TUnfinished::NotEntered;
     if (query && !query->CheckValues) return TUnfinished::No;
@@ -209,7 +229,7 @@ TUnfinished TFilterCond::Unfinished() const {
 /// True when nothing at all would stand in value n's place.
 bool TFilterCond::WouldBeEmpty(int n) const {
     const TValue& value = values[n - 1];
-    return !value.param && Trim(value.text).empty() &&
+    return !value.param && Trim(value.text.Get()).empty() &&
            (ValueIsBare(n) || (n == 1 && IsListOperator()));
 }
 

@@ -7,7 +7,9 @@ namespace tern7 {
 TFilterRow::TFilterRow(TKQuery& owner, TFilterRowType type) : query(&owner), rowType(type) {}
 
 TFilterRow::~TFilterRow() {
-    if (detached && query) query->detachedRows.erase(this);
+    if (!detached || !query) return;
+    query->detachedRows.erase(this);
+    query->Freed(this);
 }
 
 int TFilterRow::Level() const {
@@ -25,6 +27,7 @@ int TFilterRow::RowNum() const {
 void TFilterRow::SetEnabled(bool value) {
     const bool isRoot = query && query->root.get() == this;
     if (value == enabled || isRoot) return;
+    WillChange();
     enabled = value;
     EnabledChanged();
     if (TFilterCond* condition = AsCond())

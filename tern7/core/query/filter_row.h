@@ -113,15 +113,30 @@ public:
     void UpdateBoolLabel();
     void CloseEdit();
 
+    /// A row with the same contents and copies of all rows below it, not yet in a bracket; its
+    /// parameters get names of their own when it is put in.
+    std::unique_ptr<TFilterRow> Clone() const;
+
     /// An object that a host attaches.
     std::any OleObject;
 
 protected:
     TFilterRow(TKQuery& query, TFilterRowType type);
     virtual void EnabledChanged() {}
+    /// To be called before the row's own contents change.
+    void WillChange();
+    /// Outside of the tree, a row that holds what this one does now, without the rows below.
+    std::unique_ptr<TFilterRow> MakeTwin() const;
+    /// Copies what a twin holds; what `source` refers to must be of the same query.
+    virtual void CopyContents(const TFilterRow& source) = 0;
+    /// Exchanges what a twin holds, in silence; the bits 1 << TWhatChanged say what differed, bit 0
+    /// anything else.
+    virtual unsigned Exchange(TFilterRow& twin) = 0;
+    virtual void TellExchanged(unsigned what) = 0;
 
     friend class TFilterBracket;
     friend class TKQuery;
+    friend class TKQueryRecord;
     TKQuery* query;
     TFilterBracket* parent = nullptr;
     int rowNum = -1;
@@ -157,6 +172,9 @@ public:
     TFilterRow* GetLastRow();
     int GetLastRowNum();
 
+    /// False when the row is this bracket or one around it, or would stand too deep: there are at
+    /// most 1,000 levels.
+    bool CanHold(const TFilterRow& row) const;
     /// EKQueryPanelError "Rows are nested too deep" beyond 1,000 levels.
     TFilterBracket* AddBracket() { return InsertBracket(GetRowCount()); }
     TFilterCond* AddCond() { return InsertCond(GetRowCount()); }
@@ -176,13 +194,34 @@ public:
     void CheckIfAllDisabled();
     /// Deepest level of brackets below; 0 without brackets inside.
     int Depth() const;
+    static constexpr int MaxLevel = 1000;
 
 private:
     friend class TKQuery;
     friend class TFilterRow;
     explicit TFilterBracket(TKQuery& query);
+    void CopyContents(const TFilterRow& source) override;
+    unsigned Exchange(TFilterRow& twin) override;
+    void TellExchanged(unsigned what) override;
     std::vector<std::unique_ptr<TFilterRow>> rows;
     TFilterLinkType linkType = TFilterLinkType::fltAll;
+};
+
+/// The text of a value, and whether it can stand in a statement as it is. That is found out when
+/// the text is given, which happens once, and asked for with each build.
+class TValueText {
+public:
+    const std::string& Get() const { return text; }
+    void Set(std::string newText) {
+        text = std::move(newText);
+        isPlain = text.find_first_of("'@") == std::string::npos;
+    }
+    /// True when the text holds no quote, which would be doubled, and no "@".
+    bool IsPlain() const { return isPlain; }
+
+private:
+    std::string text;
+    bool isPlain = true;
 };
 
 /// A condition: a field, an operator, up to two values. Values are numbered 1 and 2.
@@ -208,7 +247,7 @@ public:
     const std::string& SQLText() const { return Extras().sqlText; }
     void SetSQLText(std::string value);
 
-    const std::string& Value(int n) const { return values[Slot(n)].text; }
+    const std::string& Value(int n) const { return values[Slot(n)].text.Get(); }
     /// What the user reads instead of the value; empty: the value itself.
     const std::string& ValueCaption(int n) const { return values[Slot(n)].caption; }
     /// The application's OnSetValue may change both before they are stored (not while loading).
@@ -231,6 +270,8 @@ public:
     TSQLParam* Param(int n) const { return values[Slot(n)].param; }
     void SetParam1(TSQLParam* value) { values[0].param = value; }
     void SetParam2(TSQLParam* value) { values[1].param = value; }
+    /// Caption and value format of the parameter of a value; nothing happens without one.
+    void SetParamTexts(int n, std::string caption, std::string format);
     /// Creates, renames or deletes parameters, so that exactly the values flagged as parameters
     /// that the operator takes have one.
     void UpdateSQLParams();
@@ -270,11 +311,13 @@ public:
 
 private:
     friend class TKQuery;
+    friend class TFilterRow;
     friend class TFilterBracket;
     friend class TQueryResult;
+    friend class TConditionWriter;
     struct TValue {
         TSQLParam* param = nullptr;
-        std::string text;
+        TValueText text;
         std::string caption;
         bool isParam = false;
     };
@@ -295,6 +338,11 @@ private:
         ~TExtras();
     };
     explicit TFilterCond(TKQuery& query);
+    void CopyContents(const TFilterRow& source) override;
+    unsigned Exchange(TFilterRow& twin) override;
+    void TellExchanged(unsigned what) override;
+    unsigned Differences(const TFilterCond& twin) const;
+    bool ExchangeParam(int n, TFilterCond& twin);
     static size_t Slot(int n) {
         if (n != 1 && n != 2) throw std::out_of_range("a condition has the values 1 and 2");
         return static_cast<size_t>(n - 1);
@@ -316,6 +364,7 @@ private:
     bool recognized = false;   // field and operator are there and no placeholders
     bool unknownField = false; // noted while references are released: a placeholder stood there
     bool unknownOp = false;
+    mutable uint16_t formHint = 0; // where the writer keeps its template, most likely
     TValue values[2];
     mutable std::unique_ptr<TExtras> extras;
 };

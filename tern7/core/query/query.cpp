@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include <tern7/core/global/messages.h>
+#include <tern7/core/query/query_record.h>
+#include <tern7/core/query/read_sql/sql_report.h>
 
 namespace tern7 {
 
@@ -13,10 +15,13 @@ TKQuery::TKQuery(TKCustomDBStructure* dbStruct)
 
 TKQuery::~TKQuery() {
     active = false;
+    life.reset();
     const std::vector<TKQueryView*> all = std::move(views);
     views.clear();
     for (TKQueryView* view : all)
         view->QueryDestroyed();
+    if (steps) steps->QueryDestroyed();
+    steps = nullptr;
     if (structure) structure->RemoveObserver(this);
     for (TResultField* field : detachedFields)
         field->owner = nullptr;
@@ -25,6 +30,8 @@ TKQuery::~TKQuery() {
         ForEachRow(*row, [](TFilterRow& r) { r.query = nullptr; });
     detachedRows.clear();
     ForEachRow(*root, [](TFilterRow& row) { row.rowState = TRowState::rsDestroying; });
+    pendingConditions.clear();
+    root.reset(); // while all that rows refer to is there
 }
 
 void TKQuery::SetDbStruct(TKCustomDBStructure* value) {
@@ -52,6 +59,7 @@ void TKQuery::SetQueryName(std::string value) {
 
 void TKQuery::SetMainTableName(std::string value) {
     if (value == mainTableName) return;
+    if (TKQueryRecord* recording = Record()) recording->MainTableChanges();
     mainTableName = std::move(value);
     Changed();
 }
@@ -127,6 +135,28 @@ void TKQuery::AttachRow(TFilterRow& row) {
     if (params) ParametersListChanged();
 }
 
+void TKQuery::Drop(std::unique_ptr<TFilterRow> row) {
+    if (!row) return;
+    if (TKQueryRecord* recording = Record())
+        recording->Keep(std::move(row));
+    else
+        row->rowState = TRowState::rsDestroying;
+}
+
+void TKQuery::Drop(std::unique_ptr<TResultField> column) {
+    if (TKQueryRecord* recording = Record()) recording->Keep(std::move(column));
+}
+
+void TKQuery::Freed(const void* rowOrColumn) {
+    if (record) record->Freed(rowOrColumn);
+}
+
+/// A row with all below it that was made outside of the tree.
+void TKQuery::AddDetached(TFilterRow& row) {
+    ForEachRow(row, [](TFilterRow& below) { below.detached = true; });
+    detachedRows.insert(&row);
+}
+
 void TKQuery::DetachRow(TFilterRow& row) {
     std::vector<TSQLParam*> gone;
     ForEachRow(row, [&](TFilterRow& below) {
@@ -139,6 +169,7 @@ void TKQuery::DetachRow(TFilterRow& row) {
     if (gone.empty()) return;
     for (auto& param : result->TakeParams(gone)) {
         TFilterCond& condition = *param->Condition();
+        param->Release(); // and gets its name back when that is free then
         condition.MakeExtras().parked[param->ValueNumber() - 1] = std::move(param);
     }
     ParametersListChanged();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -13,10 +14,14 @@
 #include <tern7/core/global/sql_options.h>
 #include <tern7/core/query/filter_row.h>
 #include <tern7/core/query/query_result.h>
+#include <tern7/core/query/query_steps.h>
 #include <tern7/core/query/query_view.h>
 #include <tern7/core/structure/structure.h>
 
 namespace tern7 {
+
+class TSQLReport;
+class TKQueryRecord;
 
 /// How a query is shown: brackets as lines of their own, or and/or words before conditions.
 enum class TQPStyle : uint8_t { psGroups, psAndOr };
@@ -64,7 +69,11 @@ struct TUnfinishedRow {
 ///     query.BuildQuery();
 ///     std::string sql = query.QResult().GetSQL().Text();
 class TKQuery : private TDSObserver {
+    class TReplaying;
+
 public:
+    class THeldEvents;
+
     explicit TKQuery(TKCustomDBStructure* structure = nullptr);
     ~TKQuery() override;
     TKQuery(const TKQuery&) = delete;
@@ -97,7 +106,7 @@ public:
     TStrings Titles; ///< caption sections
     bool SaveTitles = true;
     bool SaveSQLOptions = false;
-    bool SaveMainTable = false; ///< keep MainTableName in the query text
+    bool SaveMainTable = false; ///< keep MainTableName, when there is one, in the query text
     /// Values that stand without quotes must be one number or word; see BuildQuery.
     bool CheckValues = true;
     /// Version of the text that was read last.
@@ -143,6 +152,23 @@ public:
     /// What the last reading met without failing, in words: a newer version, another encoding.
     const TStrings& LoadWarnings() const { return loadWarnings; }
 
+    // --- reading SQL
+    /// Replaces rows and columns by what a SELECT statement says, as far as the structure knows its
+    /// fields and operators; a condition that is not recognised becomes a row that keeps its text.
+    /// Joins, grouping and aliases are not read. ESQLParserError for a syntax error; there are no
+    /// rows then, and the query stays inactive. Linear in the text.
+    void ParseSQL(const TStrings& lines);
+    void ParseSQL(std::string_view sql);
+    /// As ParseSQL, and complete: tables, aliases, joins, sorting and grouping are read, options,
+    /// syntax, main table and parameter names taken over, so that the statement that the query
+    /// builds gives the same rows, as far as the report names nothing that was dropped. On a syntax
+    /// error (ESQLParserError) the query is as it was, but inactive.
+    const TSQLReport& ImportSQL(const TStrings& lines);
+    const TSQLReport& ImportSQL(std::string_view sql);
+    /// What became of the SQL that was read last. ParseSQL tells only what it kept as text and what
+    /// it did not read.
+    const TSQLReport& SQLReport() const;
+
     // --- state and notification
     bool Active() const { return active; }
     /// Inactive: no events, views are not refreshed; active again: one refresh, then OnActive.
@@ -154,6 +180,12 @@ public:
     void EndUpdate();
     void AddView(TKQueryView* view);
     void RemoveView(TKQueryView* view);
+    /// Whoever keeps the steps, none without undo; not owned.
+    TKQuerySteps* Steps() const { return steps; }
+    void SetSteps(TKQuerySteps* keeper) { steps = keeper; }
+    /// What a user does, as one step of that name where steps are kept. The application hears of it
+    /// once.
+    void RunStep(const std::string& name, const std::function<void()>& change);
     void CloseEditors();
 
     TEvent<TKQuery&> OnActive;
@@ -167,6 +199,9 @@ public:
     TEvent<TFilterCond&, std::string&> OnCustomValue;
     TEvent<TFilterCond&, std::string&> OnValueDblClick;
     TKServices Services;
+
+    /// Expires with the query.
+    std::weak_ptr<const char> Life() const { return life; }
 
     // --- nested queries
     /// An empty query over the same structure, with syntax, services and parameter names of this
@@ -194,6 +229,9 @@ private:
     friend class TQueryResult;
     friend class TQueryBuild;
     friend class TKQueryTextReader;
+    friend class TKQueryRecord;
+    friend class TKQueryRecording;
+    friend std::vector<TFilterRow*> InsertRowsFromText(TFilterBracket&, int, std::string_view);
     void ReleaseReferences() override;
     void RestoreReferences() override;
     void StructureChanged() override;
@@ -226,6 +264,20 @@ private:
     }
     void EverythingChanged();
     bool Listening() const { return active && updateNesting == 0; }
+    bool SendsEvents() const { return Listening() && eventsHeld == 0; }
+    void SendConditionEvents();
+    void SendPendingEvents();
+    /// Where a change is recorded; none while it is replayed, or when nobody records.
+    TKQueryRecord* Record() const { return replaying ? nullptr : record; }
+    /// The same for a change after which other steps can not be taken back unless it is recorded.
+    TKQueryRecord* RecordOfChange();
+    /// A row or column that is not needed any more goes to the record, else it is freed.
+    void Drop(std::unique_ptr<TFilterRow> row);
+    void Drop(std::unique_ptr<TResultField> column);
+    /// A row or column that was taken out is being freed.
+    void Freed(const void* rowOrColumn);
+    void ForgetEvents(const TFilterCond& condition);
+    void AddDetached(TFilterRow& row);
     void InstantiateNested();
     void EnsureNumbered() const;
     /// EKQueryPanelError while the statement is being built: handlers must not change rows then.
@@ -235,6 +287,7 @@ private:
     void DropParams(const std::vector<std::unique_ptr<TFilterRow>>& rows);
     void BracketChanged(TFilterBracket& bracket);
     void SubQueryChanged(TFilterCond& condition);
+    void StoreSQLReport(TSQLReport report);
 
     TKCustomDBStructure* structure = nullptr;
     TKQuery* outer = nullptr;
@@ -248,11 +301,22 @@ private:
     std::string mainTableName;
     double formatVersion = 3.3;
     TStrings loadWarnings;
+    std::unique_ptr<TSQLReport> sqlReport;
     TQPStyle style = TQPStyle::psGroups;
     TKBuilderState state = TKBuilderState::stIdle;
     bool active = true;
     int updateNesting = 0;
     int paramsHeld = 0; // a condition tells of its own change first
+    int eventsHeld = 0;
+    TKQueryRecord* record = nullptr;
+    TKQuerySteps* steps = nullptr;
+    bool replaying = false;
+    struct TPendingCondition {
+        TFilterCond* condition;
+        int whatChanged;
+    };
+    std::deque<TPendingCondition> pendingConditions;                   // while events are held
+    std::shared_ptr<const char> life = std::make_shared<const char>(); // handlers may end it
     mutable bool numbersKnown = false;
     bool nestedPending = false; // a sub-query text may hold parameters that have no name yet
     bool changePending = false;
@@ -263,10 +327,52 @@ private:
 /// Keeps the changes of a step together: BeginUpdate while it lives.
 class TKQueryUpdate {
 public:
-    explicit TKQueryUpdate(TKQuery& owner) : query(owner) { query.BeginUpdate(); }
-    ~TKQueryUpdate() { query.EndUpdate(); }
+    explicit TKQueryUpdate(TKQuery& owner) : query(owner), life(owner.Life()) {
+        query.BeginUpdate();
+    }
+    ~TKQueryUpdate() {
+        if (!life.expired()) query.EndUpdate();
+    }
     TKQueryUpdate(const TKQueryUpdate&) = delete;
     TKQueryUpdate& operator=(const TKQueryUpdate&) = delete;
+
+private:
+    TKQuery& query;
+    std::weak_ptr<const char> life;
+};
+
+/// While it lives the events of the application wait, OnConditionChange too; views are told as
+/// ever. The query may go meanwhile.
+class TKQuery::THeldEvents {
+public:
+    explicit THeldEvents(TKQuery& owner) : query(owner), life(owner.life) { ++query.eventsHeld; }
+    ~THeldEvents() {
+        if (!sent && !life.expired()) --query.eventsHeld;
+    }
+    THeldEvents(const THeldEvents&) = delete;
+    THeldEvents& operator=(const THeldEvents&) = delete;
+    /// Those that waited, once each, unless others still hold them. Without this call they wait for
+    /// the next change.
+    void Send() {
+        sent = true;
+        if (life.expired()) return;
+        --query.eventsHeld;
+        query.SendPendingEvents();
+    }
+
+private:
+    TKQuery& query;
+    std::weak_ptr<const char> life;
+    bool sent = false;
+};
+
+/// While it lives changes are those of a record that is replayed.
+class TKQuery::TReplaying {
+public:
+    explicit TReplaying(TKQuery& owner) : query(owner) { query.replaying = true; }
+    ~TReplaying() { query.replaying = false; }
+    TReplaying(const TReplaying&) = delete;
+    TReplaying& operator=(const TReplaying&) = delete;
 
 private:
     TKQuery& query;

@@ -2,6 +2,7 @@
 // and application.
 
 #include <algorithm>
+#include <utility>
 
 #include <tern7/core/query/query.h>
 
@@ -68,14 +69,50 @@ void TKQuery::EndUpdate() {
         viewsPending = false;
         TellViews([](TKQueryView& view) { view.EverythingChanged(); });
     }
-    if (paramsPending) {
-        paramsPending = false;
-        OnParamListChange(*this);
+    SendPendingEvents();
+}
+
+void TKQuery::SendPendingEvents() {
+    if (!SendsEvents()) return;
+    const std::weak_ptr<const char> alive = life;
+    {
+        const THeldEvents together(*this); // with what their handlers change
+        SendConditionEvents();
     }
-    if (changePending) {
-        changePending = false;
-        OnChange(*this);
+    if (alive.expired()) return;
+    if (std::exchange(paramsPending, false)) OnParamListChange(*this);
+    if (alive.expired()) return;
+    if (std::exchange(changePending, false)) OnChange(*this);
+}
+
+void TKQuery::SendConditionEvents() {
+    const std::weak_ptr<const char> alive = life;
+    // handlers may delete conditions, and make further steps
+    while (!alive.expired() && !pendingConditions.empty()) {
+        const TPendingCondition pending = pendingConditions.front();
+        pendingConditions.pop_front();
+        if (!pending.condition->detached)
+            OnConditionChange(*pending.condition, pending.whatChanged);
     }
+}
+
+void TKQuery::ForgetEvents(const TFilterCond& condition) {
+    std::erase_if(pendingConditions, [&](const TPendingCondition& pending) {
+        return pending.condition == &condition;
+    });
+}
+
+TKQueryRecord* TKQuery::RecordOfChange() {
+    if (replaying) return nullptr;
+    if (!record && steps) steps->ForgetSteps();
+    return record;
+}
+
+void TKQuery::RunStep(const std::string& name, const std::function<void()>& change) {
+    if (steps) return steps->RunStep(name, change);
+    THeldEvents events(*this);
+    change();
+    events.Send();
 }
 
 void TKQuery::CloseEditors() {
@@ -120,12 +157,15 @@ void TKQuery::ValueEditorsChanged(TFilterRow& row) {
 void TKQuery::ConditionChanged(TFilterCond& condition, int whatChanged) {
     if (condition.detached) return;
     RefreshViews([&](TKQueryView& view) { view.RowChanged(condition); });
-    if (active) OnConditionChange(condition, whatChanged);
-    if (active && updateNesting == 0 && paramsPending) {
-        paramsPending = false;
-        OnParamListChange(*this);
+    const std::weak_ptr<const char> alive = life;
+    if (active && eventsHeld > 0) {
+        if (OnConditionChange) pendingConditions.push_back({&condition, whatChanged});
+    } else if (active) {
+        OnConditionChange(condition, whatChanged);
+        if (alive.expired()) return;
     }
-    Changed();
+    if (SendsEvents() && std::exchange(paramsPending, false)) OnParamListChange(*this);
+    if (!alive.expired()) Changed();
 }
 
 void TKQuery::ResultFieldsChanged() {
@@ -136,10 +176,10 @@ void TKQuery::ResultFieldsChanged() {
 void TKQuery::ParametersListChanged() {
     RefreshViews([](TKQueryView& view) { view.ParametersChanged(); });
     if (!active) return;
-    if (updateNesting > 0 || paramsHeld > 0)
-        paramsPending = true;
-    else
+    if (SendsEvents() && paramsHeld == 0)
         OnParamListChange(*this);
+    else
+        paramsPending = true;
 }
 
 void TKQuery::EverythingChanged() {
@@ -148,10 +188,10 @@ void TKQuery::EverythingChanged() {
 
 void TKQuery::Changed() {
     if (!active) return;
-    if (updateNesting > 0)
-        changePending = true;
-    else
+    if (SendsEvents())
         OnChange(*this);
+    else
+        changePending = true;
 }
 
 } // namespace tern7

@@ -6,6 +6,7 @@
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/query/condition_text.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_record.h>
 
 namespace tern7 {
 
@@ -20,6 +21,7 @@ TKCustomDBStructure* TQueryResult::DbStruct() const {
 
 void TQueryResult::SetSQLOptions(TSQLOptions value) {
     if (value == options) return;
+    if (TKQueryRecord* record = query.Record()) record->OptionsChange(value);
     options = value;
     resultFields.asciiAliases = value.Contains(TSQLOption::soASCIIRFields);
     resultFields.quoteAliases = value.Contains(TSQLOption::soQuoteAliases);
@@ -64,15 +66,30 @@ TSQLParam* TQueryResult::AddParameter(TFilterCond& condition) {
 
 TSQLParam* TQueryResult::AddParameter(TFilterCond& condition, int valueNumber) {
     if (TSQLParam* present = condition.Param(valueNumber)) return present;
+    condition.WillChange();
     auto param = std::make_unique<TSQLParam>(condition, valueNumber);
     param->name = NewParamName();
-    param->names = query.paramNames;
-    query.paramNames->insert(LowerCase(param->name));
+    param->Reserve(query.paramNames);
     TSQLParam* added = params.Add(std::move(param));
     (valueNumber == 1 ? condition.values[0] : condition.values[1]).param = added;
     UpdateParamCaptions(condition);
     query.ParametersListChanged();
     return added;
+}
+
+bool TQueryResult::RenameParameter(TSQLParam& param, std::string name) {
+    if (SameText(param.name, name)) {
+        param.name = std::move(name);
+        return true;
+    }
+    TParamNames& taken = *query.paramNames;
+    if (name.empty() || taken.contains(LowerCase(name))) return false;
+    if (const auto former = taken.find(LowerCase(param.name)); former != taken.end())
+        taken.erase(former);
+    taken.insert(LowerCase(name));
+    param.name = std::move(name);
+    query.ParametersListChanged();
+    return true;
 }
 
 void TQueryResult::UpdateParamCaptions(TFilterCond& condition) {
@@ -102,6 +119,7 @@ void TQueryResult::DeleteParameters(TFilterCond& condition) {
     std::vector<TSQLParam*> gone;
     for (int n = 2; n >= 1; --n)
         if (TSQLParam* param = condition.Param(n)) gone.push_back(param);
+    condition.WillChange();
     condition.values[0].isParam = condition.values[1].isParam = false;
     if (gone.empty()) return;
     TakeParams(gone);
@@ -110,6 +128,7 @@ void TQueryResult::DeleteParameters(TFilterCond& condition) {
 
 void TQueryResult::DeleteParameter(TSQLParam* param) {
     if (params.IndexOf(param) < 0) return;
+    param->condition->WillChange();
     param->condition->values[param->valueNumber - 1].isParam = false;
     RemoveParameter(param);
 }
@@ -127,6 +146,7 @@ void TQueryResult::ClearParams() {
     std::vector<TSQLParam*> all;
     for (const auto& param : params) {
         all.push_back(param.get());
+        param->condition->WillChange();
         param->condition->values[param->valueNumber - 1].isParam = false;
     }
     TakeParams(all);
@@ -135,8 +155,17 @@ void TQueryResult::ClearParams() {
 
 std::vector<std::unique_ptr<TSQLParam>>
 TQueryResult::TakeParams(const std::vector<TSQLParam*>& wanted) {
-    const std::unordered_set<const TSQLParam*> gone(wanted.begin(), wanted.end());
     std::vector<std::unique_ptr<TSQLParam>> taken, kept;
+    if (wanted.size() == 1 && !params.IsEmpty() && params.items.back().get() == wanted.front()) {
+        // the last one, as when many rows are taken out one by one from the end
+        TFilterCond::TValue& value =
+            wanted.front()->condition->values[wanted.front()->valueNumber - 1];
+        if (value.param == wanted.front()) value.param = nullptr;
+        taken.push_back(std::move(params.items.back()));
+        params.items.pop_back();
+        return taken;
+    }
+    const std::unordered_set<const TSQLParam*> gone(wanted.begin(), wanted.end());
     for (auto& param : params.items) {
         if (!gone.contains(param.get())) {
             kept.push_back(std::move(param));
@@ -152,6 +181,11 @@ TQueryResult::TakeParams(const std::vector<TSQLParam*>& wanted) {
 
 void TQueryResult::PutParam(std::unique_ptr<TSQLParam> param) {
     param->condition->values[param->valueNumber - 1].param = param.get();
+    if (!param->names) {
+        if (param->name.empty() || query.paramNames->contains(LowerCase(param->name)))
+            param->name = NewParamName();
+        param->Reserve(query.paramNames);
+    }
     params.items.push_back(std::move(param));
 }
 

@@ -86,6 +86,9 @@ public:
     void DeleteParameters(TFilterCond& condition);
     void DeleteParameter(TSQLParam* param);
     void ClearParams();
+    /// Gives a parameter another name; false when one of this query, or of a query nested in it or
+    /// around it, has that name.
+    bool RenameParameter(TSQLParam& param, std::string name);
     int ParamNumberBase() const { return paramNumberBase; }
     void SetParamNumberBase(int value) { paramNumberBase = value; }
     /// The generated captions of a condition's parameters follow its field.
@@ -112,7 +115,8 @@ private:
     TKLineBuffer fromLines;
     std::string orderByText;
     TKLineBuffer conditions;
-    TKLineBuffer spareConditions; // room for the next build
+    TKLineBuffer spareConditions; // room for the next build, as the next
+    TRTableList spareTables;
     std::unique_ptr<TConditionWriter> writer;
     std::string groupByText;
     bool oldStyleJoins = false;

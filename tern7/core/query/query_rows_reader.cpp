@@ -122,6 +122,8 @@ void TRowsParser::ParseCondition(const TKIniSection& section, TRowText& row) con
     row.subQueryOptions =
         IntToSQLOptions(IntInRange(section, "SubQueryOptions", options, 0, INT_MAX));
     row.sqlText = section.Text("SQLText");
+    row.chosen = section.Bool("Chosen", true);
+    row.entered = section.Bool("Entered", true);
 }
 
 void TRowsParser::ParseField(const TKIniSection& section, TRowText& row) const {
@@ -161,7 +163,7 @@ void TRowsParser::ParseValue(const TKIniSection& section, TRowText& row, int slo
 void AddCondition(TFilterCond& condition, TRowText& row) {
     if (row.field)
         condition.SetField(row.field);
-    else
+    else if (row.chosen)
         condition.SetUnknownField(row.fieldID, std::move(row.fieldName));
     if (row.op)
         condition.SetOperator(row.op);
@@ -187,6 +189,53 @@ void AddCondition(TFilterCond& condition, TRowText& row) {
             param->SetCaption(std::move(value.caption));
     }
     condition.SetSubQuery(std::move(row.subQuery), row.subQueryOptions);
+    condition.SetEntered(row.entered);
+}
+
+/// The rows below the first one, which stands for `root`, from `index` on; the topmost ones.
+std::vector<TFilterRow*> PutRows(TFilterBracket& root, int index, std::vector<TRowText>& rows) {
+    struct TOpen {
+        TFilterBracket* bracket;
+        int index;
+        int missing;
+    };
+    std::vector<TFilterRow*> topmost;
+    std::vector<TOpen> open{{&root, index, rows.front().rowCount}};
+    for (auto row = rows.begin() + 1; row != rows.end(); ++row) {
+        while (open.back().missing == 0)
+            open.pop_back();
+        TOpen& place = open.back();
+        --place.missing;
+        TFilterRow* added =
+            row->isBracket ? static_cast<TFilterRow*>(place.bracket->InsertBracket(place.index))
+                           : place.bracket->InsertCond(place.index);
+        ++place.index;
+        if (open.size() == 1) topmost.push_back(added);
+        if (TFilterBracket* bracket = added->AsBracket()) {
+            bracket->SetLinkType(row->linkType);
+            open.push_back({bracket, 0, row->rowCount});
+        } else {
+            AddCondition(*added->AsCond(), *row);
+        }
+        added->SetEnabled(row->enabled);
+        added->SetRowID(row->id);
+    }
+    return topmost;
+}
+
+/// Levels of brackets below the root.
+int Depth(const std::vector<TRowText>& rows) {
+    size_t depth = 0;
+    std::vector<int> open;
+    for (const TRowText& row : rows) {
+        while (!open.empty() && open.back() == 0)
+            open.pop_back();
+        if (!open.empty()) --open.back();
+        if (!row.isBracket) continue;
+        depth = std::max(depth, open.size());
+        open.push_back(row.rowCount);
+    }
+    return static_cast<int>(depth);
 }
 
 } // namespace
@@ -196,32 +245,23 @@ std::vector<TRowText> ParseRows(const TKIniText& text, double version, const TKQ
 }
 
 void AddRows(TKQuery& query, std::vector<TRowText> rows) {
-    struct TOpen {
-        TFilterBracket* bracket;
-        int missing;
-    };
-    std::vector<TOpen> open;
-    for (TRowText& row : rows) {
-        while (!open.empty() && open.back().missing == 0)
-            open.pop_back();
-        TFilterRow* added = &query.Root();
-        if (!open.empty()) {
-            TFilterBracket& parent = *open.back().bracket;
-            --open.back().missing;
-            if (row.isBracket)
-                added = parent.AddBracket();
-            else
-                added = parent.AddCond();
-        }
-        if (TFilterBracket* bracket = added->AsBracket()) {
-            bracket->SetLinkType(row.linkType);
-            open.push_back({bracket, row.rowCount});
-        } else {
-            AddCondition(*added->AsCond(), row);
-        }
-        added->SetEnabled(row.enabled);
-        added->SetRowID(row.id);
-    }
+    query.Root().SetLinkType(rows.front().linkType);
+    query.Root().SetRowID(rows.front().id);
+    PutRows(query.Root(), 0, rows);
+}
+
+std::vector<TFilterRow*> InsertRows(TFilterBracket& parent, int index, std::vector<TRowText> rows) {
+    const TRowText& root = rows.front();
+    const bool wrap = root.linkType != TFilterLinkType::fltAll && root.rowCount > 0;
+    if (parent.Level() + (wrap ? 1 : 0) + Depth(rows) > TFilterBracket::MaxLevel)
+        throw EKQueryPanelError(std::string(messages::NestedTooDeep));
+    for (TRowText& row : rows)
+        row.id = -1; // numbers are given when the whole query is written
+    if (!wrap) return PutRows(parent, index, rows);
+    TFilterBracket* bracket = parent.InsertBracket(index);
+    bracket->SetLinkType(root.linkType);
+    PutRows(*bracket, 0, rows);
+    return {bracket};
 }
 
 } // namespace tern7

@@ -22,6 +22,8 @@ struct TRowText {
     int id = -1;
     bool isBracket = false;
     bool enabled = true;
+    bool chosen = true;  ///< false for a condition that has no field yet
+    bool entered = true; ///< see TFilterCond::Entered
     // brackets
     int rowCount = 0;
     TFilterLinkType linkType = TFilterLinkType::fltAll;
@@ -45,8 +47,17 @@ std::vector<TRowText> ParseRows(const TKIniText& text, double version, const TKQ
 
 /// Puts rows that were read under the root, which has none.
 void AddRows(TKQuery& query, std::vector<TRowText> rows);
+/// Puts what was read below the root into a bracket; a root that joins its rows otherwise than by
+/// "all" becomes a bracket of its own. Returns the topmost rows. EKQueryPanelError "Rows are nested
+/// too deep", before anything is changed.
+std::vector<TFilterRow*> InsertRows(TFilterBracket& parent, int index, std::vector<TRowText> rows);
 
 /// Writes the rows depth first and numbers them; conditions without a field are left out.
 void WriteRows(TKIniWriter& out, TKQuery& query);
+/// Writes these rows below a root of their own, which joins them by "all"; the rows keep their
+/// numbers. With `unfinishedToo` conditions without a field are written as well, and which ones are
+/// still to be entered.
+void WriteRows(TKIniWriter& out, const TKQuery& query, const std::vector<TFilterRow*>& rows,
+               bool unfinishedToo);
 
 } // namespace tern7

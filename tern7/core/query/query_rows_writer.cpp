@@ -10,51 +10,77 @@ namespace tern7 {
 
 namespace {
 
+/// For whom rows are written.
+enum class TRowsFor : uint8_t {
+    File,     ///< numbers the rows, and leaves out conditions without a field
+    Others,   ///< leaves them out as well
+    Ourselves ///< nothing is left out
+};
+
 class TRowsWriter {
 public:
-    TRowsWriter(TKIniWriter& target, const TKQuery& owner) : out(target), query(owner) {}
-    void WriteBracket(TFilterBracket& bracket);
+    TRowsWriter(TKIniWriter& target, const TKQuery& owner, TRowsFor whom)
+        : out(target), query(owner), reader(whom) {}
+    void WriteRow(TFilterRow& row);
+    void WriteUnderRoot(const std::vector<TFilterRow*>& rows);
 
 private:
-    void WriteHead(TFilterRow& row);
+    bool IsWritten(const TFilterRow& row) const;
+    void WriteHead(TFilterRowType type, bool enabled);
+    void WriteBracket(TFilterLinkType type, const std::vector<TFilterRow*>& rows);
     void WriteCondition(TFilterCond& condition);
     void WriteValueDetails(const TFilterCond& condition, int n);
     std::string StoredValue(const TFilterCond& condition, int n) const;
 
     TKIniWriter& out;
     const TKQuery& query;
+    TRowsFor reader;
     int nextID = 0;
 };
 
 /// A condition without a field is still being made up; one with a field that the structure doesn't
 /// know is not.
-bool IsWritten(const TFilterRow& row) {
-    const TFilterCond* condition = row.AsCond();
-    return !condition || condition->Field() || condition->FieldID() >= 0 ||
-           !condition->UnknownFieldName().empty() || !condition->SQLText().empty();
+bool IsChosen(const TFilterCond& condition) {
+    return condition.Field() || condition.FieldID() >= 0 || !condition.UnknownFieldName().empty() ||
+           !condition.SQLText().empty();
 }
 
-void TRowsWriter::WriteHead(TFilterRow& row) {
-    row.SetRowID(nextID++);
-    out.Section("Row" + std::to_string(row.RowID()));
-    out.Bool("Enabled", row.GetEnabled());
-    out.Key("RowType", static_cast<int>(row.RowType()));
+bool TRowsWriter::IsWritten(const TFilterRow& row) const {
+    return reader == TRowsFor::Ourselves || row.IsBracket() || IsChosen(*row.AsCond());
 }
 
-void TRowsWriter::WriteBracket(TFilterBracket& bracket) {
-    const auto& rows = bracket.Rows();
-    WriteHead(bracket);
-    out.Key("LinkType", static_cast<int>(bracket.LinkType()));
-    out.Key("RowCount", static_cast<int>(std::count_if(rows.begin(), rows.end(),
-                                                       [](auto& row) { return IsWritten(*row); })));
-    for (const auto& row : rows) {
-        if (TFilterBracket* inner = row->AsBracket())
-            WriteBracket(*inner);
-        else if (IsWritten(*row))
-            WriteCondition(*row->AsCond());
-        else
-            row->SetRowID(-1);
-    }
+void TRowsWriter::WriteHead(TFilterRowType type, bool enabled) {
+    out.Section("Row" + std::to_string(nextID++));
+    out.Bool("Enabled", enabled);
+    out.Key("RowType", static_cast<int>(type));
+}
+
+void TRowsWriter::WriteRow(TFilterRow& row) {
+    const bool written = IsWritten(row);
+    if (reader == TRowsFor::File) row.SetRowID(written ? nextID : -1);
+    if (!written) return;
+    WriteHead(row.RowType(), row.GetEnabled());
+    TFilterBracket* bracket = row.AsBracket();
+    if (!bracket) return WriteCondition(*row.AsCond());
+    std::vector<TFilterRow*> rows;
+    for (const auto& inner : bracket->Rows())
+        rows.push_back(inner.get());
+    WriteBracket(bracket->LinkType(), rows);
+}
+
+void TRowsWriter::WriteUnderRoot(const std::vector<TFilterRow*>& rows) {
+    WriteHead(TFilterRowType::frtBracket, true);
+    WriteBracket(TFilterLinkType::fltAll, rows);
+}
+
+void TRowsWriter::WriteBracket(TFilterLinkType type, const std::vector<TFilterRow*>& rows) {
+    out.Key("LinkType", static_cast<int>(type));
+    out.Key("RowCount",
+            static_cast<int>(std::count_if(rows.begin(), rows.end(), [this](const TFilterRow* row) {
+                return IsWritten(*row);
+            })));
+    for (TFilterRow* row : rows)
+        WriteRow(*row);
 }
 
 std::string TRowsWriter::StoredValue(const TFilterCond& condition, int n) const {
@@ -77,7 +103,8 @@ void TRowsWriter::WriteValueDetails(const TFilterCond& condition, int n) {
 }
 
 void TRowsWriter::WriteCondition(TFilterCond& condition) {
-    WriteHead(condition);
+    if (!IsChosen(condition)) out.Bool("Chosen", false);
+    if (reader == TRowsFor::Ourselves && !condition.Entered()) out.Bool("Entered", false);
     out.Key("FieldID", condition.FieldID());
     if (!condition.UnknownFieldName().empty()) out.Text("FldName", condition.UnknownFieldName());
     out.Text("Operator", condition.OperatorName());
@@ -95,7 +122,13 @@ void TRowsWriter::WriteCondition(TFilterCond& condition) {
 } // namespace
 
 void WriteRows(TKIniWriter& out, TKQuery& query) {
-    TRowsWriter(out, query).WriteBracket(query.Root());
+    TRowsWriter(out, query, TRowsFor::File).WriteRow(query.Root());
+}
+
+void WriteRows(TKIniWriter& out, const TKQuery& query, const std::vector<TFilterRow*>& rows,
+               bool unfinishedToo) {
+    const TRowsFor reader = unfinishedToo ? TRowsFor::Ourselves : TRowsFor::Others;
+    TRowsWriter(out, query, reader).WriteUnderRoot(rows);
 }
 
 } // namespace tern7

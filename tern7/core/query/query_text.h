@@ -2,11 +2,15 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <tern7/core/global/field_types.h>
 #include <tern7/core/global/services.h>
 
 namespace tern7 {
+
+class TFilterBracket;
+class TFilterRow;
 
 /// Version of the query texts that are written.
 inline constexpr double QueryTextVersion = 3.3;
@@ -25,6 +29,16 @@ struct TQueryTextHead {
 
 /// Never raises: a text that is no query gives the defaults. Linear.
 TQueryTextHead ReadQueryTextHead(std::string_view text);
+
+/// Rows as a query text whose root holds them, in their order. With `unfinishedToo` in the form
+/// that travels inside the program only: conditions without a field, and what is still to be
+/// entered, are in it.
+std::string RowsToText(const std::vector<TFilterRow*>& rows, bool unfinishedToo = false);
+/// Puts the rows of a query text into a bracket, from a position on, and returns the topmost of
+/// them. Rows that its root joins otherwise than by "all" come in a bracket. EKQueryPanelError for
+/// a text that is damaged, too deep or no query; nothing is changed then.
+std::vector<TFilterRow*> InsertRowsFromText(TFilterBracket& parent, int index,
+                                            std::string_view text);
 
 /// The stored form of a value, whatever the locale: dates and times `yyyy-mm-dd`, `hh:nn:ss` or
 /// both with a blank between, list items one by one. Whatever is no date stands as it is.

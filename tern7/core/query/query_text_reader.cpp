@@ -7,6 +7,7 @@
 #include <tern7/core/corekit/numbers.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_record.h>
 #include <tern7/core/query/query_rows_text.h>
 #include <tern7/core/query/query_state.h>
 #include <tern7/core/query/query_text.h>
@@ -115,6 +116,7 @@ void TKQueryTextReader::Read(std::string_view text, TStrings warnings) {
 }
 
 void TKQueryTextReader::Take(TQueryText text) {
+    if (TKQueryRecord* record = query.Record()) record->TextsChange();
     query.ClearAll();
     if (text.titles) query.Titles = std::move(*text.titles);
     query.SetQueryName(std::move(text.queryName));
@@ -129,6 +131,30 @@ void TKQueryTextReader::Take(TQueryText text) {
     query.QResult().ResultFields().Assign(text.resultFields);
     AddRows(query, std::move(text.rows));
     query.loadWarnings = std::move(text.warnings);
+}
+
+std::vector<TFilterRow*> InsertRowsFromText(TFilterBracket& parent, int index,
+                                            std::string_view text) {
+    TKQuery& query = *parent.Query();
+    query.RequireStruct();
+    query.RequireChangeable();
+    if (index < 0 || index > parent.GetRowCount())
+        throw std::out_of_range("row index out of range");
+    const TKIniText sections(WithoutMark(text));
+    std::vector<TRowText> rows = AsQueryError([&] {
+        const TKIniSection* main = sections.Find("Main");
+        if (!main) RaiseSectionNotFound("Main");
+        return ParseRows(sections, ParseVersion(*main), query);
+    });
+    TKQuery::THeldEvents events(query);
+    std::vector<TFilterRow*> topmost;
+    {
+        const TKQueryUpdate update(query);
+        const TBuilderStateScope loading(query, TKBuilderState::stLoading);
+        topmost = InsertRows(parent, index, std::move(rows));
+    }
+    events.Send();
+    return topmost;
 }
 
 void TKQuery::SetQueryString(std::string_view text) {

@@ -31,7 +31,8 @@ void WriteMain(TKIniWriter& out, const TKQuery& query) {
         out.Key("Options", SQLOptionsToInt(query.SQLOptions()));
     else
         out.Key("Options", std::string_view());
-    if (query.SaveMainTable) out.Text("MainTable", query.MainTableName());
+    if (query.SaveMainTable && !query.MainTableName().empty())
+        out.Text("MainTable", query.MainTableName());
     out.Line({});
 }
 
@@ -58,6 +59,18 @@ std::string TKQuery::GetQueryString() {
     WriteBody(out, "UserData", UserData);
     WriteResultFields(out, result->ResultFields());
     WriteRows(out, *this);
+    return out.Take();
+}
+
+std::string RowsToText(const std::vector<TFilterRow*>& rows, bool unfinishedToo) {
+    if (rows.empty()) return {};
+    const TKQuery& query = *rows.front()->Query();
+    TKIniWriter out;
+    out.Section("Main");
+    out.Text("QueryName", {});
+    out.Key("Version", XFloatToStr(QueryTextVersion));
+    out.Line({});
+    WriteRows(out, query, rows, unfinishedToo);
     return out.Take();
 }
 

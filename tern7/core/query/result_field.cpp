@@ -4,6 +4,7 @@
 
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_record.h>
 #include <tern7/core/structure/structure.h>
 
 namespace tern7 {
@@ -28,8 +29,10 @@ std::string AsciiAlias(std::string_view caption) {
 TResultField::TResultField(TRFieldList& list) : owner(&list) {}
 
 TResultField::~TResultField() {
-    if (TKQuery* query = owner && !listed ? owner->Query() : nullptr)
-        query->detachedFields.erase(this);
+    TKQuery* query = owner && !listed ? owner->Query() : nullptr;
+    if (!query) return;
+    query->detachedFields.erase(this);
+    query->Freed(this);
 }
 
 void TResultField::Tell() {
@@ -37,12 +40,14 @@ void TResultField::Tell() {
 }
 
 void TResultField::AddDSField(TDSField* field) {
+    WillChange();
     fields.Add(field);
     ids.push_back(field->ID());
     Tell();
 }
 
 void TResultField::AddDSFieldByID(int id) {
+    WillChange();
     const TKCustomDBStructure* structure = owner->DbStruct();
     TDSField* field = structure ? structure->FieldByID(id) : nullptr;
     if (!field && structure) field = structure->PlaceholderField();
@@ -52,6 +57,7 @@ void TResultField::AddDSFieldByID(int id) {
 }
 
 void TResultField::DelDSField(int i) {
+    WillChange();
     fields.Delete(i);
     ids.erase(ids.begin() + i);
     for (int n = i + 2; n <= fields.GetCount() + 1; ++n)
@@ -59,7 +65,8 @@ void TResultField::DelDSField(int i) {
     Tell();
 }
 
-void TResultField::SetFields(std::vector<TDSField*> newFields, std::string newFormula) {
+void TResultField::SetFields(const std::vector<TDSField*>& newFields, std::string newFormula) {
+    WillChange();
     fields.Clear();
     ids.clear();
     for (TDSField* field : newFields) {
@@ -71,6 +78,7 @@ void TResultField::SetFields(std::vector<TDSField*> newFields, std::string newFo
 }
 
 void TResultField::StoreAlias(std::string value) {
+    WillChange();
     if (listed) owner->AliasChanged(alias, value);
     alias = std::move(value);
 }
@@ -82,6 +90,7 @@ void TResultField::SetAlias(std::string value) {
 
 void TResultField::SetCaption(std::string value) {
     if (value == caption) return;
+    WillChange();
     caption = std::move(value);
     GenerateAlias();
     Tell();
@@ -100,12 +109,17 @@ void TResultField::GenerateCaption() {
     std::string text;
     for (const TDSField* field : fields.Items())
         if (field) text += field->DisplayName();
-    if (text.empty()) text = std::to_string(owner->IndexOf(this) + 1);
+    if (text.empty()) { // mostly asked for a column that was just added
+        const int last = owner->GetCount() - 1;
+        const bool isLast = last >= 0 && (*owner)[last] == this;
+        text = std::to_string((isLast ? last : owner->IndexOf(this)) + 1);
+    }
     SetCaption(std::move(text));
 }
 
 void TResultField::SetFormula(std::string value) {
     if (value == formula) return;
+    WillChange();
     formula = std::move(value);
     for (int i = fields.GetCount() - 1; i >= 0; --i)
         if (formula.find(Placeholder(i + 1)) == std::string::npos) DelDSField(i);
@@ -114,6 +128,7 @@ void TResultField::SetFormula(std::string value) {
 
 void TResultField::SetSorting(TSortingType value) {
     if (value == sorting) return;
+    WillChange();
     sorting = value;
     if (sorting != TSortingType::stNoSort && sortOrder == 0) {
         int highest = 0;
@@ -127,6 +142,7 @@ void TResultField::SetSorting(TSortingType value) {
 
 void TResultField::SetSortOrder(int value) {
     if (value == sortOrder) return;
+    WillChange();
     sortOrder = value;
     Tell();
 }
@@ -182,15 +198,51 @@ bool TResultField::GetAgregate() const {
 
 void TResultField::Assign(const TResultField& source) {
     if (&source == this) return;
+    const TKCustomDBStructure* structure = owner ? owner->DbStruct() : nullptr;
+    const bool foreign = !source.owner || source.owner->DbStruct() != structure;
+    WillChange();
     fields.Clear();
-    ids = source.ids;
-    for (TDSField* field : source.fields.Items())
-        fields.Add(field);
+    ids.clear();
+    for (int i = 0; i < source.GetDSFieldCount(); ++i) {
+        if (foreign) {
+            AddForeignField(source.GetDSField(i), source.GetDSFieldID(i));
+        } else {
+            fields.Add(source.GetDSField(i));
+            ids.push_back(source.GetDSFieldID(i));
+        }
+    }
     formula = source.formula;
     caption = source.caption;
     StoreAlias(source.alias);
     sorting = source.sorting;
     sortOrder = source.sortOrder;
+    Tell();
+}
+
+// One that is not found keeps its ID.
+void TResultField::AddForeignField(const TDSField* field, int id) {
+    TKCustomDBStructure* structure = owner ? owner->DbStruct() : nullptr;
+    TDSField* own = structure ? structure->FieldByID(id) : nullptr;
+    if (!own && structure && field && !field->IsPlaceholder())
+        own = structure->FieldByName(false, field->GetCompoundName());
+    ids.push_back(own ? own->ID() : id);
+    fields.Add(own || !structure ? own : structure->PlaceholderField());
+}
+
+void TResultField::WillChange() {
+    if (!owner || !listed) return;
+    if (TKQueryRecord* record = owner->RecordOfChange()) record->ColumnChanges(*this);
+}
+
+void TResultField::Exchange(TResultField& twin) {
+    std::swap(fields, twin.fields);
+    ids.swap(twin.ids);
+    caption.swap(twin.caption);
+    formula.swap(twin.formula);
+    owner->AliasChanged(alias, twin.alias);
+    alias.swap(twin.alias);
+    std::swap(sorting, twin.sorting);
+    std::swap(sortOrder, twin.sortOrder);
     Tell();
 }
 

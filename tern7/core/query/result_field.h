@@ -16,6 +16,7 @@ namespace tern7 {
 
 class TKCustomDBStructure;
 class TKQuery;
+class TKQueryRecord;
 class TQueryResult;
 class TRFieldList;
 struct TRFieldListText;
@@ -43,7 +44,7 @@ public:
     /// Drops a field; the placeholders behind it are renumbered down by one.
     void DelDSField(int i);
     /// Replaces fields and formula at once (another field chosen: "@1"), and tells the query.
-    void SetFields(std::vector<TDSField*> newFields, std::string newFormula);
+    void SetFields(const std::vector<TDSField*>& newFields, std::string newFormula);
 
     const std::string& Caption() const { return caption; }
     const std::string& Alias() const { return alias; } ///< empty: none
@@ -74,7 +75,8 @@ public:
     bool GetAgregate() const;
     void GenerateAlias();
     void GenerateCaption();
-    /// Copies fields, formula, caption, alias, sorting and rank as they stand.
+    /// Copies fields, formula, caption, alias, sorting and rank as they stand. Fields of another
+    /// structure are found again by ID, else by compound name, else they are unknown.
     void Assign(const TResultField& source);
 
     /// The formula as users read it, each field as `{display name}`, or as
@@ -94,9 +96,15 @@ public:
 private:
     friend class TRFieldList;
     friend class TKQuery;
+    friend class TKQueryRecord;
     void StoreAlias(std::string value);
+    /// To be called before contents change.
+    void WillChange();
+    /// Exchanges contents with a column that is in no list.
+    void Exchange(TResultField& twin);
     void ReleaseReferences();
     void RestoreReferences();
+    void AddForeignField(const TDSField* field, int id);
     void Tell();
 
     TRFieldList* owner;
@@ -149,7 +157,7 @@ public:
     std::unique_ptr<TResultField> TakeField(int i);
     TResultField* PutField(int i, std::unique_ptr<TResultField> field);
     std::unique_ptr<TResultField> Erase(int i) { return TakeField(i); }
-    void Delete(int i) { TakeField(i); }
+    void Delete(int i);
     void Move(int from, int to);
     void Clear();
 
@@ -178,8 +186,13 @@ private:
     friend class TResultField;
     friend class TQueryResult;
     friend class TKQuery;
+    using TKObjectList::DeleteIf; // past the query
+    using TKObjectList::FreeAll;
+    using TKObjectList::Swap;
     void AliasChanged(const std::string& from, const std::string& to);
     void Tell();
+    /// Where changes of the query's own list are recorded; none for other lists.
+    TKQueryRecord* RecordOfChange();
 
     TQueryResult* result;
     bool quoteAliases = false;

@@ -2,6 +2,7 @@
 
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_record.h>
 #include <tern7/core/query/result_field.h>
 
 namespace tern7 {
@@ -19,12 +20,18 @@ TKCustomDBStructure* TRFieldList::DbStruct() const {
     return result ? result->DbStruct() : nullptr;
 }
 
+TKQueryRecord* TRFieldList::RecordOfChange() {
+    TKQuery* query = Query();
+    return query && &query->QResult().ResultFields() == this ? query->RecordOfChange() : nullptr;
+}
+
 void TRFieldList::Tell() {
     if (TKQuery* query = Query()) query->ResultFieldsChanged();
 }
 
 void TRFieldList::SetJustSorting(bool value) {
     if (value == justSorting) return;
+    if (TKQueryRecord* record = RecordOfChange()) record->JustSortingChanges();
     justSorting = value;
     Tell();
 }
@@ -81,8 +88,14 @@ std::unique_ptr<TResultField> TRFieldList::TakeField(int i) {
     AliasChanged(field->alias, {});
     field->listed = false;
     if (TKQuery* query = Query()) query->detachedFields.insert(field.get());
+    if (TKQueryRecord* record = RecordOfChange()) record->ColumnTaken(i, *field);
     Tell();
     return field;
+}
+
+void TRFieldList::Delete(int i) {
+    std::unique_ptr<TResultField> field = TakeField(i);
+    if (TKQuery* query = Query()) query->Drop(std::move(field));
 }
 
 TResultField* TRFieldList::PutField(int i, std::unique_ptr<TResultField> field) {
@@ -94,6 +107,7 @@ TResultField* TRFieldList::PutField(int i, std::unique_ptr<TResultField> field) 
     added->listed = true;
     AliasChanged({}, added->alias);
     if (TKQuery* query = Query()) query->detachedFields.erase(added);
+    if (TKQueryRecord* record = RecordOfChange()) record->ColumnPut(i, *added);
     Tell();
     return added;
 }
@@ -102,12 +116,18 @@ void TRFieldList::Move(int from, int to) {
     if (from < 0 || to < 0 || from >= GetCount() || to >= GetCount())
         throw std::out_of_range("list index out of range");
     if (from == to) return;
+    if (TKQueryRecord* record = RecordOfChange()) record->ColumnMoved(from, to);
     TKObjectList::Move(from, to);
     Tell();
 }
 
 void TRFieldList::Clear() {
     if (items.empty()) return;
+    if (RecordOfChange()) {
+        while (!items.empty())
+            Delete(GetCount() - 1);
+        return;
+    }
     for (const auto& field : items)
         field->owner = nullptr;
     FreeAll();
@@ -183,7 +203,7 @@ void TRFieldList::Assign(const TRFieldList& source) {
     const std::unique_ptr<TKQueryUpdate> update =
         Query() ? std::make_unique<TKQueryUpdate>(*Query()) : nullptr;
     Clear();
-    justSorting = source.justSorting;
+    SetJustSorting(source.justSorting);
     for (const auto& field : source)
         New(GetCount())->Assign(*field);
     Tell();

@@ -92,7 +92,7 @@ void WriteResultFields(TKIniWriter& out, const TRFieldList& list) {
 
 void TRFieldList::Assign(const TRFieldListText& text) {
     Clear();
-    justSorting = text.justSorting;
+    SetJustSorting(text.justSorting);
     for (const TRFieldListText::TColumn& column : text.columns) {
         // the strings as they stand: setters would make another alias, or drop fields
         std::unique_ptr<TResultField> field = CreateRField();

@@ -19,16 +19,26 @@ const std::vector<int>& TRTableList::Order() const {
 }
 
 const TResultTable& TRTableList::GetItem(int index) const {
+    if (index == 0 && first >= 0) return nodes[static_cast<size_t>(first)].entry;
     return nodes[static_cast<size_t>(Order().at(static_cast<size_t>(index)))].entry;
+}
+
+// A look at each of a few entries costs less than the index that most queries do without.
+int TRTableList::NodeOf(const TDSTable* table) const {
+    if (nodes.size() > FewTables) {
+        const auto found = nodeOf.find(table);
+        return found == nodeOf.end() ? -1 : found->second;
+    }
+    for (size_t node = 0; node < nodes.size(); ++node)
+        if (nodes[node].entry.Table == table) return static_cast<int>(node);
+    return -1;
 }
 
 void TRTableList::Join(TDSTable* table, TDSLink* link) {
     int behind = last;
     if (link) {
-        const auto other = nodeOf.find(link->OtherTable(table));
-        if (other == nodeOf.end())
-            throw EKQueryPanelError(std::string(messages::WrongResultTableLink));
-        behind = other->second;
+        behind = NodeOf(link->OtherTable(table));
+        if (behind < 0) throw EKQueryPanelError(std::string(messages::WrongResultTableLink));
     }
     const int node = static_cast<int>(nodes.size());
     int& next = behind < 0 ? first : nodes[static_cast<size_t>(behind)].next;
@@ -36,8 +46,13 @@ void TRTableList::Join(TDSTable* table, TDSLink* link) {
     next = node;
     nodes.push_back({{table, link}, rest});
     if (rest < 0) last = node;
-    nodeOf.try_emplace(table, node);
+    if (nodes.size() > FewTables) IndexFrom(nodes.size() == FewTables + 1 ? 0 : node);
     orderKnown = false;
+}
+
+void TRTableList::IndexFrom(int node) {
+    for (; node < GetCount(); ++node)
+        nodeOf.try_emplace(nodes[static_cast<size_t>(node)].entry.Table, node);
 }
 
 int TRTableList::Add(TDSTable* table, TDSLink* link) {

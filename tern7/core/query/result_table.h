@@ -31,7 +31,7 @@ public:
     int Add(TDSTable* table, TDSLink* link);
     /// As Add, without counting out the position: constant time.
     void Join(TDSTable* table, TDSLink* link);
-    bool Contains(const TDSTable* table) const { return nodeOf.contains(table); }
+    bool Contains(const TDSTable* table) const { return NodeOf(table) >= 0; }
     int IndexOf(const TDSTable* table) const; ///< -1 when absent
     /// By table name, ignoring case; none when absent.
     const TResultTable* Find(std::string_view name) const;
@@ -43,11 +43,14 @@ private:
         TResultTable entry;
         int next;
     };
+    static constexpr size_t FewTables = 16;
     const std::vector<int>& Order() const;
+    int NodeOf(const TDSTable* table) const;
+    void IndexFrom(int node);
     std::vector<TNode> nodes; // a linked list, so that joining does not move the others
     int first = -1, last = -1;
-    std::unordered_map<const TDSTable*, int> nodeOf;
-    mutable std::vector<int> order; // nodes by position, made when asked for
+    std::unordered_map<const TDSTable*, int> nodeOf; // of more than a few
+    mutable std::vector<int> order;                  // nodes by position, made when asked for
     mutable bool orderKnown = true;
 };
 

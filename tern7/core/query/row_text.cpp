@@ -119,8 +119,12 @@ std::string TKRowTexts::ListText(const TFilterCond& condition, int n) const {
     const TDSField* field = condition.Field();
     const auto* editor = field ? field->ValueEditorAs<TDSListEditor>() : nullptr;
     if (editor) Refresh(field->Structure());
-    auto caption = [&](std::string_view item) {
-        return editor ? listCaptions.CaptionOf(*editor, item) : item;
+    const bool boolean = !editor && condition.GetExprType() == TFieldType::ftBoolean;
+    auto caption = [&](std::string_view item) -> std::string_view {
+        if (editor) return listCaptions.CaptionOf(*editor, item);
+        if (boolean && item == "1" && !TrueText.empty()) return TrueText;
+        if (boolean && item == "0" && !FalseText.empty()) return FalseText;
+        return item;
     };
     if (!condition.IsListOperator()) return std::string(caption(value));
     std::string text;
@@ -197,10 +201,11 @@ void TKRowTexts::AddOpening(std::vector<TRowLabel>& labels, const TFilterCond& c
     if (const TFilterBracket* joined = row->Parent())
         labels.push_back(
             WordLabel(TRowLabelKind::rlBoolWord, BoolWord(joined->LinkType()), *joined));
-    for (auto bracket = opened.rbegin(); bracket != opened.rend(); ++bracket) {
-        const TFilterLinkType type = (*bracket)->LinkType();
+    std::reverse(opened.begin(), opened.end());
+    for (const TFilterBracket* bracket : opened) {
+        const TFilterLinkType type = bracket->LinkType();
         if (IsNegated(type))
-            labels.push_back(WordLabel(TRowLabelKind::rlBracketWord, BracketWord(type), **bracket));
+            labels.push_back(WordLabel(TRowLabelKind::rlBracketWord, BracketWord(type), *bracket));
         labels.push_back(Label(TRowLabelKind::rlOpen, "("));
     }
 }
@@ -236,7 +241,13 @@ std::string TKRowTexts::Sentence(const TFilterRow& row, TQPStyle style) const {
     bool opened = true; // nothing before, or "("
     for (const TRowLabel& label : Labels(row, style)) {
         if (!opened && label.kind != TRowLabelKind::rlClose) text += ' ';
-        text += label.text.empty() ? EmptyLabelText : label.text;
+        if (!label.text.empty())
+            text += label.text;
+        else if (label.kind == TRowLabelKind::rlValue &&
+                 row.AsCond()->Unfinished() == TUnfinished::No)
+            text += "\"\""; // an empty text that counts as a value
+        else
+            text += EmptyLabelText;
         if (label.kind == TRowLabelKind::rlParameter && !label.hint.empty())
             text += " (" + OneLine(GetBeforeSep(label.hint, "\n")) + ")";
         opened = label.kind == TRowLabelKind::rlOpen;

@@ -59,6 +59,9 @@ public:
 
     /// A field's text begins with the name of its group.
     bool ShowGroupName = false;
+    /// What is shown for 1 and 0 of Boolean operands without a list; empty: the value.
+    std::string TrueText;
+    std::string FalseText;
 
     /// The labels of a row in display order; those of the root are the header line. In the style
     /// psAndOr brackets have none: their marks stand at their first and last conditions.

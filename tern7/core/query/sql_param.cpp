@@ -7,8 +7,28 @@
 namespace tern7 {
 
 TSQLParam::~TSQLParam() {
+    Release();
+}
+
+void TSQLParam::Reserve(std::shared_ptr<TParamNames> where) {
+    names = std::move(where);
+    names->insert(LowerCase(name));
+}
+
+void TSQLParam::Release() {
     if (!names) return;
     if (auto it = names->find(LowerCase(name)); it != names->end()) names->erase(it);
+    names.reset();
+}
+
+std::unique_ptr<TSQLParam> TSQLParam::CopyFor(TFilterCond& other) const {
+    auto copy = std::make_unique<TSQLParam>(other, valueNumber);
+    copy->name = name;
+    copy->caption = caption;
+    copy->valueFormat = valueFormat;
+    copy->given = given;
+    copy->generated = generated;
+    return copy;
 }
 
 TFieldType TSQLParam::ExprType() const {

@@ -52,6 +52,12 @@ public:
 
 private:
     friend class TQueryResult;
+    friend class TFilterCond;
+    friend class TKQuery;
+    /// The name counts as taken while this lives, or until Release.
+    void Reserve(std::shared_ptr<TParamNames> where);
+    void Release();
+    std::unique_ptr<TSQLParam> CopyFor(TFilterCond& other) const;
     TFilterCond* condition;
     int valueNumber;
     std::string name;

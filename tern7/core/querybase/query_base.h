@@ -141,7 +141,8 @@ private:
 
     TKQuery* query;
     TKQueryBase* base = nullptr;
-    std::string shown; // the query's text when it was last the item's
+    std::string shown;         // the query's text when it was last the item's
+    bool hadMainTable = false; // the main table came with the item
 };
 
 } // namespace tern7

@@ -3,6 +3,7 @@
 #include <tern7/core/global/errors.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_text.h>
 #include <tern7/core/querybase/query_base.h>
 
 namespace tern7 {
@@ -70,6 +71,10 @@ void TKQueryBaseLink::Show(const std::string& text) {
             throw;
         }
     }
+    const bool hasMainTable = ReadQueryTextHead(text).hasMainTable;
+    // one that the application chose stays, unless main tables go with the texts
+    if (!hasMainTable && (hadMainTable || query->SaveMainTable)) query->SetMainTableName({});
+    hadMainTable = hasMainTable;
     shown = Text();
 }
 

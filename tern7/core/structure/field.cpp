@@ -99,6 +99,7 @@ void TDSField::SetFieldType(TFieldType value) {
 }
 
 void TDSField::SetFieldSize(int value) {
+    value = std::max(value, 0);
     if (value == fieldSize) return;
     fieldSize = value;
     structure.Changed();

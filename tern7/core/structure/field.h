@@ -58,7 +58,7 @@ public:
     void SetTable(TDSTable* value);
     void SetQuoted(bool value);
     void SetFieldType(TFieldType value);
-    void SetFieldSize(int value);
+    void SetFieldSize(int value); ///< a negative one is 0
     void SetUseInConditions(bool value);
     void SetUseInResult(bool value);
     /// A different type replaces the editor object; the same keeps it and its settings.

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <unordered_set>
 
 #include <tern7/core/structure/structure.h>
 
@@ -65,18 +66,22 @@ private:
 
 } // namespace
 
+std::vector<TDSTable*> TKCustomDBStructure::TablesOfExpression(std::string_view expression) const {
+    std::vector<TDSTable*> found;
+    std::unordered_set<const TDSTable*> known;
+    TPrefixScanner scanner(expression, SQLFormats());
+    for (TPrefix prefix; scanner.Next(prefix);)
+        if (TDSTable* named = TableByName(true, prefix.name); named && known.insert(named).second)
+            found.push_back(named);
+    return found;
+}
+
 const std::vector<TDSTable*>& TDSField::GetTables() const {
     static const std::vector<TDSTable*> none;
     if (kind == TKFieldKind::kfkData) return table ? table->self : none;
     if (!prefixTables) prefixTables = std::make_unique<TPrefixTables>();
     if (prefixTables->revision != structure.Revision()) {
-        std::vector<TDSTable*>& found = prefixTables->tables;
-        found.clear();
-        TPrefixScanner scanner(fieldExpr, structure.SQLFormats());
-        for (TPrefix prefix; scanner.Next(prefix);)
-            if (TDSTable* named = structure.TableByName(true, prefix.name))
-                if (std::find(found.begin(), found.end(), named) == found.end())
-                    found.push_back(named);
+        prefixTables->tables = structure.TablesOfExpression(fieldExpr);
         prefixTables->revision = structure.Revision();
     }
     return prefixTables->tables;

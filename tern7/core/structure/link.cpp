@@ -16,7 +16,7 @@ void TDSLink::SetTable(TDSTable*& end, TDSTable* table) {
     if (listed) {
         if (former != table1 && former != table2) former->DelLink(this);
         if (!known) table->AddLinkRef(this);
-        structure.ForgetPaths();
+        structure.TablesLinked(*table1, *table2);
         structure.Changed();
     }
 }

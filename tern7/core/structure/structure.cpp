@@ -9,7 +9,8 @@
 
 namespace tern7 {
 
-TKCustomDBStructure::TKCustomDBStructure() : indexes(std::make_unique<TIndexes>()) {
+TKCustomDBStructure::TKCustomDBStructure()
+    : indexes(std::make_unique<TIndexes>()), linkedSets(std::make_unique<TLinkedSets>()) {
     using enum TFieldType;
     quotedTypes = {ftString, ftBoolean, ftDate,      ftTime,       ftDateTime,
                    ftMemo,   ftFmtMemo, ftFixedChar, ftWideString, ftTimeStamp};
@@ -53,7 +54,7 @@ void TKCustomDBStructure::EndUpdate() {
 // A handler may remove itself, delete what the structure holds, or the structure.
 void TKCustomDBStructure::Notify() {
     changePending = false;
-    const std::weak_ptr<int> alive = life;
+    const std::weak_ptr<const void> alive = life.Watch();
     const std::vector<TDSObserver*> present = observers;
     for (TDSObserver* observer : present) {
         if (std::find(observers.begin(), observers.end(), observer) != observers.end())
@@ -119,6 +120,7 @@ void TKCustomDBStructure::ClearStructure() {
         links.Clear();
         fields.Clear();
         tables.Clear();
+        MakeLinkedSets();
         lastFieldOrder = 0;
         defaultMainTable.clear();
     }
@@ -155,8 +157,9 @@ void TKCustomDBStructure::SetRootFieldsFirst(bool value) {
 }
 
 void TKCustomDBStructure::SetDatabaseInfo(TKDBInfo* info) {
-    if (info == databaseInfo) return;
+    if (info == DatabaseInfo()) return;
     databaseInfo = info;
+    databaseLife = info ? info->Life().Watch() : std::weak_ptr<const void>();
     Changed();
 }
 

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include <tern7/core/corekit/life.h>
 #include <tern7/core/corekit/object_list.h>
 #include <tern7/core/global/errors.h>
 #include <tern7/core/global/events.h>
@@ -58,6 +59,8 @@ public:
     int GetTableCount() const { return tables.GetCount(); }
     /// By alias (`byAlias` true) or by table name (the first in list order).
     TDSTable* TableByName(bool byAlias, std::string_view name) const;
+    /// All tables of a table name, in list order.
+    std::vector<TDSTable*> TablesByName(std::string_view name) const;
     void ClearTables();
     /// Fills `names` with aliases or display names and `objects` with the tables.
     void GetTableNames(bool aliases, TStrings& names,
@@ -77,6 +80,9 @@ public:
     TDSField* FieldByName(bool byDisplayName, std::string_view name) const;
     /// The first field in list order whose SQL expression is the text, ignoring case and blanks.
     TDSField* FieldBySQLExpr(std::string_view expression) const;
+    /// The tables whose alias stands before a point in an SQL expression, outside literals, in order
+    /// of appearance.
+    std::vector<TDSTable*> TablesOfExpression(std::string_view expression) const;
     /// The fields that share a display name, in list order.
     std::vector<TDSField*> FieldsByDisplayName(std::string_view name) const;
     /// By full name (table display name, a blank, field display name); the first in list order.
@@ -155,6 +161,7 @@ public:
     /// Replaces tables, fields, groups, links and operators by those of another structure, through
     /// its text.
     void Assign(const TKCustomDBStructure& source);
+    void AssignTo(TKCustomDBStructure& target) const { target.Assign(*this); }
 
     // --- text form
     /// Warnings of the last reading, in words: newer version, repeated IDs, other encoding.
@@ -180,8 +187,8 @@ public:
     void SetDefaultMainTable(std::string alias);
     bool RootFieldsFirst() const { return rootFieldsFirst; }
     void SetRootFieldsFirst(bool value);
-    /// Not owned; the structure forgets it only when told so.
-    TKDBInfo* DatabaseInfo() const { return databaseInfo; }
+    /// Not owned; none when it was destroyed.
+    TKDBInfo* DatabaseInfo() const { return databaseLife.expired() ? nullptr : databaseInfo; }
     void SetDatabaseInfo(TKDBInfo* info);
 
     bool AutoAddFields = true;
@@ -220,6 +227,7 @@ private:
 
     struct TIndexes;   // lookups, built when first asked and kept up to date
     struct TPathTrees; // join paths found so far, kept until tables or links change
+    class TLinkedSets; // tables between which there is no path
     struct TContent;   // what a text says, before it replaces the present objects
 
     TIndexes& Indexes() const { return *indexes; }
@@ -228,6 +236,9 @@ private:
     void List(TDSOperator* op);
     void Unlist(const TDSField& field);
     void ForgetPaths();
+    void TableAdded(TDSTable& table);
+    void TablesLinked(const TDSTable& a, const TDSTable& b);
+    void MakeLinkedSets();
     void DropFieldLookups();
     void DeleteFieldsOf(const TDSTable* table);
     void DeleteLinksOf(const TDSTable* table);
@@ -252,6 +263,7 @@ private:
     TExOperators exOperators = TExOperators::All();
     TSQLFormats sqlFormats;
     TKDBInfo* databaseInfo = nullptr;
+    std::weak_ptr<const void> databaseLife;
     TQuotedTypes quotedTypes;
     double fileVersion = 3.3;
     std::string defaultMainTable;
@@ -270,9 +282,10 @@ private:
     std::vector<TDSObserver*> observers;
     std::vector<TDSObserver*> released; // those that RestoreReferences is owed to
     int releaseNesting = 0;
-    std::shared_ptr<int> life = std::make_shared<int>(); // tells Notify that it is gone
+    TKLife life; // tells Notify that it is gone
     mutable std::unique_ptr<TIndexes> indexes;
     mutable std::unique_ptr<TPathTrees> pathTrees;
+    std::unique_ptr<TLinkedSets> linkedSets; // never null
 };
 
 /// Keeps notification together: BeginUpdate while it lives. The last statement of a scope that

@@ -18,10 +18,11 @@ inline constexpr std::string_view SameAsField = "SameAsField";
 /// By the ordinals of TDSLinkType.
 inline constexpr std::array<std::string_view, 4> LinkTypes = {"Inner", "Left", "Right", "Full"};
 
-/// The section of a link; line breaks in an alias would end the header.
+/// The section of a link; a line break in an alias would end the header.
 inline std::string LinkSection(std::string_view alias1, std::string_view alias2) {
     std::string name = std::string("Link:").append(alias1).append("-").append(alias2);
-    return name.find_first_of("\r\n") == std::string::npos ? name : EncodePercent(name);
+    const bool fits = name.find_first_of("\r\n") == std::string::npos && IsUTF8(name);
+    return fits ? name : EncodePercent(name);
 }
 
 } // namespace tern7::structure_format

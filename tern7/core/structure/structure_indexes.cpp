@@ -146,6 +146,15 @@ TDSTable* TKCustomDBStructure::TableByName(bool byAlias, std::string_view name) 
                         [&](const TDSTable& table) { return SameText(keyOf(table), name); });
 }
 
+std::vector<TDSTable*> TKCustomDBStructure::TablesByName(std::string_view name) const {
+    std::vector<TDSTable*> found;
+    if (!TableByName(false, name)) return found;
+    indexes->tableNames.Each(HashOfText(name), [&](TDSTable* table) {
+        if (SameText(table->TableName(), name)) found.push_back(table);
+    });
+    return found;
+}
+
 TDSField* TKCustomDBStructure::FieldByID(int id) const {
     indexes->Fill(indexes->ids, fields, IDHash);
     return indexes->ids.First(HashOfNumber(id),

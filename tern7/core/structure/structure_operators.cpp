@@ -120,7 +120,7 @@ std::string TKCustomDBStructure::DefaultCaption(std::string_view name,
 
 void TKCustomDBStructure::FillDefOperator(TDSOperator& op, size_t row) const {
     const TDefaultOperator& wanted = DefaultOperators[row];
-    op.name = wanted.name;
+    if (op.name.empty()) op.name = wanted.name;
     op.displayName = DefaultCaption(wanted.name, wanted.caption);
     op.sqlTemplate.SetText(std::string(wanted.sqlTemplate));
     op.valFormat = wanted.valFormat;
@@ -169,8 +169,8 @@ void TKCustomDBStructure::DeleteOperatorByName(std::string_view name) {
     if (const int index = OperatorIndexByName(name); index >= 0) DelOperator(index);
 }
 
+// The same lines too bring back what was changed or deleted.
 void TKCustomDBStructure::SetDefOperators(TStrings lines) {
-    if (lines == defOperators) return;
     TDSUpdate nested(*this);
     defOperators = std::move(lines);
     AddDefOperators(true);

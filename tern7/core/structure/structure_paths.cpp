@@ -11,31 +11,13 @@ namespace tern7 {
 TDSLinkGraph::TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount) {
     targets.reserve(2 * static_cast<size_t>(linkCount));
     offsets.reserve(static_cast<size_t>(tables.GetCount()) + 1);
+    tableOf.reserve(static_cast<size_t>(tables.GetCount()));
     offsets.push_back(0);
     for (const auto& table : tables) {
+        tableOf.push_back(table.get());
         for (const TDSLink* link : table->Links())
             targets.push_back(static_cast<uint32_t>(link->OtherTable(table.get())->Index()));
         offsets.push_back(static_cast<uint32_t>(targets.size()));
-    }
-}
-
-void TDSLinkGraph::FindComponents() {
-    constexpr uint32_t none = 0xFFFFFFFF;
-    components.assign(Count(), none);
-    std::vector<uint32_t> open;
-    for (uint32_t first = 0; first < Count(); ++first) {
-        if (components[first] != none) continue;
-        components[first] = first;
-        open.push_back(first);
-        while (!open.empty()) {
-            const uint32_t table = open.back();
-            open.pop_back();
-            for (const uint32_t* to = Begin(table); to != End(table); ++to)
-                if (components[*to] == none) {
-                    components[*to] = first;
-                    open.push_back(*to);
-                }
-        }
     }
 }
 
@@ -43,28 +25,89 @@ bool TDSLinkGraph::HasLoop(uint32_t table) const {
     return std::find(Begin(table), End(table), table) != End(table);
 }
 
+// --- sets
+
+TKCustomDBStructure::TLinkedSets::TLinkedSets(const TKObjectList<TDSTable>& tables,
+                                              const TKObjectList<TDSLink>& links) {
+    parents.reserve(static_cast<size_t>(tables.GetCount()));
+    for (const auto& table : tables)
+        Add(*table);
+    for (const auto& link : links)
+        Join(*link->Table1(), *link->Table2());
+}
+
+void TKCustomDBStructure::TLinkedSets::Add(TDSTable& table) {
+    table.linkedSet = static_cast<uint32_t>(parents.size());
+    parents.push_back(table.linkedSet);
+}
+
+// Halves the way to the root for the next time, which keeps all ways short.
+uint32_t TKCustomDBStructure::TLinkedSets::SetOf(const TDSTable& table) {
+    uint32_t set = table.linkedSet;
+    while (parents[set] != set)
+        set = parents[set] = parents[parents[set]];
+    return set;
+}
+
+void TKCustomDBStructure::TableAdded(TDSTable& table) {
+    ForgetPaths();
+    linkedSets->Add(table);
+    // the numbers of tables that have gone are not used again
+    if (linkedSets->Count() > 2 * static_cast<size_t>(tables.GetCount()) + 64) MakeLinkedSets();
+}
+
+void TKCustomDBStructure::TablesLinked(const TDSTable& a, const TDSTable& b) {
+    ForgetPaths();
+    linkedSets->Join(a, b);
+}
+
+void TKCustomDBStructure::MakeLinkedSets() {
+    *linkedSets = TLinkedSets(tables, links);
+}
+
 // --- tree
 
 TDSPathTree::TDSPathTree(const TDSLinkGraph& ofGraph, uint32_t startTable)
-    : graph(ofGraph), start(startTable), parents(ofGraph.Count(), Unseen), depths(ofGraph.Count()),
-      queue(ofGraph.Count() + 1) {
-    parents[start] = start;
+    : graph(ofGraph), start(startTable), nodes(ofGraph.Count(), TNode{Unseen, Unseen}),
+      depths(ofGraph.Count()), queue(ofGraph.Count() + 1) {
+    nodes[start] = {start, start};
     queue[tail++] = start;
 }
 
 // A table is finished, with all its links, before the next one: so the tree can grow further later
 // and is the same as if it had been grown at once.
 bool TDSPathTree::GrowTo(uint32_t table) {
-    while (parents[table] == Unseen && head < tail) {
+    while (nodes[table].parent == Unseen && head < tail) {
         const uint32_t from = queue[head++];
+        const TNode node{from, nodes[nodes[from].parent].parent};
         for (const uint32_t* to = graph.Begin(from); to != graph.End(from); ++to)
-            if (parents[*to] == Unseen) {
-                parents[*to] = from;
+            if (nodes[*to].parent == Unseen) {
+                nodes[*to] = node;
                 depths[*to] = depths[from] + 1;
                 queue[tail++] = *to;
             }
     }
-    return parents[table] != Unseen;
+    return nodes[table].parent != Unseen;
+}
+
+void TDSPathTree::WritePath(uint32_t table, size_t valid, std::vector<TDSTable*>& path) const {
+    size_t place = depths[table];
+    path.resize(place + 1);
+    // Where the same table stands at the same place both ways are the same up to it.
+    while (place > 2) {
+        TDSTable* const here = graph.Table(table);
+        if (place < valid && path[place] == here) return;
+        const TNode node = nodes[table];
+        path[place] = here;
+        path[place - 1] = graph.Table(node.parent);
+        path[place - 2] = graph.Table(nodes[node.parent].parent);
+        table = node.third;
+        place -= 3;
+    }
+    for (;; --place, table = nodes[table].parent) {
+        path[place] = graph.Table(table);
+        if (place == 0) return;
+    }
 }
 
 TDSPathTree& TKCustomDBStructure::TPathTrees::TreeOf(uint32_t start) {
@@ -109,8 +152,10 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
     for (const TDSTable* table : {&start, &end})
         if (&table->Structure() != this || table->Index() < 0)
             throw EKDBStructError(FormatMessage(messages::NoSuchTable, {table->TableAlias()}));
+    if (!linkedSets->MayBeLinked(start, end))
+        throw EKDBStructError(std::string(messages::NoPath));
     if (!pathTrees) pathTrees = std::make_unique<TPathTrees>(tables, links.GetCount());
-    TDSLinkGraph& graph = pathTrees->graph;
+    const TDSLinkGraph& graph = pathTrees->graph;
     const auto from = static_cast<uint32_t>(start.Index());
     const auto to = static_cast<uint32_t>(end.Index());
 
@@ -123,25 +168,13 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
         path.tables.push_back(tables[start.Index()]);
         return path;
     }
-    if (!graph.MayBeConnected(from, to)) throw EKDBStructError(std::string(messages::NoPath));
 
     TDSPathTree& tree = pathTrees->TreeOf(from);
     if (!tree.GrowTo(to)) {
-        graph.FindComponents();
+        MakeLinkedSets();
         throw EKDBStructError(std::string(messages::NoPath));
     }
-    const uint32_t depth = tree.Depth(to);
-    const size_t valid = pathTrees->written == &tree ? path.tables.size() : 0;
-    path.tables.resize(depth + 1);
-    uint32_t table = to;
-    for (uint32_t d = depth;; --d, table = tree.Parent(table)) {
-        TDSTable*& place = path.tables[d];
-        TDSTable* const here = tables[static_cast<int>(table)];
-        // the rest is the way to this table, which the last path from this start took too
-        if (d < valid && place == here) break;
-        place = here;
-        if (d == 0) break;
-    }
+    tree.WritePath(to, pathTrees->written == &tree ? path.tables.size() : 0, path.tables);
     pathTrees->written = &tree;
     return path;
 }

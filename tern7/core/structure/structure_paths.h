@@ -14,20 +14,36 @@ class TDSLinkGraph {
 public:
     TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount);
 
-    uint32_t Count() const { return static_cast<uint32_t>(offsets.size()) - 1; }
+    uint32_t Count() const { return static_cast<uint32_t>(tableOf.size()); }
+    TDSTable* Table(uint32_t index) const { return tableOf[index]; }
     const uint32_t* Begin(uint32_t table) const { return targets.data() + offsets[table]; }
     const uint32_t* End(uint32_t table) const { return targets.data() + offsets[table + 1]; }
     bool HasLoop(uint32_t table) const;
-    /// False only when no chain of links leads from one table to the other; always true before
-    /// FindComponents, which a search without result calls.
-    bool MayBeConnected(uint32_t a, uint32_t b) const {
-        return components.empty() || components[a] == components[b];
-    }
-    void FindComponents();
 
 private:
     std::vector<uint32_t> offsets, targets;
-    std::vector<uint32_t> components;
+    std::vector<TDSTable*> tableOf;
+};
+
+/// Sets of tables of which no chain of links leads from one to another. They follow tables and links
+/// that are added. Links that go are not noticed: the tables that they joined stay in one set until a
+/// search has no result, which makes the sets anew.
+class TKCustomDBStructure::TLinkedSets {
+public:
+    TLinkedSets() = default;
+    TLinkedSets(const TKObjectList<TDSTable>& tables, const TKObjectList<TDSLink>& links);
+
+    /// False only when no chain of links leads from one table to the other.
+    bool MayBeLinked(const TDSTable& a, const TDSTable& b) { return SetOf(a) == SetOf(b); }
+    /// A new table, a set of its own.
+    void Add(TDSTable& table);
+    void Join(const TDSTable& a, const TDSTable& b) { parents[SetOf(a)] = SetOf(b); }
+    /// How many tables were added, also those that have gone since.
+    size_t Count() const { return parents.size(); }
+
+private:
+    std::vector<uint32_t> parents; // a forest: a set goes by the number of its root
+    uint32_t SetOf(const TDSTable& table);
 };
 
 /// The breadth-first tree of a start table, grown only as far as it was asked for.
@@ -40,16 +56,21 @@ public:
     uint32_t Start() const { return start; }
     /// Grows the tree until it holds the table; false when it can not be reached.
     bool GrowTo(uint32_t table);
-    /// The table before this one on the way from the start.
-    uint32_t Parent(uint32_t table) const { return parents[table]; }
-    uint32_t Depth(uint32_t table) const { return depths[table]; }
+    /// Writes the way from the start to a table that the tree holds. The first `valid` tables of
+    /// the path are those of another way from the start: only what differs is written.
+    void WritePath(uint32_t table, size_t valid, std::vector<TDSTable*>& path) const;
 
 private:
+    // Steps of three let the walk back over long paths go on before the last load is there.
+    struct TNode {
+        uint32_t parent; // on the way from the start; Unseen: not reached yet
+        uint32_t third;  // three tables before
+    };
     const TDSLinkGraph& graph;
     uint32_t start;
-    std::vector<uint32_t> parents; // Unseen: not reached yet
-    std::vector<uint32_t> depths;  // valid for what was reached
-    std::vector<uint32_t> queue;   // in the order of reaching; room for all tables and one more
+    std::vector<TNode> nodes;
+    std::vector<uint32_t> depths; // valid for what was reached
+    std::vector<uint32_t> queue;  // in the order of reaching; room for all tables and one more
     uint32_t head = 0, tail = 0;
 };
 

@@ -95,6 +95,7 @@ void TKStructureReader::ReadMain(const TKIniSection& main) {
     if (const std::string_view version = Trim(main.Raw("Version")); !version.empty()) {
         content->version = XStrToFloat(version, -1);
         if (content->version < 0) FailValue(main, "Version", version);
+        closesWithRootGroup = content->version >= 3;
         if (content->version > structure_format::Version)
             Warn(messages::NewerVersion, {version, XFloatToStr(structure_format::Version)});
     }
@@ -148,7 +149,7 @@ void TKStructureReader::ReadOperator(const TKIniSection& section, TDSOperator& o
         op.exprType = StrToFldType(exprType);
         if (!op.exprType) FailValue(section, "ExprType", exprType);
     }
-    if (section.Has("AppliedTypes")) op.appliedTypes = StrToFieldTypes(section.Raw("AppliedTypes"));
+    if (section.Has("AppliedTypes")) ReadAppliedTypes(section, op);
     if (const std::string_view type = Trim(section.Raw("ValueType")); !type.empty()) {
         const auto known = StrToOpValueType(type);
         if (!known) FailValue(section, "ValueType", type);
@@ -156,6 +157,15 @@ void TKStructureReader::ReadOperator(const TKIniSection& section, TDSOperator& o
     } else if (section.Bool("ValueIsList")) {
         op.valueType = TOpValueType::vtList;
     }
+}
+
+void TKStructureReader::ReadAppliedTypes(const TKIniSection& section, TDSOperator& op) {
+    op.appliedTypes = {};
+    for (const std::string& name : ParseCommaText(section.Raw("AppliedTypes")))
+        if (const auto type = StrToFldType(name))
+            op.appliedTypes.Include(*type);
+        else
+            Warn(messages::WrongValueOfKey, {"AppliedTypes", section.Name(), name});
 }
 
 void TKStructureReader::AddOperator(std::unique_ptr<TDSOperator> op) {
@@ -167,7 +177,7 @@ void TKStructureReader::AddOperator(std::unique_ptr<TDSOperator> op) {
 void TKStructureReader::MergeDefaults() {
     for (size_t row = 0; row < DefaultOperators.size(); ++row) {
         const TDefaultOperator& wanted = DefaultOperators[row];
-        if (operatorNames.count(wanted.name) ||
+        if (operatorNames.contains(wanted.name) ||
             (wanted.optional && !structure.exOperators.Contains(*wanted.optional)))
             continue;
         auto op = std::make_unique<TDSOperator>(structure);

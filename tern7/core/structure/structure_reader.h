@@ -40,6 +40,7 @@ private:
     void ReadMain(const TKIniSection& main);
     void ReadOperators(int count);
     void ReadOperator(const TKIniSection& section, TDSOperator& op);
+    void ReadAppliedTypes(const TKIniSection& section, TDSOperator& op);
     void MergeDefaults();
     void AddOperator(std::unique_ptr<TDSOperator> op);
     void ReadFormats(const TKIniSection& section);
@@ -91,6 +92,7 @@ private:
     std::unordered_map<int, TDSField*> fieldsByLargeID;
     std::vector<std::pair<TDSField*, int>> withoutID; // and the ID that could not be used
     std::vector<bool> placed;                         // by position: the field stands in a group
+    bool closesWithRootGroup = false;                 // as every text of this version does
     TDSTable* lastTable = nullptr; // most fields have the table of the field before
 };
 

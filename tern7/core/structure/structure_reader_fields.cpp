@@ -6,6 +6,7 @@
 
 #include <tern7/core/corekit/comma_text.h>
 #include <tern7/core/global/messages.h>
+#include <tern7/core/structure/structure_format.h>
 
 namespace tern7 {
 
@@ -34,7 +35,7 @@ void TKStructureReader::ReadField(const TKIniSection& section, TDSField& field, 
     ReadColumn(section, field);
     field.editType = static_cast<TDSEditType>(Ordinal(section, "EditType", 5));
     field.fieldType = static_cast<TFieldType>(Ordinal(section, "FieldType", FieldTypeCount));
-    field.fieldSize = section.Int("FieldSize");
+    field.fieldSize = Count(section, "FieldSize");
     field.quoted = section.Bool("Quoted");
     field.useInConditions = section.Bool("UIC", true);
     field.useInResult = section.Bool("UIR", true);
@@ -50,9 +51,9 @@ void TKStructureReader::ReadColumn(const TKIniSection& section, TDSField& field)
     if (field.kind == TKFieldKind::kfkVirtual) return;
     field.table = ReadTableOf(section);
     // whether the database has the column is not asked: reading needs no connection
-    if (field.fieldExpr.empty())
-        throw EKDBStructError(
-            FormatMessage(messages::FieldNotInTable, {"", field.table->TableName()}));
+    if (!field.fieldExpr.empty()) return;
+    if (!section.Has("FieldExpr")) FailValue(section, "FieldExpr", ""); // a text that was cut
+    throw EKDBStructError(FormatMessage(messages::FieldNotInTable, {"", field.table->TableName()}));
 }
 
 TDSTable* TKStructureReader::ReadTableOf(const TKIniSection& section) {
@@ -65,6 +66,7 @@ TDSTable* TKStructureReader::ReadTableOf(const TKIniSection& section) {
         table = TableByAlias(alias);
     } else {
         name = section.Text("TableName");
+        if (name.empty()) FailValue(section, "TableAlias", "");
         const auto found = tableNames.find(name);
         if (found != tableNames.end()) table = found->second;
     }
@@ -126,7 +128,7 @@ void TKStructureReader::ReadTextEditor(const TKIniSection& section, TDSTextEdito
     editor.EditKind = static_cast<TTextEditorKind>(Ordinal(section, "EditKind", 4));
     editor.EditMask = section.Text("EditMask");
     editor.FmtVal = static_cast<uint8_t>(Ordinal(section, "FmtVal", 256));
-    editor.Options = section.Int("Options");
+    editor.Options = Count(section, "Options");
 }
 
 // --- identifiers
@@ -187,8 +189,10 @@ void TKStructureReader::ReadGroups(int count) {
         group.groupName = section.Text("GroupName");
         ReadGroupFields(section, group.groupName, &group, group.fields);
     }
-    if (const TKIniSection* section = Next("RootGroup"))
+    if (const TKIniSection* section = Next(structure_format::RootGroupSection))
         ReadGroupFields(*section, section->Name(), nullptr, content->rootFields);
+    else if (closesWithRootGroup)
+        Warn(messages::SectionNotFound, {structure_format::RootGroupSection}); // cut off?
     PlaceRestInRoot();
 }
 

@@ -60,6 +60,7 @@ void TKStructureReader::ReadLinks(const TLinkTask& task) {
     std::unordered_map<const TDSTable*, size_t> behind; // the last section of each pair
     size_t expected = ini.PositionOf(*task.section);
     for (const std::string& alias : ParseCommaText(task.aliases)) {
+        if (alias.empty()) FailValue(*task.section, "Links", task.aliases);
         TDSTable* other = TableByAlias(alias);
         if (!other) throw EKDBStructError(FormatMessage(messages::NoSuchTable, {alias}));
         const std::string name = structure_format::LinkSection(

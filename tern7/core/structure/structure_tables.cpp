@@ -24,7 +24,7 @@ TDSTable* TKCustomDBStructure::AddTable(std::string name, std::string alias) {
     made->index = tables.GetCount();
     TDSTable* table = tables.Add(std::move(made));
     indexes->Add(table);
-    ForgetPaths();
+    TableAdded(*table);
     Changed();
     return table;
 }
@@ -57,9 +57,11 @@ void TKCustomDBStructure::ClearTables() {
         table->links.clear();
     links.Clear();
     DeleteFieldsOf(nullptr);
+    defaultMainTable.clear();
     indexes->DropTables();
     ForgetPaths();
     tables.Clear();
+    MakeLinkedSets();
     Changed();
 }
 
@@ -84,7 +86,7 @@ TDSLink* TKCustomDBStructure::AddLinkByRef(std::unique_ptr<TDSLink> added) {
     link->listed = true;
     link->table1->AddLinkRef(link);
     link->table2->AddLinkRef(link);
-    ForgetPaths();
+    TablesLinked(*link->table1, *link->table2);
     Changed();
     return link;
 }

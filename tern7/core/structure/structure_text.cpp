@@ -31,8 +31,8 @@ TKCustomDBStructure::ReadText(std::string_view text) {
 
 void TKCustomDBStructure::SetStructString(std::string_view text) {
     std::unique_ptr<TContent> content = ReadText(text);
-    if (databaseInfo && !content->databaseLines.empty()) {
-        databaseInfo->LoadInfo(content->databaseLines); // may fail: nothing is changed yet
+    if (TKDBInfo* info = DatabaseInfo(); info && !content->databaseLines.empty()) {
+        info->LoadInfo(content->databaseLines); // may fail: nothing is changed yet
         content->databaseLines.clear();
     }
     Adopt(std::move(content));
@@ -67,6 +67,7 @@ void TKCustomDBStructure::Adopt(std::unique_ptr<TContent> content) {
     tables.Swap(content->tables);
     fields.Swap(content->fields);
     links.Swap(content->links);
+    MakeLinkedSets();
     operators.Swap(content->operators);
     groups.items.swap(content->groups);
     groups.names.Drop();

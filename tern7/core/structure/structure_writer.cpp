@@ -160,9 +160,9 @@ void TKStructureWriter::WriteGroupFields(const TDSFieldList& fields) {
 
 void TKStructureWriter::WriteDatabaseLines() {
     TStrings lines = structure.databaseLines;
-    if (structure.databaseInfo) {
+    if (TKDBInfo* info = structure.DatabaseInfo()) {
         lines.clear();
-        structure.databaseInfo->SaveInfo(lines);
+        info->SaveInfo(lines);
     }
     if (lines.empty()) return;
     out.Section(structure_format::DatabaseSection);

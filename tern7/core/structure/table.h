@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -62,6 +63,7 @@ private:
     class TKeyChange;
     TKCustomDBStructure& structure;
     int index = -1;
+    uint32_t linkedSet = 0; // its number in the structure's linked sets
     std::string tableName;
     std::string displayName;
     std::string tableAlias;

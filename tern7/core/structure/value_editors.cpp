@@ -56,6 +56,10 @@ void TDSSQLEditor::SetOpened(bool value) {
     if (!info) throw EKDBStructError(std::string(messages::NoDatabaseInfo));
     TStrings values, captions;
     info->GetSQLValues(GetSQLText(), values, captions);
+    Adopt(std::move(values), std::move(captions));
+}
+
+void TDSSQLEditor::Adopt(TStrings values, TStrings captions) {
     Values = std::move(values);
     Items = std::move(captions);
     opened = true;

@@ -74,6 +74,8 @@ public:
     /// is not specified" without one; errors of the database pass through and leave it closed);
     /// closing clears them. Setting the present state does nothing.
     void SetOpened(bool value);
+    /// Opened, with lists that were read elsewhere by the statement.
+    void Adopt(TStrings values, TStrings captions);
     void Refresh() override;
 
 private:

@@ -75,7 +75,7 @@ TEST(IniText, SectionsOfStringLists) {
 TEST(IniWriter, EveryTextComesBack) {
     const std::string texts[] = {"",     "plain", " blank before", "blank behind ",        "a\r\nb",
                                  "%20",  " %20 ", "100 %",         std::string("a\0b", 3), "\t",
-                                 "ä\nö", "[x]"};
+                                 "ä\nö", "[x]",   "Caf\xE9",       " 5% \xE2\x82"};
     for (const std::string& text : texts) {
         TKIniWriter writer;
         writer.Section("S");
@@ -87,6 +87,7 @@ TEST(IniWriter, EveryTextComesBack) {
         EXPECT_EQ(ini.Find("S")->Int("Last"), 1);
         EXPECT_EQ(DecodePercent(EncodePercent(text)), text);
         EXPECT_TRUE(FitsOnLine(EncodePercent(text)));
+        EXPECT_TRUE(IsUTF8(file)) << "else all of the file is read as Windows-1252";
     }
     EXPECT_EQ(DecodePercent("5% %4 %zz%41"), "5% %4 %zzA");
 }
@@ -106,7 +107,8 @@ TEST(IniWriter, BodyLinesAreNoHeaders) {
     writer.Section("S");
     writer.Bool("B", true);
     writer.Key("K", "v");
-    EXPECT_EQ(writer.Take(), "[S]\nB=1\nK=v\n");
+    writer.BodyLine("Caf\xE9");
+    EXPECT_EQ(writer.Take(), "[S]\nB=1\nK=v\nCafé\n");
 }
 
 TEST(DecodeTextFile, UTF8OrWindows1252AsAWhole) {

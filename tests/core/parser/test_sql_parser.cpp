@@ -228,8 +228,9 @@ TEST(SQLParser, WhatIsLeftOut) {
         int line, column;
     } cases[] = {
         {"select a from t as x where a = 1", "x where a = 1", 1, 20},
-        {"select a from t where a = 1 having x", "", 1, 1}, // part of the value
-        {"select a from t where a = 1\nunion\nselect b from u", "select b from u", 3, 1},
+        {"select a from t where a = 1 having x", "having x", 1, 29},
+        {"select a from t where t.limit > t.limit limit 5", "limit 5", 1, 41},
+        {"select a from t where a = 1\nunion\nselect b from u", "union\nselect b from u", 2, 1},
         {"select a from t order by a limit 5 ", "limit 5", 1, 28},
         {"select a from t group by A.b having c", "b having c", 1, 28},
         {"select a from t;\n  select b from u", "select b from u", 2, 3},

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tern7/core/query/query_record.h>
+
 #include "shop.h"
 
 namespace tern7 {
@@ -32,8 +34,11 @@ TEST_F(TConditionText, OfEveryKind) {
         {"O.paid", "Equal", "1", "", "O.paid = '1'", "O.paid = ?|boolean:1"},
         {"O.placed", "Equal", "2024-02-01", "", "O.placed = '01.02.2024'",
          "O.placed = ?|text:01.02.2024"},
+        {"O.placed", "Equal", "12:30", "", "O.placed = '12:30'", "O.placed = ?|text:12:30"},
         {"O.sent", "Equal", "2024-02-01 10:00:00", "", "O.sent = '2024-02-01 10:00:00'",
          "O.sent = ?|timestamp:2024-02-01 10:00:00"},
+        {"O.sent", "Equal", "2024-02-01 10:00:00.25", "", "O.sent = '2024-02-01 10:00:00.25'",
+         "O.sent = ?|timestamp:2024-02-01 10:00:00.250"},
         {"C.city", "IsNull", "", "", "C.city is null", "C.city is null|"},
         {"C.city", "InList", "Rome,\"New York\"", "", "C.city in ('Rome','New York')",
          "C.city in (?, ?)|text:Rome|text:New York"},
@@ -65,6 +70,28 @@ TEST_F(TConditionText, OfEveryKind) {
     }
 }
 
+TEST_F(TConditionText, QuotesAreDoubledWhateverWayTheValueCame) {
+    TFilterCond* row = Add("C.city", "equal", "O'Hara");
+    TKQueryRecord record(query);
+    {
+        TKQueryRecording recording(query, record);
+        row->SetValue(1, "Hague");
+    }
+    EXPECT_THAT(SQL(), testing::HasSubstr("C.city = 'Hague'"));
+    record.Undo();
+    EXPECT_THAT(SQL(), testing::HasSubstr("C.city = 'O''Hara'"));
+    record.Redo();
+    EXPECT_THAT(SQL(), testing::HasSubstr("C.city = 'Hague'"));
+}
+
+TEST_F(TConditionText, DatesOfListsWithoutQuotes) {
+    structure.SQLFormats().SetDate("yyyymmdd");
+    structure.SetQuotedTypes({TFieldType::ftString});
+    query.CheckValues = false;
+    Add("O.placed", "InList", "2024-02-01,soon,2024-03-01");
+    EXPECT_THAT(SQL(), testing::HasSubstr("O.placed in (20240201,soon,20240301)"));
+}
+
 TEST_F(TConditionText, BareValuesAreOneTokenEach) {
     Add("C.city", "Equal", "x");
     query.BuildQuery();
@@ -91,6 +118,16 @@ TEST_F(TConditionText, BareValuesAreOneTokenEach) {
     EXPECT_THROW(query.BuildQuery(), EKWrongValueError);
     list->SetValue(1, "1,x) or (1=1");
     EXPECT_THROW(query.BuildQuery(), EKWrongValueError);
+    // what was a parameter is checked as soon as it is none
+    list->SetValue1IsParam(true);
+    query.BuildQuery();
+    query.QResult().ClearParams();
+    EXPECT_FALSE(list->ValueIsParam(1));
+    EXPECT_THROW(query.BuildQuery(), EKWrongValueError);
+    list->SetValue1IsParam(true);
+    query.QResult().DeleteParameter(list->Param(1));
+    EXPECT_FALSE(list->ValueIsParam(1));
+    EXPECT_THROW(query.BuildQuery(), EKWrongValueError);
 }
 
 TEST_F(TConditionText, ParametersReplaceTheWholeLiteral) {
@@ -108,6 +145,8 @@ TEST_F(TConditionText, ParametersReplaceTheWholeLiteral) {
     between->SetValue1IsParam(true);
     EXPECT_EQ(between->Param(1)->Caption(), "Amount param 1");
     EXPECT_EQ(between->Param(2)->Caption(), "Amount param 2");
+    EXPECT_EQ(query.QResult().AddParameter(*between), between->Param(2)) << "there is no third one";
+    EXPECT_EQ(query.QResult().GetParamCount(), 3);
     query.FindParam("City param")->SetValue("x%");
     const TBoundSQL bound = query.QResult().GetBoundSQL(TPlaceholderStyle::Numbered);
     EXPECT_THAT(bound.text, testing::HasSubstr("C.city like $1 AND\nO.amount between $2 and $3"));
@@ -127,14 +166,24 @@ TEST_F(TConditionText, WildcardsInValuesCanBeEscaped) {
 }
 
 TEST_F(TConditionText, NulIsRefusedBeforeAnythingRuns) {
-    Add("C.city", "Equal", std::string("a\0b", 3));
-    query.BuildQuery();
-    EXPECT_THROW(query.QResult().GetBoundSQL(), EKQueryPanelError);
+    for (const char* op : {"Equal", "Contains", "InList"})
+        for (const bool parameter : {false, true}) {
+            query.Root().ClearRows();
+            Add("C.city", op, std::string("a\0b", 3))->SetValue1IsParam(parameter);
+            query.BuildQuery();
+            try {
+                query.QResult().GetBoundSQL();
+                ADD_FAILURE() << op;
+            } catch (const EKQueryPanelError& error) {
+                EXPECT_STREQ(error.what(), "A value holds a NUL character");
+            }
+        }
 }
 
 TEST_F(TConditionText, SQLByNatureRunsOnlyWhenItIsClosed) {
     TFilterCond* row = Add("C.city", "Equal", "x");
-    for (const char* text : {"1=1; drop table c", "a --", "a /* b", "(a", "a)", "'a", "'a\\'", "a #"}) {
+    for (const char* text :
+         {"1=1; drop table c", "a --", "a /* b", "(a", "a)", "'a", "'a\\'", "a #"}) {
         SCOPED_TRACE(text);
         query.OnBuildSQL = [text](TFilterCond&, std::string& sql) { sql = text; };
         query.BuildQuery();
@@ -143,12 +192,43 @@ TEST_F(TConditionText, SQLByNatureRunsOnlyWhenItIsClosed) {
     }
     query.OnBuildSQL = [](TFilterCond&, std::string& sql) { sql = "lower(C.city) = 'it''s (x'"; };
     query.BuildQuery();
-    EXPECT_THAT(query.QResult().GetBoundSQL().text, testing::HasSubstr("lower(C.city) = 'it''s (x'"));
+    EXPECT_THAT(query.QResult().GetBoundSQL().text,
+                testing::HasSubstr("lower(C.city) = 'it''s (x'"));
     query.OnBuildSQL = [row](TFilterCond&, std::string&) { row->Query()->Root().DeleteRow(row); };
     EXPECT_THROW(query.BuildQuery(), EKQueryPanelError) << "rows stay while the query is built";
     query.OnBuildSQL = [](TFilterCond&, std::string& sql) { sql.clear(); };
     query.BuildQuery();
     EXPECT_EQ(query.QResult().Conditions().Lines(), (TStrings{" (", "", ")"}));
+}
+
+TEST_F(TConditionText, HandlersMaySaveButChangeNothing) {
+    TFilterCond* row = Add("C.city", "Equal", "x");
+    Add("C.city", "NotEqual", "y");
+    const std::string text = query.GetQueryString(), sql = SQL();
+    query.OnBuildSQL = [&](TFilterCond&, std::string&) {
+        EXPECT_EQ(query.GetQueryString(), text);
+        EXPECT_THROW(query.Root().DeleteRow(row), EKQueryPanelError) << "the build goes on";
+    };
+    EXPECT_EQ(SQL(), sql);
+    const std::function<void()> changes[] = {
+        [&] { query.SetQueryString(text); },
+        [&] { structure.OperatorByName("NotEqual")->SetSQLName("@f != '@1'"); },
+        [&] { structure.DelTable(0); },
+    };
+    for (const auto& change : changes) {
+        query.OnBuildSQL = [&](TFilterCond&, std::string&) { change(); };
+        EXPECT_THROW(query.BuildQuery(), EKQueryPanelError);
+    }
+    query.OnBuildSQL = nullptr;
+    EXPECT_EQ(query.UnfinishedRows().size(), 2u) << "their field went with its table";
+}
+
+TEST_F(TConditionText, TextsOfUnrecognizedConditionsBringTheirTable) {
+    TFilterCond* row = query.Root().AddCond();
+    row->SetField(Field("O.amount"));
+    row->SetUnknownOperator("Near");
+    row->SetSQLText("O.amount ~ 5");
+    EXPECT_EQ(SQL(), "SELECT *\nFROM Orders O\nWHERE\n (\nO.amount ~ 5\n)");
 }
 
 TEST_F(TConditionText, UnfinishedRowsAreLeftOutAndNamed) {
@@ -203,11 +283,27 @@ TEST_F(TConditionText, SubQueriesAreBuiltIntoTheirCondition) {
                                          "O.id = :Param3\n"
                                          ")"));
     TStrings names;
-    for (const TSQLParam* param : query.AllParams()) names.push_back(param->Name());
+    for (const TSQLParam* param : query.AllParams())
+        names.push_back(param->Name());
     EXPECT_EQ(names, (TStrings{"Param1", "Param2", "Param3"}));
     const TBoundSQL bound = query.QResult().GetBoundSQL();
     ASSERT_EQ(bound.values.size(), 3u);
     EXPECT_EQ(bound.values[1].text, "O'Hara");
+
+    // a handler that is assigned when the nested query is there already
+    query.OnBuildSQL = [](TFilterCond& condition, std::string& text) {
+        if (condition.Value(1) == "O'Hara") text = "upper(" + text + ")";
+    };
+    EXPECT_THAT(SQL(), testing::HasSubstr("WHERE ( upper(C.city = :Param2) )"));
+    query.OnBuildSQL = nullptr;
+
+    // a damaged text matters only where its row takes part
+    row->SetEnabled(false);
+    row->SetSubQuery("damaged");
+    EXPECT_THAT(SQL(), testing::EndsWith(" (\nO.id = :Param1 AND\nO.id = :Param3\n)"));
+    EXPECT_EQ(query.AllParams().size(), 2u);
+    row->SetEnabled(true);
+    EXPECT_THROW(query.BuildQuery(), EKQueryPanelError);
 
     row->SetSubQuery("");
     row->SetValue(1, "select id from Customer");

@@ -168,6 +168,18 @@ TEST_F(TRows, TakenRowsAndColumnsComeBackAsTheyWere) {
     EXPECT_THAT(SQL(), testing::HasSubstr("O.id = :Param1"));
     EXPECT_NE(SQL(), before);
 
+    // parameters that come and go while their row is out
+    taken = query.Root().TakeRow(other);
+    other->SetValue1IsParam(false);
+    query.Root().InsertRow(0, std::move(taken));
+    EXPECT_EQ(other->Param(1), nullptr);
+    taken = query.Root().TakeRow(other);
+    other->SetValue1IsParam(true);
+    EXPECT_EQ(query.QResult().GetParamCount(), 1) << "none while it is out";
+    query.Root().InsertRow(0, std::move(taken));
+    ASSERT_TRUE(other->Param(1));
+    EXPECT_EQ(query.QResult().GetParamCount(), 2);
+
     std::unique_ptr<TFilterRow> late;
     {
         TKQuery shortLived(&structure);
@@ -188,8 +200,13 @@ TEST_F(TRows, NothingDanglesWhenTheStructureGoes) {
     row->SetValue(1, "1");
     query.QResult().ResultFields().AddByExpression("n", TSortingType::stNoSort, "{C.id}");
     const std::string before = SQL();
+    TFilterCond* unknown = query.Root().AddCond();
+    unknown->SetField(owned->PlaceholderField());
+    unknown->SetOperator(owned->PlaceholderOperator());
     owned->SetStructString(owned->GetStructString());
     EXPECT_EQ(SQL(), before) << "found again after a reload";
+    EXPECT_EQ(unknown->Field(), owned->PlaceholderField()) << "without ID or name";
+    EXPECT_EQ(unknown->Operator(), owned->PlaceholderOperator());
     owned->DeleteOperatorByName("Equal");
     EXPECT_EQ(row->Unfinished(), TUnfinished::UnknownOperator);
     EXPECT_EQ(row->OperatorName(), "Equal");
@@ -197,13 +214,15 @@ TEST_F(TRows, NothingDanglesWhenTheStructureGoes) {
     EXPECT_EQ(query.DbStruct(), nullptr);
     EXPECT_EQ(row->Field(), nullptr);
     EXPECT_THROW(query.BuildQuery(), EKQueryPanelError);
+    EXPECT_THROW(query.QResult().GetSQL(), EKQueryPanelError);
     query.SetDbStruct(&structure);
     EXPECT_EQ(SQL(), before);
 }
 
 TEST_F(TRows, NestingHasALimit) {
     TFilterBracket* bracket = &query.Root();
-    for (int level = 1; level <= 1000; ++level) bracket = bracket->AddBracket();
+    for (int level = 1; level <= 1000; ++level)
+        bracket = bracket->AddBracket();
     EXPECT_THROW(bracket->AddBracket(), EKQueryPanelError);
     EXPECT_EQ(bracket->GetRowCount(), 0);
     Add(*bracket, "C.id", "Equal", "1");

@@ -121,6 +121,12 @@ TEST_F(QueryFormat, OptionsAndMainTableOnlyWhenAskedFor) {
     other.SetQueryString(query.GetQueryString());
     EXPECT_EQ(other.SQLOptions(), quoted);
     EXPECT_EQ(other.MainTableName(), "E");
+    // one that keeps main tables takes it that a text has none
+    query.SetMainTableName("");
+    EXPECT_EQ(query.GetQueryString().find("MainTable"), std::string::npos);
+    other.SaveMainTable = true;
+    other.SetQueryString(query.GetQueryString());
+    EXPECT_EQ(other.MainTableName(), "");
 }
 
 TEST_F(QueryFormat, Captions) {

@@ -50,13 +50,13 @@ all of the following apply
 any of the following apply
 Amount is between 1 and 2
 Customer Name is null
-City is equal to _____
+City is equal to ""
 _____
 )");
     const char* const words = R"(City is equal to Berlin
 and none ((Amount is between 1 and 2
 or Customer Name is null)
-or City is equal to _____)
+or City is equal to "")
 and _____
 )";
     customer->SetDisplayName("Customer");

@@ -94,6 +94,28 @@ TEST_F(QueryBase, AnUnreadableTextStaysWhereItIs) {
     EXPECT_EQ(Shown(query), "edited");
 }
 
+TEST_F(QueryBase, MainTablesComeAndGoWithTheirItem) {
+    query.SaveMainTable = true;
+    query.SetMainTableName("O");
+    base.AddItem("with a main table", "", TextFor("x"));
+    for (bool saved : {true, false}) {
+        query.SaveMainTable = saved;
+        query.SetMainTableName("C"); // the application's
+        link.SetQueryBase(&base);
+        base.SetItemIndex(0);
+        base.Open();
+        EXPECT_EQ(query.MainTableName(), saved ? "" : "C");
+        base.SetItemIndex(3);
+        EXPECT_EQ(query.MainTableName(), "O");
+        base.SetItemIndex(0);
+        EXPECT_EQ(query.MainTableName(), "");
+        base.SetItemIndex(3);
+        base.Close();
+        EXPECT_EQ(query.MainTableName(), "") << "nothing is left of the item";
+        link.SetQueryBase(nullptr);
+    }
+}
+
 TEST_F(QueryBase, ItemsComeAndGo) {
     link.SetQueryBase(&base);
     base.SetItemIndex(1);

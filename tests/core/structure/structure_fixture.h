@@ -105,9 +105,9 @@ public:
 private:
     int Below(int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); }
     std::string Text() {
-        static const std::string texts[] = {
-            "",    "a",     " a ",      "a,b", "\"q\"", "x=y",    "[s]",   "a\nb",
-            "%0A", "Link:", "ü\r\n[x]", "a-b", "'it'",  " [in]x", "\ttab", "long text with blanks"};
+        static const std::string texts[] = {"",     "a",      " a ",   "a,b",    "\"q\"",    "x=y",
+                                            "[s]",  "a\nb",   "%0A",   "Link:",  "ü\r\n[x]", "a-b",
+                                            "'it'", " [in]x", "\ttab", "Caf\xE9"};
         return texts[static_cast<size_t>(Below(16))];
     }
     TStrings Lines() {

@@ -85,7 +85,9 @@ TEST(Model, DeletingATable) {
     EXPECT_EQ(structure.DefaultMainTable(), "");
     EXPECT_EQ(structure.FieldByID(3), nullptr);
     EXPECT_EQ(structure.FieldByName(true, "Date"), nullptr);
+    structure.SetDefaultMainTable("E");
     structure.ClearTables();
+    EXPECT_EQ(structure.DefaultMainTable(), "");
     EXPECT_THAT(Names(structure.RootGroup()), ElementsAre("Label"));
     EXPECT_TRUE(structure.GetEmpty()) << "one field counts as empty";
     EXPECT_EQ(structure.AddField(TKFieldKind::kfkVirtual, "1", "", nullptr)->ID(), 7)

@@ -78,6 +78,11 @@ TEST(Operators, CaptionsComeFromTheLines) {
     EXPECT_EQ(OperatorNames(structure).back(), "LessThan") << "defaults that lack come back";
     structure.UpdateOperatorCaption("EQUAL", "is");
     EXPECT_EQ(structure.GetOperator(0)->DisplayName(), "is");
+    structure.GetOperator(0)->SetName("EQUAL");
+    structure.GetOperator(0)->SetSQLName("x");
+    structure.SetDefOperators(lines);
+    EXPECT_EQ(structure.GetOperator(0)->SQLName(), "@f = '@1'") << "the same lines restore too";
+    EXPECT_EQ(structure.GetOperator(0)->Name(), "EQUAL");
     structure.ClearStructure();
     EXPECT_EQ(structure.GetOperator(0)->DisplayName(), "equals");
     EXPECT_EQ(structure.GetOperatCount(), 13);

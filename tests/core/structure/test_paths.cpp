@@ -64,9 +64,8 @@ TEST(Paths, SameAsTheLiteralSearch) {
     };
     for (int round = 0; round < 200; ++round) {
         TKCustomDBStructure structure;
-        const int tables = 1 + below(7);
-        AddTables(structure, tables);
-        auto any = [&] { return structure.GetTable(below(tables)); };
+        AddTables(structure, 1 + below(7));
+        auto any = [&] { return structure.GetTable(below(structure.GetTableCount())); };
         for (int links = below(12); links > 0; --links) // with several between two, and loops
             structure.AddLink(any()->TableAlias(), any()->TableAlias());
         for (int query = 0; query < 60; ++query) {
@@ -74,6 +73,8 @@ TEST(Paths, SameAsTheLiteralSearch) {
             if (below(15) == 0) structure.AddLink(any()->TableAlias(), any()->TableAlias());
             if (below(15) == 0 && structure.GetLinkCount() > 0)
                 structure.GetLink(0)->SetTable2(any());
+            if (below(15) == 0) structure.AddTable("t", "");
+            if (below(15) == 0 && structure.GetTableCount() > 1) structure.DelTable(any()->Index());
             TDSTable *start = any(), *end = any();
             const std::vector<TDSTable*> expected = LiteralPath(start, end);
             if (expected.empty())

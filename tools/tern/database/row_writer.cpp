@@ -6,6 +6,7 @@
 #include <unordered_map>
 
 #include <tern7/core/corekit/strings.h>
+#include <tern7/sql/csv_row.h>
 
 #include "../json.h"
 #include "../streams.h"
@@ -96,35 +97,9 @@ private:
 
 class TCsvWriter : public TRowWriter {
 public:
-    void Begin(const std::vector<std::string>& columns) override {
-        std::string line;
-        for (const std::string& name : columns)
-            AppendField(line, &name != &columns.front(), name);
-        Print(line + "\r\n");
-    }
-
-    void Row(const std::vector<TBoundValue>& cells) override {
-        std::string line;
-        for (const TBoundValue& cell : cells) {
-            const bool behind = &cell != &cells.front();
-            if (cell.kind != TKind::Null)
-                AppendField(line, behind, cell.text);
-            else if (behind)
-                line += ',';
-        }
-        Print(line + "\r\n");
-    }
-
+    void Begin(const std::vector<std::string>& columns) override { Print(CsvRow(columns)); }
+    void Row(const std::vector<TBoundValue>& cells) override { Print(CsvRow(cells)); }
     void End() override {}
-
-private:
-    static void AppendField(std::string& line, bool behind, std::string_view text) {
-        if (behind) line += ',';
-        if (text.empty() || text.find_first_of(",\"\r\n") != std::string_view::npos)
-            line += QuotedString(text, '"');
-        else
-            line += text;
-    }
 };
 
 class TJsonWriter : public TRowWriter {

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+#include <tern7/core/query/read_sql/import_names.h>
+#include <tern7/core/query/read_sql/sql_report.h>
+
+namespace tern7 {
+
+/// A link of the structure that a statement joins by.
+struct TImportedJoin {
+    const TDSLink* link;
+    bool keeps1 = false; ///< rows of the link's first table stay without partner
+    bool keeps2 = false;
+    bool isOn = false;
+    std::vector<const TColumnPair*> pairs;
+};
+
+/// A set of syntaxes.
+class TSyntaxes {
+public:
+    constexpr TSyntaxes(std::initializer_list<TSQLSyntax> syntaxes) {
+        for (TSQLSyntax syntax : syntaxes)
+            bits |= 1u << static_cast<unsigned>(syntax);
+    }
+    static constexpr TSyntaxes All() {
+        return {TSQLSyntax::ssSQL1, TSQLSyntax::ssSQL2, TSQLSyntax::ssOracle};
+    }
+    bool Contains(TSQLSyntax syntax) const { return (bits >> static_cast<unsigned>(syntax)) & 1u; }
+    bool IsEmpty() const { return bits == 0; }
+    TSyntaxes operator&(TSyntaxes other) const {
+        other.bits &= bits;
+        return other;
+    }
+    /// The wanted one if it is here, else the first.
+    TSQLSyntax Choose(TSQLSyntax wanted) const {
+        if (Contains(wanted)) return wanted;
+        if (Contains(TSQLSyntax::ssSQL1)) return TSQLSyntax::ssSQL1;
+        return Contains(TSQLSyntax::ssSQL2) ? TSQLSyntax::ssSQL2 : TSQLSyntax::ssOracle;
+    }
+
+private:
+    unsigned bits = 0;
+};
+
+/// The joins of a statement: comparisons of columns that are links of the structure, and what else
+/// stands in the conditions of joins.
+class TImportJoins {
+public:
+    TImportJoins(TImportParser& statementParser, const TKCustomDBStructure& owner);
+
+    /// To be called once, before all others: tells tables apart and finds the links.
+    void Find();
+    TImportNames& Names() { return names; }
+    const std::vector<TImportedJoin>& Joins() const { return joins; }
+    /// The syntaxes that the text can be in.
+    TSyntaxes Syntaxes() const;
+    /// Decides which comparisons are joins, and says so in the report; the others stay conditions.
+    /// Those of ON that must become rows are appended to the list.
+    void Decide(TSQLSyntax syntax, std::vector<TImportNode*>& rows, TSQLReport& report);
+    /// Whether conditions stand in brackets, as far as the joins in WHERE show it.
+    std::optional<bool> BracketConditions() const;
+
+private:
+    void CollectOn(size_t table);
+    void CollectUsing(size_t table);
+    void CollectAnd(TImportNode& node, size_t table, bool isOn);
+    void AddPair(TImportNode& node, size_t table, bool isOn);
+    void FindLink(const TDSTable& first, const TDSTable& second,
+                  const std::vector<const TColumnPair*>& candidates);
+    void TakeKind(TImportedJoin& join) const;
+    bool SameKind(const TImportedJoin& join, TSQLSyntax syntax) const;
+    bool CanBeRow(const TImportedJoin& join) const;
+    void DecideJoin(const TImportedJoin& join, TSQLSyntax syntax, TSQLReport& report);
+    void DecideRest(size_t table, std::vector<TImportNode*>& rows, TSQLReport& report);
+    size_t OffsetOf(TTokenRange range);
+
+    TImportParser& parser;
+    TImportStatement& statement;
+    TImportNames names;
+    std::vector<TColumnPair> pairs;
+    std::vector<TImportedJoin> joins;
+    std::vector<std::vector<TImportNode*>> onNodes; // what ON joins by "and", by table
+    bool anyMarked = false;                         // with (+)
+    bool anyRightOrFull = false;
+};
+
+} // namespace tern7

@@ -1,0 +1,191 @@
+#include <tern7/core/query/read_sql/import_sql.h>
+
+#include <algorithm>
+
+#include <tern7/core/global/messages.h>
+#include <tern7/core/query/query.h>
+#include <tern7/core/query/query_state.h>
+
+namespace tern7 {
+
+namespace {
+
+using TReport = TSQLReportKind;
+
+constexpr std::string_view noTable = "the structure has no such table";
+constexpr std::string_view unknownNames = "it names what the structure does not have";
+constexpr std::string_view aliasChanged = "another column has this alias";
+constexpr std::string_view notSaid = "a query can not say it";
+
+bool HasNonAsciiChar(std::string_view text) {
+    return std::any_of(text.begin(), text.end(),
+                       [](char c) { return static_cast<unsigned char>(c) > 127; });
+}
+
+/// Conditions below, and how many of them stand in brackets of their own.
+struct TLeafCount {
+    size_t all = 0, bracketed = 0;
+
+    void Add(const TImportNode& node) {
+        for (const TImportNode* each : node.nodes)
+            Add(*each);
+        if (node.IsGroup() || node.isJoin) return;
+        ++all;
+        bracketed += node.brackets > 0 ? 1 : 0;
+    }
+};
+
+/// Brackets that the rows of a condition need.
+int RowLevels(const TImportNode& node) {
+    int levels = 0;
+    for (const TImportNode* each : node.nodes)
+        levels = std::max(levels, RowLevels(*each));
+    return levels + (node.IsGroup() || node.notBefore ? 1 : 0);
+}
+
+} // namespace
+
+const TSQLReport& TKQuery::ImportSQL(const TStrings& lines) {
+    return ImportSQL(JoinStrings(lines, "\n"));
+}
+
+const TSQLReport& TKQuery::ImportSQL(std::string_view sql) {
+    RequireStruct();
+    RequireChangeable();
+    const bool wasActive = active;
+    SetActive(false); // and so it stays when the reading fails
+    {
+        const TBuilderStateScope loading(*this, TKBuilderState::stLoading);
+        TSubSelectBudget budget(sql.size());
+        TSQLImporter importer(*this, budget, false);
+        importer.Parse(sql);
+        ClearAll();
+        StoreSQLReport(importer.Fill());
+    }
+    SetActive(wasActive);
+    ParametersListChanged();
+    return SQLReport();
+}
+
+TSQLImporter::TSQLImporter(TKQuery& owner, TSubSelectBudget& subSelectBudget, bool nested)
+    : query(owner), structure(owner.RequireStruct()), budget(subSelectBudget),
+      recognition(owner, true),
+      parser(structure.SQLFormats().QuoteSymbol1(), structure.SQLFormats().QuoteSymbol2(), nested),
+      statement(parser.Statement()) {}
+
+void TSQLImporter::Parse(std::string_view sql) {
+    parser.SetText(std::string(sql));
+    parser.Parse();
+    source = parser.Result().Source();
+    const auto refuseDeep = [this](const TImportNode* condition) {
+        if (!condition || RowLevels(*condition) < MaxRowLevel) return;
+        parser.Tokens().GotoBookmark(condition->all.from);
+        RaiseSQLError(messages::WrongSQL, parser.Tokens().GetTokLine());
+    };
+    refuseDeep(statement.where);
+    for (const TImportTable& table : statement.tables)
+        refuseDeep(table.on);
+}
+
+TSQLReport TSQLImporter::Fill() {
+    joins = std::make_unique<TImportJoins>(parser, structure);
+    joins->Find();
+    syntaxes = joins->Syntaxes();
+    joins->Decide(syntaxes.Choose(query.SQLSyntax()), rowsOfJoins, report);
+    SetOptions();
+    AddTables();
+    AddColumns();
+    AddSorting();
+    AddRows();
+    query.SetSQLSyntax(syntaxes.Choose(query.SQLSyntax()));
+    for (const TImportLoss& loss : statement.losses)
+        Report(TReport::rkDropped, loss.what, loss.all, notSaid);
+    const TSQLRest& rest = parser.Result().Rest;
+    if (!rest.text.empty())
+        report.Add(TReport::rkDropped, "rest", rest.text, source->OffsetOf(rest.text), notSaid);
+    CheckGrouping();
+    CheckTables();
+    report.Place(*source);
+    return std::move(report);
+}
+
+void TSQLImporter::Report(TSQLReportKind kind, std::string_view what, TTokenRange range,
+                          std::string_view reason) {
+    const std::string_view text = parser.Written(range);
+    report.Add(kind, what, text, source->OffsetOf(text), reason);
+}
+
+std::string TSQLImporter::Rewrite(TTokenRange range) {
+    return joins->Names().Rewrite(range);
+}
+
+// --- options, tables, columns
+
+std::optional<bool> TSQLImporter::BracketConditions() const {
+    TLeafCount count;
+    if (statement.where) count.Add(*statement.where);
+    if (count.all > 0) return count.bracketed == count.all;
+    return joins->BracketConditions();
+}
+
+void TSQLImporter::SetOptions() {
+    TSQLOptions options = query.SQLOptions();
+    const auto set = [&options](TSQLOption option, bool value) {
+        value ? options.Include(option) : options.Exclude(option);
+    };
+    const auto any = [this](bool (*property)(const TImportColumn&)) {
+        return std::any_of(statement.columns.begin(), statement.columns.end(), property);
+    };
+    set(TSQLOption::soSelectDistinct, statement.distinct);
+    if (any([](const TImportColumn& column) { return column.hasAlias; }))
+        set(TSQLOption::soQuoteAliases,
+            any([](const TImportColumn& column) { return column.isAliasQuoted; }));
+    if (any([](const TImportColumn& column) { return HasNonAsciiChar(column.alias); }))
+        options.Exclude(TSQLOption::soASCIIRFields);
+    if (statement.anyJoinWord && statement.tables.size() > 2)
+        set(TSQLOption::soBracketJoins, statement.bracketJoins);
+    if (const std::optional<bool> brackets = BracketConditions())
+        set(TSQLOption::soBracketConditions, *brackets);
+    query.SetSQLOptions(options);
+}
+
+void TSQLImporter::AddTables() {
+    query.SetMainTableName({});
+    for (size_t i = 0; i < statement.tables.size(); ++i) {
+        const TImportTable& table = statement.tables[i];
+        const TDSTable* const known = joins->Names().TableOf(i);
+        if (!known) {
+            Report(TReport::rkDropped, table.name.empty() ? "derived table" : "table", table.all,
+                   table.name.empty() ? notSaid : noTable);
+            continue;
+        }
+        if (query.MainTableName().empty()) query.SetMainTableName(known->TableAlias());
+        const bool areHintsKnown = parser.Written(table.hints) == known->Hints();
+        if (!areHintsKnown && !table.hints.IsEmpty())
+            Report(TReport::rkDropped, "hint", table.hints, notSaid);
+    }
+}
+
+void TSQLImporter::AddColumns() {
+    for (const TImportColumn& column : statement.columns)
+        AddColumn(column);
+}
+
+void TSQLImporter::AddColumn(const TImportColumn& column) {
+    TRFieldList& fields = query.QResult().ResultFields();
+    joins->Names().TakePlainColumn();
+    const std::string text = Rewrite(column.expression);
+    const bool isUnknown = joins->Names().TakeUnknown();
+    const bool isText = joins->Names().TakePlainColumn() || isUnknown;
+    hasUnknownNames = hasUnknownNames || isUnknown;
+    TResultField& field = *fields.AddBySQLExpr(column.alias, TSortingType::stNoSort, text);
+    // a literal that looks like a placeholder would be replaced
+    if (ComparableText(field.GetSQLExpr()) != ComparableText(text)) field.SetFields({}, text);
+    field.SetAlias(column.alias);
+    Report(isText ? TReport::rkKeptAsText : TReport::rkRecognised, "column", column.expression,
+           isText ? unknownNames : std::string_view());
+    if (field.Alias() != column.alias)
+        Report(TReport::rkDropped, "alias", column.expression, aliasChanged);
+}
+
+} // namespace tern7

@@ -1,0 +1,114 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <tern7/core/query/filter_row.h>
+#include <tern7/core/query/read_sql/condition_recognition.h>
+#include <tern7/core/query/read_sql/import_joins.h>
+#include <tern7/core/query/read_sql/parse_sql.h>
+#include <tern7/core/query/result_field.h>
+
+namespace tern7 {
+
+/// Makes a query of a whole statement, so that the statement built from it gives the same rows, and
+/// reports what is recognised, kept as text or dropped.
+class TSQLImporter {
+public:
+    TSQLImporter(TKQuery& owner, TSubSelectBudget& subSelectBudget, bool nested);
+
+    /// Reads the text and leaves the query alone. ESQLParserError.
+    void Parse(std::string_view sql);
+    /// Fills the query, which was cleared.
+    TSQLReport Fill();
+    /// True when the statement names tables that it does not have: those of one around it.
+    bool HasUnknownNames() const { return hasUnknownNames; }
+    /// Names of the parameters in the order of the rows, those of sub-selects included.
+    const TStrings& ParamNames() const { return paramNames; }
+    /// The syntaxes in which the query gives the statement.
+    TSyntaxes Syntaxes() const { return syntaxes; }
+
+private:
+    // options, tables, columns
+    void SetOptions();
+    std::optional<bool> BracketConditions() const;
+    void AddTables();
+    void AddColumns();
+    void AddColumn(const TImportColumn& column);
+    // rows
+    void AddRows();
+    void FillBracket(TFilterBracket& bracket, const TImportNode& group);
+    void AddNode(TFilterBracket& bracket, const TImportNode& node);
+    void AddCondition(TFilterBracket& bracket, const TImportNode& node);
+    bool AddRecognised(TFilterBracket& bracket, const TImportNode& node, bool negated);
+    bool ImportSubQuery(const TRecognisedCondition& found, const TImportNode& node,
+                        TFilterCond& row);
+    void AddText(TFilterBracket& bracket, const TImportNode& node);
+    void NameParam(const TFilterCond& row, int n, const std::string& name, const TImportNode& node);
+    void NameNestedParams(const TFilterCond& row, const TStrings& names);
+    TSQLCondition& MakeCondition(const TImportNode& node, bool negated);
+    std::string ValueText(const TImportNode& node);
+    // sorting and grouping
+    void AddSorting();
+    void SortAllFields();
+    size_t LastTableOf(const TDSField& field) const;
+    void CheckGrouping();
+    // what the query makes of it
+    void CheckTables();
+    void CheckJoins();
+
+    void Report(TSQLReportKind kind, std::string_view what, TTokenRange range,
+                std::string_view reason = {});
+    std::string Rewrite(TTokenRange range);
+
+    TKQuery& query;
+    const TKCustomDBStructure& structure;
+    TSubSelectBudget& budget;
+    TConditionRecognition recognition;
+    TImportParser parser;
+    TImportStatement& statement;
+    std::unique_ptr<TImportJoins> joins;
+    std::vector<TImportNode*> rowsOfJoins;
+    std::shared_ptr<const TKSourceText> source;
+    TSQLReport report;
+    TStrings paramNames;
+    TSyntaxes syntaxes = TSyntaxes::All();
+    bool hasUnknownNames = false;
+};
+
+/// Sorting of columns that were added, by name or number.
+class TImportSorter {
+public:
+    explicit TImportSorter(TRFieldList& list);
+    struct TItem {
+        std::string text; ///< as the structure writes it
+        std::string name; ///< when the item is one name
+        int number = 0;   ///< when it is a number
+        bool descending = false;
+    };
+    /// Sorts the columns; gives the positions of the items that can not be said.
+    std::vector<size_t> Sort(const std::vector<TItem>& items);
+    /// True when the statement has to name what it sorts by.
+    bool ByNames() const { return byNames; }
+
+private:
+    struct TChoice {
+        TResultField* byName = nullptr;
+        TResultField* byNumber = nullptr;
+    };
+    TChoice ChoiceFor(const TItem& item);
+
+    TRFieldList& fields;
+    std::unordered_map<std::string, std::vector<TResultField*>> bySortText;
+    std::unordered_map<std::string, TResultField*> byExpression, byAlias;
+    bool byNames = false;
+};
+
+/// A text without blanks and in lower case, to be compared with others.
+std::string ComparableText(std::string_view text);
+/// What a sorted column is sorted by where names are written.
+std::string SortText(const TResultField& field);
+
+} // namespace tern7
