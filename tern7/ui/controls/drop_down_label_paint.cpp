@@ -50,7 +50,11 @@ void TDropDownLabel::paintEvent(QPaintEvent*) {
     if (ternTextWidth(OneLine(Caption()), TextFont()) > area.width())
         shown = painter.fontMetrics().elidedText(shown, Qt::ElideRight, area.width(),
                                                  Qt::TextShowMnemonic);
-    painter.drawText(area, static_cast<int>(side) | Qt::TextShowMnemonic | Qt::TextSingleLine,
+    // the order of its words is the text's own, wherever the label is read from: "1 Jan 2020"
+    painter.setLayoutDirection(shown.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.drawText(area,
+                     static_cast<int>(side | Qt::AlignAbsolute) | Qt::TextShowMnemonic |
+                         Qt::TextSingleLine,
                      shown);
     if (!focused && !hasFocus()) return;
     const QColor navy = ColorFromNumber(clNavy);

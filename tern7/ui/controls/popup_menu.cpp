@@ -100,9 +100,9 @@ void TKPopupMenu::PopupAt(const QRect& at) {
     }
 }
 
+/// Frame and search field don't count: a menu that just does not fit because of them scrolls.
 void TKPopupMenu::SplitIntoColumns() {
-    const int chrome = 2 * FrameWidth() + (search ? search->sizeHint().height() : 0);
-    const int limit = (ScreenRoom().height() - chrome) / RowHeight();
+    const int limit = ScreenRoom().height() / RowHeight();
     ForgetBreaks(*root);
     Split(*root, std::max(limit, 1), splitType, breakType);
 }

@@ -76,11 +76,12 @@ void TKRndBtn::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
     const bool arrow =
         key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (key == Qt::Key_Return || key == Qt::Key_Enter)
         click();
     else if (!arrow)
         QPushButton::keyPressEvent(event);
-    else if (!FocusNeighbour(*this, key))
+    else if (!plain || !FocusNeighbour(*this, key))
         event->ignore();
 }
 

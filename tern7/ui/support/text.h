@@ -7,14 +7,14 @@
 
 namespace tern7 {
 
-/// Texts cross between core (UTF-8) and screen here and nowhere else.
+/// Texts cross between core (UTF-8) and screen here and nowhere else. Tern7::Sql has the same two, word
+/// for word, because neither library may know the other.
 inline QString ToQt(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 inline std::string FromQt(const QString& text) {
-    const QByteArray bytes = text.toUtf8();
-    return {bytes.constData(), static_cast<size_t>(bytes.size())};
+    return text.toStdString();
 }
 
 } // namespace tern7

@@ -58,7 +58,7 @@ TEST(Edit, Protocol) {
 }
 
 TEST(Edit, KeysByValueType) {
-    using enum TValueType;
+    using enum TDropDownCustomEdit::TValueType;
     const struct {
         TValueType type;
         QString value, typed, result;

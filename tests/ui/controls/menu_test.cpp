@@ -192,7 +192,7 @@ TEST(Popup, ChosenByKeys) {
 
 TEST(Popup, ArrowsAreMirrored) {
     TOpenPopup t;
-    t.label->move(420, 20);
+    t.label->move(320, 20);
     t.label->SetBiDiMode(Qt::RightToLeft);
     ASSERT_TRUE(t.Open());
     TKPopupMenu* menu = t.label->Menu();

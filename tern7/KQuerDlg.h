@@ -1,0 +1,3 @@
+#pragma once
+
+#include <tern7/ui/dialogs/sub_query_dialog.h>

@@ -1,0 +1,3 @@
+#pragma once
+
+#include <tern7/ui/dialogs/result_fields_editor.h>

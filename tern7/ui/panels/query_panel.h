@@ -1,0 +1,373 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include <QAbstractScrollArea>
+#include <QIcon>
+#include <QPointer>
+
+#include <tern7/core/query/query.h>
+#include <tern7/core/query/row_geometry.h>
+#include <tern7/core/query/row_lines.h>
+#include <tern7/core/query/row_text.h>
+#include <tern7/core/querybase/query_base.h>
+#include <tern7/ui/panels/appearance.h>
+#include <tern7/ui/panels/query_editor.h>
+#include <tern7/ui/support/dialog_services.h>
+
+namespace tern7 {
+
+class TDropDownLabel;
+class TFilterRowView;
+class TKPopupMenu;
+class TRowDrag;
+class TSQLListReader;
+
+/// The condition builder: shows the rows of a query as lines of labels that are clicked and edited
+/// in place, under a header line. It owns the query (a TKQuery) and shows it whoever changes it.
+///
+///     auto* panel = new TKQueryPanel(form);
+///     panel->SetDbStruct(&structure);
+///     panel->OnChange = [](TKQueryPanel& p) { p.BuildQuery(); show(p.QResult().GetSQL()); };
+///
+/// Rows have controls only while they are in sight: ten thousand conditions open as fast as ten.
+/// Every event may delete rows, the structure or the panel. What users do goes through `Editor`.
+class TKQueryPanel : public QAbstractScrollArea, private TKQueryView {
+    Q_OBJECT
+    Q_PROPERTY(QString QueryName READ QueryName WRITE SetQueryName)
+    Q_PROPERTY(QString MainTableName READ MainTableName WRITE SetMainTableName)
+    Q_PROPERTY(bool SaveTitles READ SaveTitles WRITE SetSaveTitles)
+    Q_PROPERTY(bool SaveSQLOptions READ SaveSQLOptions WRITE SetSaveSQLOptions)
+    Q_PROPERTY(int RowSpace READ RowSpace WRITE SetRowSpace)
+    Q_PROPERTY(int TabSpace READ TabSpace WRITE SetTabSpace)
+    Q_PROPERTY(int ElemSpace READ ElemSpace WRITE SetElemSpace)
+    Q_PROPERTY(int HeaderLeft READ HeaderLeft WRITE SetHeaderLeft)
+    Q_PROPERTY(int HeaderTop READ HeaderTop WRITE SetHeaderTop)
+    Q_PROPERTY(int MaxPopupItemCount READ MaxPopupItemCount WRITE SetMaxPopupItemCount)
+    Q_PROPERTY(QString HelpFileName READ HelpFileName WRITE SetHelpFileName)
+    Q_PROPERTY(int RFEHelpContext READ RFEHelpContext WRITE SetRFEHelpContext)
+    Q_PROPERTY(QString DbStructName READ DbStructName WRITE SetDbStructName)
+    Q_PROPERTY(QByteArray Titles READ TitlesText WRITE SetTitlesText)
+    Q_PROPERTY(QByteArray Description READ DescriptionText WRITE SetDescriptionText)
+    Q_PROPERTY(QByteArray UserData READ UserDataText WRITE SetUserDataText)
+
+public:
+    explicit TKQueryPanel(QWidget* parent = nullptr);
+    /// A panel over a query that was made elsewhere, as a sub-query is.
+    TKQueryPanel(std::unique_ptr<TKQuery> shownQuery, QWidget* parent);
+    ~TKQueryPanel() override;
+
+    // --- the query
+    TKQuery& Query() const { return *query; }
+    TFilterBracket& Root() const { return query->Root(); }
+    TQueryResult& QResult() const { return query->QResult(); }
+    /// What users do, in steps that can be undone; for menus, keys and buttons of an application as
+    /// well.
+    TKQueryEditor& Editor() { return *editor; }
+    /// The structure that was set, else that of the form's component DbStructName.
+    TKCustomDBStructure* DbStruct();
+    /// Not owned; it may go first.
+    void SetDbStruct(TKCustomDBStructure* structure);
+    /// Object name of a TKDBStructure on the same form; it is looked for when it is needed.
+    QString DbStructName() const { return dbStructName; }
+    void SetDbStructName(const QString& name);
+    /// Stored queries that the panel shows one of; not owned, it may go first.
+    TKQueryBase* QueryBase() const { return baseLink.QueryBase(); }
+    /// EKQueryPanelError when the base is open and its current text can not be read.
+    void SetQueryBase(TKQueryBase* base) { baseLink.SetQueryBase(base); }
+    TKQueryBaseLink& QueryBaseLink() { return baseLink; }
+    void BuildQuery() { query->BuildQuery(); }
+    void ClearAll() { query->ClearAll(); }
+    bool Active() const { return query->Active(); }
+    void SetActive(bool value) { query->SetActive(value); }
+    void SaveToStrings(TStrings& text) { query->SaveToStrings(text); }
+    /// EKQueryPanelError for a text that can not be read; the query is as it was then, and shown.
+    void LoadFromStrings(const TStrings& text);
+    void SaveToFile(const QString& fileName);
+    void LoadFromFile(const QString& fileName);
+
+    QString QueryName() const;
+    void SetQueryName(const QString& value);
+    QString MainTableName() const;
+    void SetMainTableName(const QString& value);
+    bool SaveTitles() const { return query->SaveTitles; }
+    void SetSaveTitles(bool value) { query->SaveTitles = value; }
+    bool SaveSQLOptions() const { return query->SaveSQLOptions; }
+    void SetSaveSQLOptions(bool value) { query->SaveSQLOptions = value; }
+    TSQLOptions SQLOptions() const { return query->SQLOptions(); }
+    void SetSQLOptions(TSQLOptions value) { query->SetSQLOptions(value); }
+    TSQLSyntax SQLSyntax() const { return query->SQLSyntax(); }
+    void SetSQLSyntax(TSQLSyntax value) { query->SetSQLSyntax(value); }
+    bool CheckValues() const { return query->CheckValues; }
+    void SetCheckValues(bool value);
+    TStrings& Description() const { return query->Description; }
+    TStrings& UserData() const { return query->UserData; }
+    /// The captions; the panel shows others at once.
+    const TStrings& Titles() const { return query->Titles; }
+    void SetTitles(const TStrings& titles);
+    QByteArray TitlesText() const;
+    void SetTitlesText(const QByteArray& text);
+    QByteArray DescriptionText() const;
+    void SetDescriptionText(const QByteArray& text);
+    QByteArray UserDataText() const;
+    void SetUserDataText(const QByteArray& text);
+    /// The caption of a key, the default one where Titles have none.
+    QString Title(std::string_view key) const;
+
+    // --- looks
+    TQPAppearance& Appearance() const { return *appearance; }
+    TQPAppearance& ViewOptions() const { return *appearance; }
+    int RowSpace() const { return geometry.RowSpace; }
+    void SetRowSpace(int value) { SetGeometryValue(geometry.RowSpace, value); }
+    int TabSpace() const { return geometry.TabSpace; }
+    void SetTabSpace(int value) { SetGeometryValue(geometry.TabSpace, value); }
+    int ElemSpace() const { return geometry.ElemSpace; }
+    void SetElemSpace(int value) { SetGeometryValue(geometry.ElemSpace, value); }
+    int HeaderLeft() const { return geometry.HeaderLeft; }
+    void SetHeaderLeft(int value) { SetGeometryValue(geometry.HeaderLeft, value); }
+    int HeaderTop() const { return geometry.HeaderTop; }
+    void SetHeaderTop(int value) { SetGeometryValue(geometry.HeaderTop, value); }
+    /// How many items a column of the field menu holds; 0 leaves that to the screen.
+    int MaxPopupItemCount() const { return maxPopupItemCount; }
+    void SetMaxPopupItemCount(int value) { maxPopupItemCount = value; }
+    /// The images that the image events mean.
+    const QList<QIcon>& Images() const { return images; }
+    void SetImages(const QList<QIcon>& icons) { images = icons; }
+    QString HelpFileName() const { return helpFileName; }
+    void SetHelpFileName(const QString& name) { helpFileName = name; }
+    int RFEHelpContext() const { return rfeHelpContext; }
+    void SetRFEHelpContext(int context) { rfeHelpContext = context; }
+
+    // --- rows on the screen
+    /// The lines as they are shown.
+    const TRowLines& Lines();
+    const TRowGeometry& Geometry() const { return geometry; }
+    /// Scrolls to the row and gives its controls; none for a row without a line.
+    TFilterRowView* RowView(TFilterRow& row);
+    /// The controls of a row that has some now; else none.
+    TFilterRowView* ExistingView(const TFilterRow& row) const;
+    /// The row that a widget (a label, its editor, a button) belongs to; none for others.
+    TFilterRowView* ViewOf(const QWidget* widget) const;
+    TFilterRow* RowAt(const QPoint& inViewport);
+    /// Where a line stands in the viewport, over its whole width.
+    QRect LineRect(int line) const;
+    TDropDownLabel* AddRowLabel() const { return addRowLabel; }
+    /// The row that commands work on: the one that had the focus last; the root at first.
+    TFilterRow& CurrentRow() const;
+    void SetCurrentRow(TFilterRow& row);
+    /// The current row when it is a bracket, else the bracket around it.
+    TFilterBracket& CurrentBracket() const;
+    /// Scrolls to the row and gives it the focus: its control of that index, or the nearest one.
+    void FocusRow(TFilterRow& row, int control = -1);
+    /// The last row of the screen's page, for page keys.
+    int LinesInSight() const;
+    void ScrollToLine(int line);
+    /// Scrolls a control of a row into sight.
+    void ScrollToControl(const QWidget& control);
+    /// Closes an open editor, menu or list of a row; true when there was one.
+    bool CloseEdit(bool accept = true);
+    /// Numbers all rows and places them again, at once.
+    void PlaceAllRows();
+    void EnumerateRows() { query->EnumerateRows(); }
+    /// Shows everything anew.
+    void RefreshPanel();
+
+    // --- commands
+    /// Into the current bracket, behind the current row; they get the focus.
+    TFilterCond* InsertCondition();
+    TFilterBracket* InsertBracket();
+    void DeleteRow(TFilterRow& row);
+    // what the keys do, for menus and buttons of an application as well; on the current row
+    void DeleteCurrentRow();
+    void SwitchCurrentRow();
+    void MoveCurrentRowUp();
+    void MoveCurrentRowDown();
+    void DuplicateCurrentRow();
+    void CutCurrentRow();
+    /// All rows, when the current one is the header line.
+    void CopyCurrentRow();
+    /// Behind the current row, or into the current bracket. Nothing when the clipboard holds no
+    /// rows.
+    void PasteRows();
+    void PopupCurrentRowMenu();
+    /// The row that came back, or was changed, gets the focus where the panel has it.
+    void Undo();
+    void Redo();
+    /// By command number, see TPanelCommand.
+    void MenuItemClick(int command);
+    /// By command number, see TValueCommand; works on the value label of the current row that has
+    /// the focus, else on value 1.
+    void ValueMenuItemClick(int command);
+    TKPopupMenu& AddMenu();
+    TKPopupMenu& RowMenu();
+    TKPopupMenu& ValueMenu();
+    /// Opens the row menu below a rectangle of the screen.
+    void PopupRowMenu(TFilterRow& row, const QRect& anchor);
+    void PopupAddMenu(const QPoint& at);
+    /// Opens the value menu of a value.
+    void VPopup(TFilterCond& condition, int n, const QRect& anchor);
+    /// Says beside a value why there is no list to choose from (yet). The list opens when it comes.
+    void PopupListState(TFilterRowView& view, int n);
+    /// Edits the captions in a dialog; false when they are as before.
+    bool EditTitles();
+    /// Opens the result fields editor on the columns of the query; true when they were changed.
+    /// EKQueryPanelError "Database structure is not specified" without a structure.
+    bool EditResultFields();
+    /// Edits a sub-query in a dialog; false when it is as before.
+    bool EditSubQuery(TFilterCond& condition);
+    /// What a dialog's Help button does: OnRFEHelpClick where the result fields are edited, else it
+    /// opens the help file (at the context); empty when there is neither.
+    std::function<void()> HelpCall(bool forResultFields = false);
+    /// Runs what a user asked for. An error is shown beside the panel. False when the panel was
+    /// deleted meanwhile.
+    bool Do(const std::function<void(TKQueryEditor& editor)>& change);
+
+    // --- events
+    TEvent<TKQueryPanel&> OnActive;
+    TEvent<TKQueryPanel&> OnChange;
+    TEvent<TKQueryPanel&> OnParamListChange;
+    TEvent<TKQueryPanel&> OnRFEHelpClick;
+    TEvent<TFilterCond&, int> OnConditionChange;
+    TEvent<TFilterCond&, int /*value number*/> OnValueAltClick;
+    TEvent<const QString& /*group*/, int& /*imageIndex*/> OnGetGroupImageIndex;
+    TEvent<const QString& /*group*/, const QString& /*item*/, int& /*imageIndex*/>
+        OnGetItemImageIndex;
+    // these are the query's own
+    TEvent<TFilterCond&, std::string&>& OnBuildSQL;
+    TEvent<TFilterCond&, std::string&, std::string&>& OnSetValue;
+    TEvent<TDSField&, const std::string&, std::string&>& OnChangeValue;
+    TEvent<TDSField&, std::string&>& OnCustomEdit;
+    TEvent<TFilterCond&, std::string&>& OnCustomValue;
+    TEvent<TFilterCond&, std::string&>& OnValueDblClick;
+
+    /// The dialogs that the panel opens.
+    TKDialogServices Dialogs = StandardDialogs();
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    // --- for the row views
+    TSQLListReader& ListReader() const { return *listReader; }
+    const TKRowTexts& RowTexts() const { return *rowTexts; }
+    TRowDrag& RowDrag() const { return *rowDrag; }
+    int TextHeight() const { return textHeight; }
+    bool ReadsFromRight() const { return layoutDirection() == Qt::RightToLeft; }
+    /// Moves a widget to its place in content that is read from the left.
+    void PutAt(QWidget& widget, int left, int top) const;
+    /// The row's controls changed their sizes: place everything again, soon.
+    void Invalidate();
+
+signals:
+    void changed();
+    void activated();
+    void paramListChanged();
+    void conditionChanged(tern7::TFilterCond* condition, int whatChanged);
+    void currentRowChanged();
+
+protected:
+    bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    using TViews = std::unordered_map<const TFilterRow*, std::unique_ptr<TFilterRowView>>;
+
+    void Init();
+    void HookEvents();
+    void SetGeometryValue(int& member, int value);
+
+    // what the query tells (query_panel_view.cpp)
+    void RowsAdded(TFilterBracket& parent, int index, int count) override;
+    void RowsRemoved(TFilterBracket& parent, int index, int count) override;
+    void RowsRenumbered() override;
+    void RowChanged(TFilterRow& row) override;
+    void ValueEditorsChanged(TFilterRow& row) override;
+    void ResultFieldsChanged() override {}
+    void ParametersChanged() override;
+    void EverythingChanged() override;
+    void CloseEditors() override;
+    void QueryDestroyed() override;
+
+    // placing (query_panel_layout.cpp)
+    void MeasureLine();
+    void ReadTitles();
+    void Lay();
+    void BuildLines();
+    void SetScrollRanges();
+    void MakeViews();
+    void PlaceViews();
+    void PlaceAddRow();
+    void ChainFocus();
+    int LabelLeft(int level, bool header) const;
+    int ContentHeight() const;
+    int ContentWidth() const;
+    void DropViewsBelow(const TFilterRow& row);
+    TViews::iterator DropView(TViews::iterator view);
+    bool IsKept(const TFilterRowView& view) const;
+    TFilterRowView& MakeView(TFilterRow& row);
+
+    // keys (query_panel_keys.cpp)
+    bool TakesKey(const QKeyEvent& event) const;
+    void ChangeCurrentRow(bool (TKQueryEditor::*change)(TFilterRow&));
+    void Replay(void (TKQueryEditor::*step)());
+
+    // menus and focus
+    void CreateMenus();
+    void FocusChanged(QWidget* now);
+    void FocusAfterDelete(TFilterRow* next);
+    void AddRowClicked();
+    void FillServices();
+    void FillListMenu(const TDSField& field);
+    void ListFinished();
+    void OpenFieldMenu(TFilterCond& condition);
+    void PaintGuides(class QPainter& painter, int firstLine, int lastLine) const;
+
+    std::shared_ptr<TKQuery> query; // shared with a running change, which may delete the panel
+    std::shared_ptr<TKQueryEditor> editor;
+    TKQueryBaseLink baseLink;
+    TQPAppearance* appearance;
+    TRowGeometry geometry;
+    std::unique_ptr<TKRowTexts> rowTexts;
+    TStrings knownTitles; // that rowTexts and menus are made of
+    TRowLines lines;
+    TViews views;
+    TDropDownLabel* addRowLabel;
+    TKPopupMenu* addMenu;
+    TKPopupMenu* rowMenu;
+    TKPopupMenu* valueMenu;
+    TKPopupMenu* listMenu;
+    TSQLListReader* listReader;
+    TRowDrag* rowDrag;
+    QPointer<TFilterRowView> waitingView; // where listMenu stands
+    int waitingValue = 0;
+    TFilterRow* current = nullptr; // none: the root
+    int valueMenuNumber = 1;
+    int textHeight = 1;
+    int buttonWidth = 0;
+    int checkBoxWidth = 0;
+    int widest = 0; // of the rows seen so far
+    int maxPopupItemCount = 0;
+    int rfeHelpContext = 0;
+    QString helpFileName;
+    QString dbStructName;
+    QList<QIcon> images;
+    bool titlesKnown = false;
+    bool linesKnown = false;
+    bool viewsFresh = false; // every view shows its row as it is
+    bool layoutPosted = false;
+    bool laying = false;
+    bool dropping = false; // controls go, and the focus with them
+};
+
+} // namespace tern7

@@ -1,0 +1,83 @@
+#include <tern7/ui/panels/row_problem.h>
+
+#include <QCoreApplication>
+
+#include <tern7/core/query/condition_text.h>
+#include <tern7/core/query/query.h>
+#include <tern7/core/query/value_editor_choice.h>
+#include <tern7/ui/support/local_dates.h>
+#include <tern7/ui/support/text.h>
+
+namespace tern7 {
+
+namespace {
+
+struct TRowProblem {
+    Q_DECLARE_TR_FUNCTIONS(tern7::TRowProblem)
+};
+
+QString UnfinishedReason(TUnfinished reason) {
+    switch (reason) {
+    case TUnfinished::No:
+        break;
+    case TUnfinished::NoField:
+        return TRowProblem::tr("choose a field");
+    case TUnfinished::NoOperator:
+        return TRowProblem::tr("choose an operator");
+    case TUnfinished::UnknownField:
+        return TRowProblem::tr("this field is not known any more");
+    case TUnfinished::UnknownOperator:
+        return TRowProblem::tr("this operator is not known any more");
+    case TUnfinished::NoSubQuery:
+        return TRowProblem::tr("define the sub-query");
+    case TUnfinished::NoValue:
+    case TUnfinished::NotEntered:
+        return TRowProblem::tr("enter a value");
+    }
+    return {};
+}
+
+bool IsReadable(TValueEditKind kind, const QString& value) {
+    switch (kind) {
+    case TValueEditKind::vkDate:
+        return ReadLocalDate(value).isValid();
+    case TValueEditKind::vkTime:
+        return ReadLocalTime(value).isValid();
+    case TValueEditKind::vkDateTime:
+        return ReadLocalDateTime(value).isValid();
+    default:
+        return true;
+    }
+}
+
+/// Empty when value n can stand in the statement.
+QString ValueProblem(const TFilterCond& condition, int n) {
+    if (condition.ValueIsParam(n)) return {};
+    const QString value = ToQt(condition.Value(n));
+    if (!value.isEmpty() && !IsReadable(ChooseValueEditor(condition), value))
+        return TRowProblem::tr("\u201C%1\u201D can not be read as a date or time").arg(value);
+    if (!condition.Query()->CheckValues) return {};
+    try {
+        CheckBareValue(condition, n);
+    } catch (const EKWrongValueError&) {
+        return condition.IsListOperator()
+                   ? TRowProblem::tr("\u201C%1\u201D is no list of numbers").arg(value)
+                   : TRowProblem::tr("\u201C%1\u201D is no number").arg(value);
+    }
+    return {};
+}
+
+} // namespace
+
+QString RowProblem(const TFilterRow& row) {
+    const TFilterCond* condition = row.AsCond();
+    if (!condition || !condition->Query() || !condition->EffectivelyEnabled()) return {};
+    if (const TUnfinished reason = condition->Unfinished(); reason != TUnfinished::No)
+        return UnfinishedReason(reason);
+    if (!condition->IsRecognized() || condition->IsSubQueryOperator()) return {};
+    for (int n = 1; n <= condition->ValueCount(); ++n)
+        if (const QString problem = ValueProblem(*condition, n); !problem.isEmpty()) return problem;
+    return {};
+}
+
+} // namespace tern7

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+#include <tern7/core/query/filter_row.h>
+
+namespace tern7 {
+
+/// Why an enabled condition takes no part in the statement, or what is wrong with a value, in words
+/// of the screen's language; empty when all is well.
+QString RowProblem(const TFilterRow& row);
+
+} // namespace tern7

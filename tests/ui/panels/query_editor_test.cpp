@@ -1,0 +1,512 @@
+#include <random>
+#include <set>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QMimeData>
+
+#include <core/query/shop.h>
+#include <tern7/core/query/query_text.h>
+#include <tern7/ui/panels/query_editor.h>
+
+namespace tern7 {
+namespace {
+
+class TEditor : public TShop {
+protected:
+    TEditor() {
+        query.SaveSQLOptions = true;
+        query.SaveMainTable = true;
+        query.SaveTitles = false;
+    }
+    ~TEditor() override { editor.reset(); }
+
+    TFilterCond* Enter(TFilterBracket& bracket, std::string_view field, std::string_view op,
+                       std::string value) {
+        TFilterCond* row = editor->AddCondition(bracket, bracket.GetRowCount());
+        editor->SetField(*row, *Field(field));
+        editor->SetOperator(*row, *structure.OperatorByName(op));
+        editor->SetValue(*row, 1, std::move(value));
+        return row;
+    }
+    /// All that is kept of the query: its text, rows without a field, parameters by name.
+    std::string State() {
+        std::string state = query.GetQueryString();
+        std::vector<TFilterRow*> rows;
+        for (const auto& row : query.Root().Rows())
+            rows.push_back(row.get());
+        state += RowsToText(rows, true);
+        std::set<std::string> params;
+        for (const auto& param : query.QResult().Params())
+            params.insert(param->Name() + "=" + param->Caption() + " " + param->ValueFormat());
+        for (const std::string& param : params)
+            state += param + "\n";
+        return state;
+    }
+    std::vector<TFilterRow*> AllRows(bool root = true) {
+        std::vector<TFilterRow*> rows;
+        if (root) rows.push_back(&query.Root());
+        Collect(query.Root(), rows);
+        return rows;
+    }
+    static void Collect(TFilterBracket& bracket, std::vector<TFilterRow*>& rows) {
+        for (const auto& row : bracket.Rows()) {
+            rows.push_back(row.get());
+            if (row->IsBracket()) Collect(*row->AsBracket(), rows);
+        }
+    }
+    QString Steps() const {
+        QStringList names;
+        for (int i = 0; i < editor->Stack().count(); ++i)
+            names << editor->Stack().text(i);
+        return names.join(", ");
+    }
+
+    std::unique_ptr<TKQueryEditor> editor = std::make_unique<TKQueryEditor>(query);
+};
+
+/// A user who does anything at all.
+class TMonkey : public TEditor, public ::testing::WithParamInterface<int> {
+protected:
+    int Below(size_t n) { return static_cast<int>(random() % n); }
+    template <class T>
+    auto& Any(T& items) {
+        return items[static_cast<size_t>(Below(std::size(items)))];
+    }
+    TFilterBracket& AnyBracket() {
+        std::vector<TFilterBracket*> brackets;
+        for (TFilterRow* row : AllRows())
+            if (row->IsBracket()) brackets.push_back(row->AsBracket());
+        return *Any(brackets);
+    }
+    TFilterCond* AnyCondition() {
+        std::vector<TFilterCond*> conditions;
+        for (TFilterRow* row : AllRows())
+            if (row->AsCond()) conditions.push_back(row->AsCond());
+        return conditions.empty() ? nullptr : Any(conditions);
+    }
+    TDSField& AnyField() {
+        return *structure.Fields()[Below(static_cast<size_t>(structure.Fields().GetCount()))];
+    }
+    void Step();
+    void ChangeRows(TFilterRow& row);
+    void ChangeCondition(TFilterCond& condition);
+    void ChangeColumns();
+
+    std::mt19937 random{static_cast<unsigned>(GetParam())};
+};
+
+void TMonkey::Step() {
+    const int size = static_cast<int>(AllRows().size());
+    const int kind = Below(10);
+    if (kind < 2 && size < 60) {
+        TFilterBracket& bracket = AnyBracket();
+        const int at = Below(static_cast<size_t>(bracket.GetRowCount() + 1));
+        if (Below(3) > 0)
+            editor->AddCondition(bracket, at);
+        else
+            editor->AddBracket(bracket, at);
+    } else if (kind < 5) {
+        if (TFilterCond* condition = AnyCondition()) ChangeCondition(*condition);
+    } else if (kind < 8) {
+        std::vector<TFilterRow*> rows = AllRows(false);
+        if (!rows.empty()) ChangeRows(*Any(rows));
+    } else {
+        ChangeColumns();
+    }
+}
+
+void TMonkey::ChangeRows(TFilterRow& row) {
+    TFilterBracket& to = AnyBracket();
+    const int at = Below(static_cast<size_t>(to.GetRowCount() + 1));
+    const bool room = AllRows().size() < 60;
+    switch (Below(12)) {
+    case 0:
+        editor->Delete(row);
+        break;
+    case 1:
+        editor->Move(row, to, at);
+        break;
+    case 2:
+        editor->MoveUp(row);
+        break;
+    case 3:
+        editor->MoveDown(row);
+        break;
+    case 4:
+        if (room) editor->Duplicate(row);
+        break;
+    case 5:
+        if (room) editor->CopyTo(row, to, at);
+        break;
+    case 6:
+        if (room) editor->Paste(to, at, *editor->Copy({&row}));
+        break;
+    case 7:
+        editor->Cut(row);
+        break;
+    case 8:
+        editor->SetBracketKind(to, static_cast<TFilterLinkType>(Below(4)));
+        break;
+    case 9:
+        editor->SetBracketJoin(to, Below(2) == 0);
+        break;
+    case 10:
+        if (Below(20) == 0) editor->ClearAll();
+        break;
+    default:
+        editor->SetEnabled(row, !row.GetEnabled());
+    }
+}
+
+void TMonkey::ChangeCondition(TFilterCond& condition) {
+    static const std::string values[] = {"", "1", "Rome", "a, b", " ", "2026-05-01", "line\nbreak"};
+    const int n = 1 + Below(2);
+    switch (Below(8)) {
+    case 0:
+    case 1:
+        editor->SetField(condition, AnyField());
+        break;
+    case 2:
+        if (condition.Field() && condition.Field()->GetOperatCount() > 0)
+            editor->SetOperator(condition, *condition.Field()->GetOperator(
+                                               Below(condition.Field()->Operators().size())));
+        break;
+    case 3:
+        editor->SetValue(condition, n, Any(values), Below(2) ? "shown" : "");
+        break;
+    case 4:
+        for (const char* text : {"B", "Be", "Ber"})
+            editor->TypeValue(condition, n, text);
+        editor->EndTyping();
+        break;
+    case 5:
+        editor->SetParameter(condition, n, !condition.ValueIsParam(n));
+        break;
+    case 6:
+        editor->SetParameterTexts(condition, n, Any(values), "%@v%");
+        break;
+    default:
+        editor->SetSubQuery(condition, Any(values), {});
+    }
+}
+
+void TMonkey::ChangeColumns() {
+    TRFieldList& list = query.QResult().ResultFields();
+    const size_t count = static_cast<size_t>(list.GetCount());
+    if (count < 3 || (count < 12 && Below(4) == 0)) {
+        editor->AddResultField(Below(count + 1), AnyField());
+        return;
+    }
+    const int i = Below(count);
+    switch (Below(10)) {
+    case 0:
+        editor->DeleteResultField(i);
+        break;
+    case 1:
+        editor->MoveResultField(i, Below(count));
+        break;
+    case 2:
+        editor->DuplicateResultField(i);
+        break;
+    case 3:
+        editor->SetResultField(*list[i], AnyField());
+        break;
+    case 4:
+        editor->SetFormula(*list[i], "SUM({Amount}) / {Gross amount}");
+        break;
+    case 5:
+        editor->SetSorting(*list[i], static_cast<TSortingType>(Below(3)));
+        break;
+    case 6:
+        editor->SetResultCaption(*list[i], "Caption " + std::to_string(Below(5)));
+        break;
+    case 7:
+        editor->SetJustSorting(!list.JustSorting());
+        break;
+    case 8:
+        editor->SetSQLOption(static_cast<TSQLOption>(Below(SQLOptionCount)), Below(2) == 0);
+        break;
+    default:
+        editor->SetMainTable(Below(2) ? "C" : "O");
+    }
+}
+
+TEST_P(TMonkey, EveryStepIsTakenBackAndDoneAgain) {
+    editor->SetNonEmptyBrackets(GetParam() % 2 == 0);
+    QUndoStack& stack = editor->Stack();
+    std::vector<std::string> states{State()};
+    for (int i = 0; i < 1000; ++i) {
+        if (Below(6) == 0) {
+            for (int back = Below(4); back > 0; --back)
+                editor->Undo();
+            for (int again = Below(3); again > 0; --again)
+                editor->Redo();
+            ASSERT_EQ(State(), states.at(static_cast<size_t>(stack.index())));
+        }
+        Step();
+        // one call, one step at most; what was undone is gone
+        const size_t index = static_cast<size_t>(stack.index());
+        ASSERT_LE(index, states.size());
+        if (stack.count() != stack.index()) continue; // nothing happened
+        states.resize(index);
+        states.push_back(State());
+    }
+    ASSERT_GT(stack.count(), 300);
+    while (editor->CanRedo())
+        editor->Redo();
+    for (int i = stack.count() - 1; i >= 0; --i) {
+        editor->Undo();
+        ASSERT_EQ(State(), states[static_cast<size_t>(i)]) << stack.text(i).toStdString();
+        if (i % 100 == 50) { // the structure goes and comes back under a filled stack
+            TStrings text;
+            structure.SaveToStrings(text);
+            structure.LoadFromStrings(text);
+            ASSERT_EQ(State(), states[static_cast<size_t>(i)]);
+        }
+    }
+    for (int i = 1; i <= stack.count(); ++i) {
+        editor->Redo();
+        ASSERT_EQ(State(), states[static_cast<size_t>(i)]) << stack.text(i - 1).toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, TMonkey, ::testing::Range(1, 5));
+
+TEST_F(TEditor, StepsHaveNamesAndTypingIsOne) {
+    TFilterCond* row = Enter(query.Root(), "City", "Contains", "R");
+    for (const char* text : {"Ro", "Rom", "Rome"})
+        editor->TypeValue(*row, 1, text);
+    editor->EndTyping();
+    for (const char* text : {"O", "Os"})
+        editor->TypeValue(*row, 1, text);
+    editor->TypeValue(*row, 2, "x"); // another value
+    EXPECT_EQ(Steps(), "Add condition, Choose field, Choose operator, Change value, Change value, "
+                       "Change value, Change value");
+    const char* before[] = {"Os", "Rome", "R"};
+    for (const char* text : before) {
+        editor->Undo();
+        EXPECT_EQ(row->Value(1), text);
+    }
+    editor->SetValue(*row, 1, "R");
+    EXPECT_EQ(editor->Stack().index(), 4) << "the same again is no step";
+    EXPECT_TRUE(editor->CanRedo());
+}
+
+TEST_F(TEditor, OneStepIsOneChangeForTheApplicationWithItsHandlersChanges) {
+    TFilterCond* first = Enter(query.Root(), "City", "Equal", "a");
+    TFilterCond* second = Enter(query.Root(), "City", "Equal", "a");
+    QStringList events;
+    query.OnChange = [&](TKQuery&) { events << "change"; };
+    query.OnConditionChange = [&](TFilterCond& row, int what) {
+        events << QString("%1 %2").arg(row.RowNum()).arg(what);
+        if (&row == first) second->SetValue(1, first->Value(1)); // keeps two rows alike
+    };
+    const int steps = editor->Stack().count();
+    editor->SetValue(*first, 1, "b");
+    EXPECT_EQ(events.join(", "), "1 3, 2 3, change");
+    EXPECT_EQ(editor->Stack().count(), steps + 1);
+    events.clear();
+    editor->Undo();
+    EXPECT_EQ(second->Value(1), "a");
+    EXPECT_EQ(events.join(", "), "2 3, 1 3, change");
+    EXPECT_TRUE(editor->CanRedo()) << "a handler that has nothing to do leaves the steps alone";
+    editor->Redo();
+    EXPECT_EQ(second->Value(1), "b");
+
+    query.OnConditionChange = [&](TFilterCond& row, int) { row.Parent()->AddCond(); };
+    editor->Undo();
+    EXPECT_EQ(query.Root().GetRowCount(), 4); // one more for each row that was put back
+    EXPECT_EQ(editor->Stack().count(), 0) << "no step fits any more";
+}
+
+TEST_F(TEditor, ChangesBehindItsBackEmptyTheStack) {
+    const std::function<void()> changes[] = {
+        [&] { query.Root().AddCond(); },
+        [&] { query.Root().ClearRows(); },
+        [&] { query.Root().GetFirstCondition()->SetValue(1, "other"); },
+        [&] { query.Root().SetLinkType(TFilterLinkType::fltAny); },
+        [&] { query.QResult().ResultFields().Clear(); },
+        [&] { query.QResult().ResultFields()[0]->SetSorting(TSortingType::stAscending); },
+        [&] { query.SetQueryString(query.GetQueryString()); },
+        [&] {
+            query.SetActive(false);
+            query.Root().ClearRows();
+        },
+    };
+    for (const auto& change : changes) {
+        query.SetActive(true);
+        query.ClearAll();
+        editor->AddResultField(0, *Field("City"));
+        Enter(query.Root(), "City", "Equal", "x");
+        ASSERT_GT(editor->Stack().count(), 0);
+        change();
+        EXPECT_EQ(editor->Stack().count(), 0);
+        editor->Undo();
+    }
+    query.SetActive(true);
+    query.ClearAll();
+    TFilterCond* row = Enter(query.Root(), "City", "Equal", "x");
+    const std::string text = query.GetQueryString();
+    query.SetQueryName("name"); // no part of the steps
+    query.BuildQuery();
+    row->SetHint("hint");
+    editor->Delete(*row);
+    editor->Undo();
+    query.SetQueryName({});
+    EXPECT_EQ(query.GetQueryString(), text);
+}
+
+TEST_F(TEditor, WhateverRunsInAStepIsTakenBack) {
+    Enter(query.Root(), "City", "Equal", "x");
+    editor->AddBracket(query.Root(), 0);
+    query.SetQueryName("first");
+    const std::string before = State();
+    TKQuery other(&structure);
+    other.SetQueryName("other");
+    other.Root().AddBracket()->AddCond()->SetField(Field("Amount"));
+    other.QResult().ResultFields().AddByExpression("Sum", TSortingType::stAscending, "{Amount}");
+    editor->Run("Open", [&] { query.SetQueryString(other.GetQueryString()); });
+    const std::string after = State();
+    EXPECT_EQ(query.QueryName(), "other");
+    editor->Undo();
+    EXPECT_EQ(State(), before);
+    editor->Redo();
+    EXPECT_EQ(State(), after);
+    EXPECT_EQ(Steps().section(", ", -1), "Open");
+
+    // a step that fails leaves nothing behind
+    const int steps = editor->Stack().count();
+    EXPECT_THROW(editor->Run("Fail",
+                             [&] {
+                                 query.Root().ClearRows();
+                                 editor->AddResultField(0, *Field("City"));
+                                 editor->AddFormula(0, "", "{no such field}");
+                             }),
+                 EKExpressionError);
+    EXPECT_EQ(State(), after);
+    EXPECT_EQ(editor->Stack().count(), steps);
+    // a row that the application takes for itself can not come back
+    std::unique_ptr<TFilterRow> kept;
+    editor->Run("Take", [&] { kept = query.Root().TakeRow(query.Root().GetRow(0)); });
+    EXPECT_EQ(editor->Stack().count(), 0);
+    // outside of the tree it can be changed unseen, and be put back
+    editor->AddCondition(query.Root(), 0);
+    TFilterBracket& taken = *kept->AsBracket();
+    taken.InsertCond(0)->SetField(Field("City"));
+    taken.TakeRow(taken.GetRow(1));
+    EXPECT_EQ(editor->Stack().count(), 1);
+    editor->Run("Put back", [&] { query.Root().InsertRow(1, std::move(kept)); });
+    EXPECT_EQ(query.UnfinishedRows().size(), 2U);
+    editor->Undo();
+    editor->Redo();
+    EXPECT_EQ(taken.GetRowCount(), 1);
+}
+
+TEST_F(TEditor, RowsTravelAsText) {
+    TFilterBracket* bracket = editor->AddBracket(query.Root(), 0);
+    bracket->SetLinkType(TFilterLinkType::fltAny);
+    TFilterCond* row = Enter(*bracket, "City", "Between", "a");
+    editor->SetParameter(*row, 1, true);
+    editor->SetParameterTexts(*row, 1, "From", "%@v");
+    const auto data = editor->Copy({bracket, row});
+    ASSERT_TRUE(TKQueryEditor::CanPaste(data.get()));
+
+    // inside the program with the row that has no field, elsewhere without it
+    QMimeData plain;
+    plain.setText(data->text());
+    TKQuery other(&structure);
+    TKQueryEditor otherEditor(other);
+    for (QMimeData* source : {data.get(), &plain}) {
+        const auto pasted = otherEditor.Paste(other.Root(), 0, *source);
+        ASSERT_EQ(pasted.size(), 1U);
+        const TFilterBracket& copy = *pasted[0]->AsBracket();
+        EXPECT_EQ(copy.LinkType(), TFilterLinkType::fltAny);
+        ASSERT_EQ(copy.GetRowCount(), source == data.get() ? 2 : 1);
+        const TFilterCond& last = *copy.GetRow(copy.GetRowCount() - 1)->AsCond();
+        EXPECT_EQ(last.Field(), Field("City"));
+        ASSERT_TRUE(last.Param(1));
+        EXPECT_EQ(last.Param(1)->Caption() + last.Param(1)->ValueFormat(), "From%@v");
+        EXPECT_EQ(copy.GetFirstCondition()->Field() != nullptr, source != data.get());
+    }
+    // a whole query keeps how its rows are joined
+    QMimeData whole;
+    other.Root().SetLinkType(TFilterLinkType::fltNone);
+    whole.setText(QString::fromStdString(other.GetQueryString()));
+    const auto pasted = editor->Paste(query.Root(), 1, whole);
+    ASSERT_EQ(pasted.size(), 1U);
+    EXPECT_EQ(pasted[0]->AsBracket()->LinkType(), TFilterLinkType::fltNone);
+    EXPECT_EQ(pasted[0]->AsBracket()->GetRowCount(), 2);
+
+    const std::string before = State();
+    for (const char* text : {"", "Berlin", "[Main]", "[Main]\nVersion=3.3\n[Row0]\nRowType=1\n"}) {
+        QMimeData damaged;
+        damaged.setText(text);
+        EXPECT_THROW(editor->Paste(query.Root(), 0, damaged), EKQueryPanelError) << text;
+    }
+    QMimeData deep;
+    TFilterBracket* inner = &query.Root();
+    while (inner->Level() < 999)
+        inner = inner->AddBracket();
+    deep.setText(QString::fromStdString(RowsToText({inner})));
+    EXPECT_EQ(editor->Paste(*inner, 0, deep).size(), 1U);
+    deep.setText(QString::fromStdString(RowsToText({inner->Parent()})));
+    EXPECT_THROW(editor->Paste(*inner, 0, deep), EKQueryPanelError);
+    EXPECT_THROW(editor->CopyTo(*inner->Parent(), *inner, 0), EKQueryPanelError);
+}
+
+TEST_F(TEditor, RowsMoveLineByLineThroughBrackets) {
+    TFilterCond* row = Enter(query.Root(), "City", "Equal", "moved");
+    TFilterBracket* bracket = editor->AddBracket(query.Root(), 0);
+    editor->AddBracket(query.Root(), 2);
+    auto places = [&](bool (TKQueryEditor::*move)(TFilterRow&)) {
+        QStringList seen;
+        do
+            seen << QString("%1.%2").arg(row->Level()).arg(row->Parent()->GetRowIndex(row));
+        while (((*editor).*move)(*row));
+        return seen.join(" ");
+    };
+    EXPECT_EQ(places(&TKQueryEditor::MoveDown), "1.1 2.0 2.1 1.2");
+    EXPECT_EQ(places(&TKQueryEditor::MoveUp), "1.2 2.1 2.0 1.1 2.1 2.0 1.0");
+    EXPECT_FALSE(editor->CanMove(*bracket, *bracket));
+    EXPECT_FALSE(editor->Move(*bracket, query.Root(), query.Root().GetRowIndex(bracket) + 1));
+    // a bracket goes with its last row
+    editor->Move(*bracket->GetRow(0), query.Root(), 0);
+    EXPECT_EQ(query.Root().GetRowCount(), 3);
+    editor->Undo();
+    EXPECT_EQ(query.Root().GetRow(1), bracket) << "the same objects are back";
+    EXPECT_EQ(bracket->GetRowCount(), 1);
+}
+
+TEST_F(TEditor, HandlersMayDeleteEditorAndQuery) {
+    auto own = std::make_unique<TKQuery>(&structure);
+    auto ownEditor = std::make_unique<TKQueryEditor>(*own);
+    ownEditor->AddBracket(own->Root(), 0);
+    TFilterCond* row = own->Root().GetFirstCondition();
+    own->OnConditionChange = [&](TFilterCond&, int) {
+        ownEditor.reset();
+        own.reset();
+    };
+    ownEditor->SetField(*row, *Field("City"));
+    EXPECT_FALSE(own || ownEditor);
+
+    // the query goes first, while a sub-query is edited
+    own = std::make_unique<TKQuery>(&structure);
+    ownEditor = std::make_unique<TKQueryEditor>(*own);
+    row = ownEditor->AddCondition(own->Root(), 0);
+    own->Services.editSubQuery = [&](TFilterCond& edited) {
+        EXPECT_NE(&edited, row);
+        own.reset();
+        edited.SetSubQuery("text");
+        return true;
+    };
+    EXPECT_FALSE(ownEditor->EditSubQuery(*row));
+    EXPECT_EQ(ownEditor->Query(), nullptr);
+    ownEditor->Undo();
+    EXPECT_EQ(ownEditor->Stack().count(), 0);
+}
+
+} // namespace
+} // namespace tern7

@@ -1,0 +1,423 @@
+#include <tern7/core/global/messages.h>
+#include <tern7/ui/controls/drop_down_list_box.h>
+#include <tern7/ui/panels/query_editor.h>
+#include <tern7/ui/support/text_size.h>
+#include <ui/panels/result_fields_form.h>
+
+#include <random>
+
+#include <QAccessible>
+#include <QScrollBar>
+
+namespace tern7 {
+
+TEST(ResultFieldsPanel, BuiltByMouse) {
+    TResultFieldsForm form;
+    ASSERT_TRUE(form.Open());
+    int changes = 0;
+    form.panel->OnChange = [&](TKResultFieldsPanel*) { ++changes; };
+    Click(form.panel->AddLabel());
+    EXPECT_EQ(form.Texts(), QStringList{"1 City Not Sorted"});
+    Click(form.panel->AddLabel());
+    Click(form.Row(1).FieldLabel());
+    Press({Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Return}); // Orders, Quantity
+    Click(form.Row(1).SortLabel());
+    Press({Qt::Key_End, Qt::Key_Return});
+    EXPECT_EQ(form.Texts(), (QStringList{"1 City Not Sorted", "2 Quantity Descending"}));
+    EXPECT_EQ(form.Model(), (QStringList{"City=C.city", "Quantity=O.quantity 2#1"}));
+    EXPECT_EQ(changes, 4);
+    form.query.BuildQuery();
+    EXPECT_EQ(form.query.QResult().GetSQL().Text(),
+              "SELECT DISTINCT C.city as City, O.quantity as Quantity\n"
+              "FROM customers C\n"
+              "     INNER JOIN orders O ON (O.customer_id=C.id)\n"
+              "ORDER BY 2 DESC");
+}
+
+TEST(ResultFieldsPanel, BuiltByKeys) {
+    TResultFieldsForm form;
+    ASSERT_TRUE(form.Open());
+    form.panel->AddLabel()->setFocus();
+    Press({Qt::Key_Return});
+    EXPECT_TRUE(form.Row(0).FieldLabel()->hasFocus());
+    Press({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Down, Qt::Key_Return});   // ascending
+    Press({Qt::Key_Insert, Qt::Key_Return, Qt::Key_Up, Qt::Key_Return}); // the last: Note
+    EXPECT_EQ(form.Texts(), (QStringList{"1 City Ascending", "2 Note Not Sorted"}));
+    Press(Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(form.Texts(), (QStringList{"1 Note Not Sorted", "2 City Ascending"}));
+    EXPECT_EQ(form.panel->CurrentRow(), 0);
+    Press(Qt::Key_Up, Qt::ControlModifier); // nowhere to go
+    Press(Qt::Key_Left);
+    EXPECT_TRUE(form.Row(0).Button()->hasFocus());
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    Press(Qt::Key_Delete);
+    EXPECT_EQ(form.Model(), QStringList{"City=C.city 1#1"});
+    EXPECT_TRUE(form.Row(0).Button()->hasFocus());
+    Press(Qt::Key_Delete);
+    EXPECT_TRUE(form.panel->AddLabel()->hasFocus());
+    Press(Qt::Key_Delete);
+    EXPECT_TRUE(form.Columns().IsEmpty());
+}
+
+TEST(ResultFieldsPanel, RowMenu) {
+    TResultFieldsForm form;
+    form.panel->SetTitles({"ttlDelField=L\xC3\xB6schen"});
+    for (const char* field : {"{C.city}", "{O.price}", "{O.note}"})
+        form.Add(field + 3, field);
+    ASSERT_TRUE(form.Open());
+    const struct {
+        int row;
+        const char* enabled; // delete, up, down
+        Qt::Key key;
+        QStringList after;
+    } cases[] = {
+        {0, "101", Qt::Key_End, {"price}", "city}", "note}"}},
+        {2, "110", Qt::Key_End, {"price}", "note}", "city}"}}, // up is the last that can be chosen
+        {1, "111", Qt::Key_Home, {"price}", "city}"}},
+    };
+    for (const auto& c : cases) {
+        Click(form.Row(c.row).Button());
+        TMenuItem& items = form.panel->RowMenu()->Items();
+        EXPECT_EQ(items.Items(0).Caption, QString::fromUtf8("L\xC3\xB6schen"));
+        EXPECT_EQ(items.Items(1).Caption, "Move Up");
+        QString enabled;
+        for (int i = 0; i < 3; ++i)
+            enabled += items.Items(i).Enabled ? '1' : '0';
+        EXPECT_EQ(enabled, c.enabled);
+        Press({c.key, Qt::Key_Return});
+        QStringList captions;
+        for (const auto& column : form.Columns())
+            captions << ToQt(column->Caption());
+        EXPECT_EQ(captions, c.after);
+    }
+    // the right button opens it on the labels too
+    QTest::mouseClick(form.Row(1).SortLabel(), Qt::RightButton);
+    Press({Qt::Key_Escape});
+    EXPECT_EQ(form.Columns().GetCount(), 2);
+}
+
+TEST(ResultFieldsPanel, ChangesOnlyWhatTheUserChanges) {
+    TResultFieldsForm form;
+    TResultField* sum = form.Add("Turnover", "SUM({Price} * {Quantity})");
+    TResultField* city = form.Add("Where", "{City}");
+    sum->SetAlias("my_alias");
+    ASSERT_TRUE(form.Open());
+    EXPECT_EQ(form.Texts(), (QStringList{"1 Turnover Not Sorted", "2 City Not Sorted"}));
+    EXPECT_EQ(form.Row(0).FieldLabel()->toolTip(), "SUM({Price} * {Quantity})");
+    EXPECT_EQ(form.Row(1).FieldLabel()->toolTip(), "Where");
+    Click(form.Row(0).SortLabel());
+    Press({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(form.Model()[0], "Turnover=SUM(O.price * O.quantity) 1#1");
+    EXPECT_EQ(sum->Alias(), "my_alias");
+    // looking at the menu, or choosing what is there already, is no change
+    Click(form.Row(0).FieldLabel());
+    Press(Qt::Key_Escape);
+    Click(form.Row(1).FieldLabel());
+    Press({Qt::Key_Return, Qt::Key_Return}); // Customers, City
+    EXPECT_EQ(city->Caption(), "Where");
+    EXPECT_EQ(sum->Formula(), "SUM(@1 * @2)");
+    Click(form.Row(0).FieldLabel());
+    Press({Qt::Key_Home, Qt::Key_Right, Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(form.Model()[0], "Customer Name=C.name 1#1");
+    EXPECT_EQ(sum->Alias(), "CustomerName");
+    EXPECT_EQ(form.Row(0).FieldLabel()->Value(), QString::number(form.Field("C.name")->ID()));
+}
+
+TEST(ResultFieldsPanel, SortRanksFollowRowsUntilSomebodyElseSetsThem) {
+    TResultFieldsForm form;
+    for (const char* field : {"{C.city}", "{O.price}", "{O.note}"})
+        form.Add(field, field)->SetSorting(TSortingType::stAscending);
+    const auto ranks = [&] {
+        QList<int> all;
+        for (const auto& column : form.Columns())
+            all << column->SortOrder();
+        return all;
+    };
+    form.panel->MoveRowDown(0);
+    EXPECT_EQ(ranks(), (QList<int>{1, 2, 3}));
+    form.Columns()[0]->SetSortOrder(7);
+    form.panel->MoveRow(2, 1);
+    EXPECT_EQ(ranks(), (QList<int>{7, 3, 2}));
+    form.panel->RefreshSortOrder();
+    EXPECT_EQ(ranks(), (QList<int>{1, 2, 3}));
+}
+
+TEST(ResultFieldsPanel, PlacesRows) {
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        TResultFieldsForm form;
+        form.setLayoutDirection(direction);
+        const int width = form.panel->viewport()->width();
+        // distance from the side where reading starts
+        const auto start = [&](const QWidget* w) {
+            return direction == Qt::LeftToRight ? w->x() : width - w->x() - w->width();
+        };
+        form.show();
+        EXPECT_EQ(start(form.panel->AddLabel()), 5);
+        EXPECT_EQ(form.panel->AddLabel()->y(), 5);
+        form.Add("City", "{City}");
+        form.Add("Price", "{Price}");
+        const int height = ternTextHeight("1", form.panel->font()) + 1;
+        for (int i = 0; i < 2; ++i) {
+            const TResultFieldRow& row = form.Row(i);
+            const int top = 5 + i * (3 + height);
+            EXPECT_EQ(row.Button()->y(), top);
+            EXPECT_EQ(row.Button()->height(), height);
+            EXPECT_EQ(row.FieldLabel()->y(), top);
+            EXPECT_EQ(start(row.Button()), 5);
+            EXPECT_EQ(start(row.FieldLabel()), 5 + row.Button()->width() + 5);
+            EXPECT_EQ(start(row.SortLabel()),
+                      start(row.FieldLabel()) + row.FieldLabel()->width() + 5);
+        }
+        EXPECT_EQ(form.panel->AddLabel()->y(), 5 + 3 + 2 * height + 3 + 2);
+        form.panel->Appearance().SetTopMargin(20);
+        EXPECT_EQ(form.Row(0).Button()->y(), 5);
+        form.panel->Refresh();
+        EXPECT_EQ(form.Row(0).Button()->y(), 20);
+    }
+}
+
+TEST(ResultFieldsPanel, Scrolls) {
+    TResultFieldsForm form;
+    for (int i = 0; i < 60; ++i)
+        form.Add("City", "{City}");
+    ASSERT_TRUE(form.Open());
+    const auto top = [&] {
+        return form.Row(0).Button()->mapTo(form.panel->viewport(), QPoint()).y();
+    };
+    EXPECT_EQ(top(), 5);
+    form.panel->verticalScrollBar()->setValue(30);
+    EXPECT_EQ(top(), 5 - 30);
+    form.panel->AddRow();
+    EXPECT_FALSE(form.panel->AddLabel()->visibleRegion().isEmpty() &&
+                 form.Row(60).FieldLabel()->visibleRegion().isEmpty());
+}
+
+TEST(ResultFieldsPanel, Appearance) {
+
+    TResultFieldsForm form;
+    form.Add("City", "{City}");
+    form.Add("Note", "{Note}");
+    ASSERT_TRUE(form.Open());
+    TRFPAppearance& look = form.panel->Appearance();
+    EXPECT_TRUE(form.Row(0).Button()->Flat() && form.Row(0).Button()->RoundCorners());
+    EXPECT_EQ(form.Row(0).FieldLabel()->FontColor(), QColor(Qt::blue));
+    look.SetOptions(TRFPAppearance::aoShowGroupName);
+    look.SetSortColor(Qt::darkGreen);
+    EXPECT_EQ(form.Texts(), (QStringList{"1 Customers City Not Sorted", "2 Note Not Sorted"}));
+    EXPECT_FALSE(form.Row(0).Button()->Flat() || form.Row(0).Button()->RoundCorners());
+    EXPECT_EQ(form.Row(0).SortLabel()->FontColor(), QColor(Qt::darkGreen));
+    Click(form.Row(0).FieldLabel());
+    ASSERT_TRUE(qobject_cast<TDropDownListBox*>(form.Row(0).FieldLabel()));
+    Press({Qt::Key_End, Qt::Key_Return});
+    EXPECT_EQ(form.Texts()[0], "1 Note Not Sorted");
+    QPalette dark(QColor(50, 50, 50), QColor(30, 30, 30));
+    dark.setColor(QPalette::Link, Qt::cyan);
+    form.panel->setPalette(dark);
+    EXPECT_EQ(form.Row(0).FieldLabel()->FontColor(), QColor(Qt::cyan));
+    EXPECT_EQ(form.Row(0).SortLabel()->FontColor(), QColor(Qt::darkGreen));
+}
+
+TEST(ResultFieldsPanel, OffersFieldsOfTheResultByGroup) {
+    TResultFieldsForm form;
+    form.Add("City", "{City}");
+    ASSERT_TRUE(form.Open());
+    const auto offered = [&] {
+        Click(form.Row(0).FieldLabel());
+        QStringList texts;
+        const TDropDownList& label = *form.Row(0).FieldLabel();
+        for (int g = 0; g < label.Groups().Count(); ++g)
+            for (const int i : label.Groups().Items(g).Indices())
+                texts << label.Groups().Items(g).Name() + ':' + label.Items()[i];
+        Press(Qt::Key_Escape);
+        return texts.join(' ');
+    };
+    EXPECT_EQ(offered(), "Customers:City Customers:Name Orders:Price Orders:Quantity "
+                         "Orders:Name :Note");
+    form.structure.SetRootFieldsFirst(true);
+    form.Field("O.price")->SetUseInResult(false);
+    form.Field("C.name")->SetGroup(form.structure.FieldGroups()[1]);
+    EXPECT_EQ(offered(), ":Note Customers:City Orders:Quantity Orders:Order Name "
+                         "Orders:Customer Name");
+}
+
+TEST(ResultFieldsPanel, WithoutStructure) {
+    TKResultFieldsPanel panel;
+    try {
+        panel.AddRow();
+        ADD_FAILURE();
+    } catch (const ERFPanelError& error) {
+        EXPECT_STREQ(error.what(), "Database structure is not specified");
+    }
+    TKCustomDBStructure structure;
+    panel.SetDBStruct(&structure);
+    panel.AddRow(); // nothing to offer
+    EXPECT_EQ(panel.Rows().GetCount(), 0);
+    MakeShop(structure);
+    panel.AddRow();
+    EXPECT_EQ(panel.ResultFields().GetCaption(), "City");
+    EXPECT_THROW(panel.DeleteRow(1), std::out_of_range);
+    EXPECT_THROW(panel.MoveRowUp(-1), std::out_of_range);
+    panel.ClearAll();
+    EXPECT_EQ(panel.Rows().GetCount(), 0);
+}
+
+TEST(ResultFieldsPanel, FollowsTheList) {
+    TResultFieldsForm form;
+    form.Add("City", "{City}");
+    ASSERT_TRUE(form.Open());
+    form.Row(0).SortLabel()->setFocus();
+    const QPointer<QWidget> focused = form.Row(0).SortLabel();
+    form.Columns().Insert(0, "Price", {form.Field("O.price")});
+    form.Columns().Move(0, 1);
+    EXPECT_EQ(form.Texts(), (QStringList{"1 City Not Sorted", "2 Price Not Sorted"}));
+    EXPECT_TRUE(focused && focused->hasFocus());
+    form.Field("O.price")->SetDisplayName("Cost");
+    EXPECT_EQ(form.Texts()[1], "2 Cost Not Sorted");
+    form.panel->SetTitles({"ttlNotSorted=unsortiert", "ttlClickToAdd=&Neu"});
+    EXPECT_EQ(form.Texts()[1], "2 Cost unsortiert");
+    EXPECT_EQ(form.panel->AddLabel()->Caption(), "< Neu >");
+    form.query.SetActive(false);
+    form.query.ClearAll();
+    Click(form.Row(0).Button()); // the row's column is gone
+    Press({Qt::Key_Home, Qt::Key_Return});
+    form.query.SetActive(true);
+    EXPECT_TRUE(form.Texts().isEmpty());
+    TKQuery other(&form.structure);
+    other.QResult().ResultFields().AddByExpression("A", TSortingType::stDescending, "{Note}");
+    form.panel->SetResultFields(&other.QResult().ResultFields());
+    EXPECT_EQ(form.Texts(), QStringList{"1 Note Descending"});
+    form.panel->SetResultFields(nullptr);
+    EXPECT_TRUE(form.Texts().isEmpty());
+}
+
+TEST(ResultFieldsPanel, WhatItShowsIsDestroyedWhileOpen) {
+    for (const QString what : {"field", "structure fields", "structure", "query", "panel"}) {
+        SCOPED_TRACE(what.toStdString());
+        for (const bool menu : {false, true}) {
+            auto form = std::make_unique<TResultFieldsForm>();
+            auto structure = std::make_unique<TKCustomDBStructure>();
+            MakeShop(*structure);
+            auto query = std::make_unique<TKQuery>(structure.get());
+            TRFieldList& columns = query->QResult().ResultFields();
+            columns.AddByExpression("A", TSortingType::stNoSort, "{Note}");
+            form->panel->SetResultFields(&columns);
+            ASSERT_TRUE(form->Open());
+            Click(menu ? static_cast<QWidget*>(form->Row(0).Button()) : form->Row(0).FieldLabel());
+            if (what == "field") columns.Clear();
+            if (what == "structure fields") structure->ClearStructure();
+            if (what == "structure") structure.reset();
+            if (what == "query") query.reset();
+            if (what == "panel") delete form->panel;
+            if (QApplication::activePopupWidget()) Press({Qt::Key_Home, Qt::Key_Return});
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            QCoreApplication::processEvents();
+            form.reset();
+        }
+    }
+}
+
+TEST(ResultFieldsPanel, RandomEditingIsTakenBackToTheFirstText) {
+    TResultFieldsForm form;
+    TKQueryEditor editor(form.query);
+    form.Add("Sum", "SUM({Price} * {Quantity})")->SetSorting(TSortingType::stDescending);
+    ASSERT_TRUE(form.Open());
+    const std::string first = form.query.GetQueryString();
+    std::mt19937 random(7);
+    const auto below = [&](int n) {
+        return n > 0 ? std::uniform_int_distribution<int>(0, n - 1)(random) : 0;
+    };
+    for (int step = 0; step < 300; ++step) {
+        const int count = form.Columns().GetCount(), row = below(count);
+        const Qt::Key keys[] = {Qt::Key_Insert, Qt::Key_Delete, Qt::Key_Up, Qt::Key_Down};
+        if (count == 0) {
+            form.panel->AddRow();
+            continue;
+        }
+        switch (below(4)) {
+        case 0:
+            form.Row(row).FieldLabel()->setFocus();
+            Press(Qt::Key_Space);
+            Press({Qt::Key_Down, below(2) ? Qt::Key_Right : Qt::Key_Down});
+            Press({Qt::Key_Return, Qt::Key_Return}); // a group opens first
+            break;
+        case 1:
+            form.Row(row).SortLabel()->setFocus();
+            Press(Qt::Key_Space);
+            Press({Qt::Key_Down, Qt::Key_Return});
+            break;
+        default: {
+            form.Row(row).Button()->setFocus();
+            const int key = below(4);
+            Press(keys[key], key < 2 ? Qt::NoModifier : Qt::ControlModifier);
+        }
+        }
+        while (QApplication::activePopupWidget())
+            Press(Qt::Key_Escape);
+        form.activateWindow(); // no window manager gives it back what a closed menu had
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+        ASSERT_EQ(form.Texts().size(), form.Columns().GetCount());
+    }
+    const std::string last = form.query.GetQueryString();
+    const QStringList shown = form.Texts();
+    EXPECT_NE(first, last);
+    int steps = 0;
+    form.panel->AddLabel()->setFocus();
+    for (; editor.CanUndo() && steps < 1000; ++steps)
+        Press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_GT(steps, 100);
+    EXPECT_EQ(form.query.GetQueryString(), first);
+    EXPECT_EQ(form.Texts(), QStringList{"1 Sum Descending"});
+    for (; editor.CanRedo() && steps > 0; --steps)
+        Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(form.query.GetQueryString(), last);
+    EXPECT_EQ(form.Texts(), shown);
+}
+
+TEST(ResultFieldsPanel, OwnListHasItsOwnSteps) {
+    TKCustomDBStructure structure;
+    MakeShop(structure);
+    TKResultFieldsPanel panel;
+    panel.SetDBStruct(&structure);
+    panel.AddRow();
+    panel.Undo();
+    EXPECT_TRUE(panel.ResultFields().IsEmpty());
+    panel.Redo();
+    EXPECT_EQ(panel.ResultFields().GetCount(), 1);
+    TKQuery other(&structure);
+    panel.SetResultFields(&other.QResult().ResultFields());
+    panel.AddRow();
+    panel.Undo(); // nobody keeps the steps of that query
+    EXPECT_EQ(panel.ResultFields().GetCount(), 1);
+}
+
+TEST(ResultFieldsPanel, DialogIsOneStep) {
+    TResultFieldsForm form;
+    TKQueryEditor editor(form.query);
+    form.panel->Dialogs.editResultFields = [](QWidget*, const TRFieldList&, const TStrings&,
+                                              const std::function<void()>&) {
+        return [](TRFieldList& columns) {
+            columns.AddByExpression("A", TSortingType::stNoSort, "{City}");
+            columns.AddByExpression("B", TSortingType::stAscending, "{Note}");
+        };
+    };
+    EXPECT_TRUE(form.panel->EditResultFields());
+    EXPECT_EQ(form.Texts().size(), 2);
+    form.panel->Undo();
+    EXPECT_TRUE(form.Texts().isEmpty());
+}
+
+TEST(ResultFieldsPanel, ReadAloud) {
+    TResultFieldsForm form;
+    form.Add("City", "{City}")->SetSorting(TSortingType::stAscending);
+    ASSERT_TRUE(form.Open());
+    const auto said = [](QWidget* widget, QAccessible::Text kind) {
+        return QAccessible::queryAccessibleInterface(widget)->text(kind);
+    };
+    EXPECT_EQ(said(form.Row(0).Button(), QAccessible::Name), "Column 1: City, Ascending");
+    EXPECT_EQ(said(form.Row(0).FieldLabel(), QAccessible::Name), "Column 1");
+    EXPECT_EQ(said(form.Row(0).FieldLabel(), QAccessible::Value), "City");
+    EXPECT_EQ(said(form.Row(0).SortLabel(), QAccessible::Name), "Sorting of City");
+    EXPECT_EQ(said(form.panel->AddLabel(), QAccessible::Name), "Click to add new field");
+}
+
+} // namespace tern7

@@ -1,0 +1,129 @@
+// Whatever goes while something is open does no harm.
+#include <ui/panels/panel_form.h>
+
+#include <QTimer>
+
+namespace tern7 {
+
+class TPanelSafetyTest : public TPanelTest {
+protected:
+    /// A row with an open editor, in which something was typed.
+    void OpenEditor() {
+        Add("C.city", "Equal", "Berlin");
+        ClickLabel(1, TRowLabelKind::rlValue, 1);
+        Type("Rome");
+    }
+    void OpenMenu() {
+        Add("C.city", "Equal", "Berlin");
+        ClickLabel(1, TRowLabelKind::rlField);
+    }
+    TFilterCond* Add(std::string_view field, std::string_view op, std::string value) {
+        TFilterCond* added = TShop::Add(panel->Root(), field, op, std::move(value));
+        Settle();
+        return added;
+    }
+    bool AnythingOpen() { return QApplication::activePopupWidget() || panel->CloseEdit(false); }
+};
+
+TEST_F(TPanelSafetyTest, PanelGoesWithAnOpenEditorOrMenu) {
+    OpenEditor();
+    delete panel;
+    Settle();
+    panel = new TKQueryPanel(&window);
+    panel->SetDbStruct(&structure);
+    panel->setGeometry(0, 0, 600, 300);
+    panel->show();
+    Settle();
+    OpenMenu();
+    delete panel;
+    Settle();
+    EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
+TEST_F(TPanelSafetyTest, HandlersDeleteThePanel) {
+    QPointer<TKQueryPanel> alive(panel);
+    OpenEditor();
+    panel->OnChange = [](TKQueryPanel& p) { delete &p; };
+    Press(Qt::Key_Return);
+    Settle();
+    EXPECT_FALSE(alive);
+}
+
+TEST_F(TPanelSafetyTest, RowGoesWithAnOpenEditorOrMenu) {
+    OpenEditor();
+    panel->Root().ClearRows();
+    Settle();
+    EXPECT_FALSE(AnythingOpen());
+    OpenMenu();
+    panel->Root().ClearRows();
+    Settle();
+    EXPECT_FALSE(AnythingOpen());
+    EXPECT_EQ(panel->Lines().Count(), 1);
+    // a row that goes while its value is accepted
+    OpenEditor();
+    panel->OnSetValue = [this](TFilterCond&, std::string&, std::string&) {
+        QTimer::singleShot(0, panel, [this] { panel->Root().ClearRows(); });
+    };
+    panel->OnConditionChange = [this](TFilterCond&, int) { panel->Root().ClearRows(); };
+    Press(Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(panel->Root().GetRowCount(), 0);
+}
+
+TEST_F(TPanelSafetyTest, StructureIsReadAgainBelowAFilledPanel) {
+    const std::string text = structure.GetStructString();
+    OpenEditor();
+    structure.SetStructString(text);
+    Settle();
+    EXPECT_FALSE(AnythingOpen());
+    EXPECT_EQ(Shown(1), "City is equal to Berlin") << "what was not accepted is dropped";
+    ClickLabel(1, TRowLabelKind::rlField);
+    structure.SetStructString(text);
+    Settle();
+    EXPECT_FALSE(AnythingOpen());
+    structure.ClearStructure();
+    Settle();
+    EXPECT_EQ(Shown(1), "Unrecognized field is equal to Berlin");
+    structure.SetStructString(text);
+    Settle();
+    EXPECT_EQ(Condition(), "C.city = 'Berlin'");
+}
+
+TEST_F(TPanelSafetyTest, StructureGoesWithAnOpenEditor) {
+    auto other = std::make_unique<TKCustomDBStructure>();
+    other->Assign(structure);
+    panel->SetDbStruct(other.get());
+    TFilterCond* row = panel->Root().AddCond();
+    row->SetField(other->GetField(1));
+    row->SetOperator(other->OperatorByName("Equal"));
+    Settle();
+    ClickLabel(1, TRowLabelKind::rlValue, 1);
+    other.reset();
+    Settle();
+    EXPECT_FALSE(AnythingOpen());
+    EXPECT_EQ(panel->DbStruct(), nullptr);
+    EXPECT_EQ(Shown(1), "_____");
+}
+
+TEST_F(TPanelSafetyTest, ErrorsOfHandlersAreShownAndLeaveThePanelUsable) {
+    Add("C.city", "Equal", "Berlin");
+    panel->OnSetValue = [](TFilterCond&, std::string&, std::string&) {
+        throw EKTernError("not today");
+    };
+    EnterValue(1, "Rome");
+    panel->OnSetValue = nullptr;
+    EXPECT_EQ(Cond(1).Value(1), "Berlin");
+    EnterValue(1, "Rome");
+    EXPECT_EQ(Shown(1), "City is equal to Rome");
+}
+
+TEST_F(TPanelSafetyTest, LoadingATextThatIsDamagedKeepsTheQuery) {
+    Add("C.city", "Equal", "Berlin");
+    EXPECT_THROW(
+        panel->LoadFromStrings({"[Main]", "Version=3.3", "[Row0]", "RowType=1", "RowCount=5"}),
+        EKTernError);
+    EXPECT_TRUE(panel->Active());
+    EXPECT_EQ(Shown(1), "City is equal to Berlin");
+}
+
+} // namespace tern7
