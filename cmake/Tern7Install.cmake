@@ -31,6 +31,9 @@ if(gathering_headers)
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/tern7 COMPONENT Development)
 endif()
 
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/tern7/ui/titles
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/tern7 COMPONENT Runtime FILES_MATCHING PATTERN "*.ttl")
+
 if(TARGET tern)
   install(TARGETS tern RUNTIME COMPONENT Runtime)
   if(BUILD_SHARED_LIBS)

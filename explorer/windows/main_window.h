@@ -1,0 +1,181 @@
+#pragma once
+
+#include <memory>
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include "../data/database_session.h"
+#include "../data/recent_list.h"
+#include "../run/query_runner.h"
+
+class QAction;
+class QActionGroup;
+class QLabel;
+class QPlainTextEdit;
+class QSpinBox;
+class QSplitter;
+
+namespace tern7 {
+
+class TKQueryPanel;
+class TKResultFieldsPanel;
+class TMessageBar;
+class TResultView;
+
+/// The window of the program: columns, conditions, SQL and rows of one query over one database.
+class TMainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit TMainWindow(QWidget* parent = nullptr);
+    ~TMainWindow() override;
+
+    // --- database
+    /// Opens a database and begins a new query; shows why when it can not be opened. The structure
+    /// is imported, or loaded from the file when one is given. False when nothing changed.
+    bool OpenDatabase(const TKDatabaseURL& url, const QString& structureFile = {});
+    bool OpenSample();
+    bool HasDatabase() const { return session != nullptr; }
+
+    // --- query files
+    bool LoadQuery(const QString& file);
+    bool SaveQuery(const QString& file);
+    /// Whether there are changes that no file has.
+    bool IsModified() const;
+
+    // --- running
+    /// Asks for parameters, builds the statement and runs it.
+    void RunQuery();
+    bool IsRunning() const { return runner.IsRunning(); }
+    void CancelRun() { runner.Cancel(); }
+
+    /// Reads an SQL statement in place of the query and shows what was kept and what was not.
+    /// False when it can not be read; the query is as it was then.
+    bool ReadSQL(const QString& sql);
+
+    // --- looks
+    /// A language of the captions by its code ("de"); English when it is empty.
+    void SetLanguage(const QString& code);
+    enum class TLook { System, Light, Dark };
+    void SetLook(TLook look);
+    void SetZoom(int percent);
+
+    TKQueryPanel& Conditions() { return *conditions; }
+    TKResultFieldsPanel& Columns() { return *columns; }
+    TResultView& Results() { return *results; }
+    QString ShownSQL() const;
+
+signals:
+    void runEnded();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    // main_window.cpp
+    void BuildWindow();
+    QWidget* MakeColumnsPart();
+    QWidget* MakeConditionsPart();
+    QWidget* MakeSQLPart();
+    void RestoreState();
+    void StoreState() const;
+    void UpdateTitle();
+
+    // main_window_actions.cpp
+    void MakeActions();
+    void MakeFileMenu();
+    void MakeEditMenu();
+    void MakeQueryMenu();
+    void MakeViewMenu();
+    void MakeToolBar();
+    void UpdateActions();
+    QAction* Action(const QString& text, const QKeySequence& keys,
+                    const std::function<void()>& whenTriggered);
+
+    // main_window_edit.cpp
+    /// A change of the query that can be undone under a name.
+    void Step(const QString& name, const std::function<void()>& change);
+    void ShowSteps();
+
+    // main_window_files.cpp
+    void AskForDatabase(const TKDatabaseURL* preset = nullptr, const QString& error = {});
+    void OpenRecentDatabase(const QString& address);
+    void FillRecentMenus();
+    void NewQuery();
+    void AskForQuery();
+    bool SaveNow();
+    bool SaveAs();
+    bool MayDiscard();
+    void OpenFile(const QString& file);
+    void SaveRows();
+    void TellLostFields();
+    std::string QueryText() const;
+    void QueryLoaded(const QString& file);
+
+    // main_window_sql.cpp
+    QString TryReadSQL(const QString& sql, int& line);
+    void ShowReport(const std::string& before);
+    void AskForSQL();
+
+    // main_window_run.cpp
+    void QueryChanged();
+    void ShowSQL();
+    void ShowGrouping();
+    void RunWith(bool asking);
+    TRunRequest MakeRequest();
+    std::vector<TRunRequest::TTrial> MakeTrials() const;
+    void RunFailed(const QString& message, int row);
+    void ShowUnfinished();
+    TFilterCond* RowOf(int number) const;
+    QString Sentence(int number) const;
+    void FocusRow(int number);
+    void SortBy(int column);
+    void ShowSorting();
+    void AddColumn();
+
+    // main_window_view.cpp
+    void ApplyZoom();
+
+    std::unique_ptr<TDatabaseSession> session;
+    TKQueryPanel* conditions;
+    TKResultFieldsPanel* columns;
+    TResultView* results;
+    TQueryRunner runner;
+    QWidget* sqlPart = nullptr;
+    QPlainTextEdit* sqlText = nullptr;
+    QLabel* grouping = nullptr;
+    TMessageBar* queryMessages = nullptr;
+    QSplitter* queryParts = nullptr;
+    QSplitter* parts = nullptr;
+    QSpinBox* rowLimit = nullptr;
+    QTimer sqlTimer;  // the statement is shown when the changes of one event are over
+    QTimer liveTimer; // and run when nothing was typed for a while
+    QString queryFile;
+    std::string savedText; // of the query as it was loaded or saved
+    QString language;
+    TLook look = TLook::System;
+    int zoom = 100;
+    double plainPointSize = 0;
+    TRecentList recentDatabases{QStringLiteral("recent/databases")};
+    TRecentList recentQueries{QStringLiteral("recent/queries")};
+
+    QMenu* recentDatabaseMenu = nullptr;
+    QMenu* recentQueryMenu = nullptr;
+    QAction* saveAction = nullptr;
+    QAction* undoAction = nullptr;
+    QAction* redoAction = nullptr;
+    QAction* runAction = nullptr;
+    QAction* cancelAction = nullptr;
+    QAction* liveAction = nullptr;
+    QAction* distinctAction = nullptr;
+    QAction* sqlAction = nullptr;
+    QAction* addColumnAction = nullptr;
+    QAction* saveRowsAction = nullptr;
+    QActionGroup* languageActions = nullptr;
+    QActionGroup* lookActions = nullptr;
+};
+
+} // namespace tern7

@@ -1,0 +1,52 @@
+#include "main_window.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QStyle>
+#include <QTableView>
+
+#include <tern7/ui/panels/query_panel.h>
+
+#include "result_view.h"
+
+namespace tern7 {
+
+void TMainWindow::MakeEditMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
+    undoAction = Action(tr("&Undo"), QKeySequence::Undo, [this] { conditions->Undo(); });
+    redoAction = Action(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+                        [this] { conditions->Redo(); });
+    undoAction->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
+    redoAction->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
+    const QUndoStack& stack = conditions->Editor().Stack();
+    connect(&stack, &QUndoStack::indexChanged, this, &TMainWindow::ShowSteps);
+    ShowSteps();
+    menu->addActions({undoAction, redoAction});
+    menu->addSeparator();
+    // A shortcut of the table alone: elsewhere Ctrl+C copies what is selected there.
+    QAction* copy =
+        Action(tr("&Copy rows"), QKeySequence::Copy, [this] { results->CopySelected(); });
+    copy->setShortcutContext(Qt::WidgetShortcut);
+    results->Table().addAction(copy);
+    results->Table().setContextMenuPolicy(Qt::ActionsContextMenu);
+    menu->addAction(copy);
+}
+
+void TMainWindow::Step(const QString& name, const std::function<void()>& change) {
+    conditions->CloseEdit();
+    conditions->Editor().Run(name, change);
+}
+
+/// The actions name the step that they would take.
+void TMainWindow::ShowSteps() {
+    const QUndoStack& stack = conditions->Editor().Stack();
+    undoAction->setEnabled(stack.canUndo());
+    redoAction->setEnabled(stack.canRedo());
+    const QString undo = stack.undoText(), redo = stack.redoText();
+    undoAction->setText(undo.isEmpty() ? tr("&Undo") : tr("&Undo: %1").arg(undo));
+    redoAction->setText(redo.isEmpty() ? tr("&Redo") : tr("&Redo: %1").arg(redo));
+    undoAction->setIconText(tr("Undo"));
+    redoAction->setIconText(tr("Redo"));
+}
+
+} // namespace tern7

@@ -1,0 +1,269 @@
+#include "main_window.h"
+
+#include <algorithm>
+
+#include <QAction>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QSpinBox>
+#include <QTableView>
+
+#include <tern7/core/query/row_text.h>
+#include <tern7/ui/controls/popup_menu.h>
+#include <tern7/ui/panels/filter_row_view.h>
+#include <tern7/ui/panels/query_panel.h>
+#include <tern7/ui/panels/result_fields_panel.h>
+#include <tern7/ui/support/text.h>
+
+#include "parameter_dialog.h"
+#include "result_view.h"
+
+namespace tern7 {
+
+namespace {
+
+constexpr size_t mostTrials = 100;
+constexpr qsizetype mostSQL = 100'000; // characters that are shown
+
+/// The conditions of a query, depth first.
+void CollectConditions(TFilterBracket& bracket, std::vector<TFilterCond*>& found) {
+    for (int i = 0; i < bracket.GetRowCount(); ++i) {
+        TFilterRow* row = bracket.GetRow(i);
+        if (TFilterCond* condition = row->AsCond())
+            found.push_back(condition);
+        else
+            CollectConditions(*row->AsBracket(), found);
+    }
+}
+
+} // namespace
+
+// --- what follows a change
+
+void TMainWindow::QueryChanged() {
+    setWindowModified(true); // looked at closer when the statement is shown
+    sqlTimer.start();
+    if (liveAction->isChecked()) liveTimer.start();
+}
+
+void TMainWindow::ShowSQL() {
+    if (!session) return;
+    UpdateTitle();
+    UpdateActions();
+    try {
+        conditions->BuildQuery();
+        sqlText->setPlainText(ToQt(conditions->QResult().GetSQL().Text()).left(mostSQL));
+        sqlText->setPlaceholderText({});
+    } catch (const std::exception& error) {
+        sqlText->clear();
+        const bool empty = columns->ResultFields().GetCount() == 0;
+        sqlText->setPlaceholderText(empty ? tr("Add a column to begin.") : ToQt(error.what()));
+    }
+    ShowGrouping();
+    ShowSorting();
+}
+
+/// With sums, counts and the like there is a row for each combination of the other columns.
+void TMainWindow::ShowGrouping() {
+    const TRFieldList& list = columns->ResultFields();
+    QStringList groups;
+    bool aggregates = false;
+    for (int i = 0; i < list.GetCount(); ++i) {
+        const TResultField& column = *list.GetItem(i);
+        if (column.GetAgregate())
+            aggregates = true;
+        else
+            groups << ToQt(column.Caption());
+    }
+    grouping->setVisible(aggregates);
+    if (groups.isEmpty())
+        grouping->setText(tr("One row for all records."));
+    else
+        grouping->setText(tr("One row for each: %1.").arg(groups.join(QStringLiteral(", "))));
+}
+
+// --- running
+
+void TMainWindow::RunQuery() {
+    RunWith(true);
+}
+
+void TMainWindow::RunWith(bool asking) {
+    liveTimer.stop();
+    if (!session) return;
+    conditions->CloseEdit();
+    if (asking) queryMessages->Clear();
+    if (columns->ResultFields().GetCount() == 0) {
+        if (asking)
+            queryMessages->Say(TMessageBar::TKind::Note,
+                               tr("Add a column first: it is what the result will show."),
+                               tr("Add column"), [this] { AddColumn(); });
+        return;
+    }
+    const TKQuery& query = conditions->Query();
+    const std::vector<TSQLParam*> params = query.AllParams();
+    if (asking && !params.empty()) {
+        TParameterDialog dialog(query, this);
+        if (dialog.exec() != QDialog::Accepted) return;
+        dialog.Apply();
+    }
+    for (const TSQLParam* param : params)
+        if (!param->HasValue() && !asking) return; // it is asked for when the user runs the query
+    try {
+        runner.Run(MakeRequest());
+        ShowUnfinished();
+    } catch (const EKWrongValueError& error) {
+        if (!asking) return;
+        TFilterCond& row = const_cast<TFilterCond&>(error.Condition());
+        const int number = row.RowNum();
+        queryMessages->Say(TMessageBar::TKind::Warning, ToQt(error.what()), tr("Show the row"),
+                           [this, number] { FocusRow(number); });
+    } catch (const std::exception& error) {
+        if (asking) queryMessages->Say(TMessageBar::TKind::Warning, ToQt(error.what()));
+    }
+}
+
+TRunRequest TMainWindow::MakeRequest() {
+    conditions->BuildQuery();
+    TRunRequest request;
+    request.statement = conditions->QResult().GetBoundSQL();
+    request.rowLimit = rowLimit->value();
+    request.trials = MakeTrials();
+    return request;
+}
+
+/// The query with one condition at a time, to find the one that the database does not take.
+std::vector<TRunRequest::TTrial> TMainWindow::MakeTrials() const {
+    std::vector<TRunRequest::TTrial> trials;
+    TKQuery& query = conditions->Query();
+    std::vector<TFilterCond*> rows;
+    CollectConditions(query.Root(), rows);
+    if (rows.size() > mostTrials) return trials;
+
+    TKQuery alone(&session->Structure());
+    alone.SaveMainTable = true;
+    alone.SetQueryString(query.GetQueryString());
+    std::vector<TFilterCond*> copies;
+    CollectConditions(alone.Root(), copies);
+    if (copies.size() != rows.size()) return trials;
+    for (TFilterCond* row : copies)
+        row->SetEnabled(false);
+    for (size_t i = 0; i < copies.size(); ++i) {
+        if (!rows[i]->GetEnabled()) continue;
+        copies[i]->SetEnabled(true);
+        try {
+            alone.BuildQuery();
+            trials.push_back({rows[i]->RowNum(), alone.QResult().GetBoundSQL()});
+        } catch (const std::exception&) {
+            // Nothing that the database could be asked.
+        }
+        copies[i]->SetEnabled(false);
+    }
+    return trials;
+}
+
+void TMainWindow::RunFailed(const QString& message, int row) {
+    if (row < 0) return results->Messages().Say(TMessageBar::TKind::Warning, message);
+    results->Messages().Say(TMessageBar::TKind::Warning, tr("“%1”: %2").arg(Sentence(row), message),
+                            tr("Show the row"), [this, row] { FocusRow(row); });
+}
+
+/// A filter never vanishes in silence.
+void TMainWindow::ShowUnfinished() {
+    const std::vector<TUnfinishedRow> rows = conditions->Query().UnfinishedRows();
+    if (rows.empty()) return;
+    const int number = rows.front().row->RowNum();
+    const QString first =
+        tr("“%1”: %2").arg(Sentence(number), ToQt(UnfinishedText(rows.front().reason)));
+    queryMessages->Say(TMessageBar::TKind::Warning,
+                       tr("%n condition(s) are not finished and take no part (%1).", nullptr,
+                          static_cast<int>(rows.size()))
+                           .arg(first),
+                       tr("Show the row"), [this, number] { FocusRow(number); });
+}
+
+TFilterCond* TMainWindow::RowOf(int number) const {
+    std::vector<TFilterCond*> rows;
+    CollectConditions(conditions->Root(), rows);
+    const auto found = std::find_if(rows.begin(), rows.end(), [number](const TFilterCond* row) {
+        return row->RowNum() == number;
+    });
+    return found == rows.end() ? nullptr : *found;
+}
+
+/// The condition as it stands on the screen.
+QString TMainWindow::Sentence(int number) const {
+    const TFilterCond* row = RowOf(number);
+    if (!row) return {};
+    return ToQt(TKRowTexts(conditions->Titles()).Sentence(*row, conditions->Query().Style()));
+}
+
+void TMainWindow::FocusRow(int number) {
+    if (TFilterCond* row = RowOf(number)) conditions->FocusRow(*row);
+}
+
+// --- sorting and columns
+
+void TMainWindow::SortBy(int column) {
+    TRFieldList& list = columns->ResultFields();
+    if (list.JustSorting() || column >= list.GetCount()) return ShowSorting();
+    TResultField& clicked = *list.GetItem(column);
+    const TSortingType wanted = clicked.Sorting() == TSortingType::stAscending
+                                    ? TSortingType::stDescending
+                                    : TSortingType::stAscending;
+    Step(tr("Sort"), [&] {
+        for (int i = 0; i < list.GetCount(); ++i)
+            if (i != column) list.GetItem(i)->SetSorting(TSortingType::stNoSort);
+        clicked.SetSorting(wanted);
+        clicked.SetSortOrder(1);
+    });
+    RunWith(true);
+}
+
+/// The mark in the header of the column that rows are sorted by first.
+void TMainWindow::ShowSorting() {
+    const TRFieldList& list = columns->ResultFields();
+    int first = -1;
+    for (int i = 0; i < list.GetCount(); ++i) {
+        const TResultField& column = *list.GetItem(i);
+        if (column.Sorting() == TSortingType::stNoSort) continue;
+        if (first < 0 || column.SortOrder() < list.GetItem(first)->SortOrder()) first = i;
+    }
+    if (list.JustSorting() || first >= results->Model().columnCount()) first = -1;
+    const bool down = first >= 0 && list.GetItem(first)->Sorting() == TSortingType::stDescending;
+    results->ShowSorted(first, down ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+/// All fields in a menu with their groups; the chosen one becomes a column.
+void TMainWindow::AddColumn() {
+    if (!session) return;
+    auto* menu = new TKPopupMenu(this);
+    const TKCustomDBStructure& structure = session->Structure();
+    const auto add = [this](TMenuItem& into, TDSField* field) {
+        if (!field->UseInResult()) return;
+        TMenuItem& item = into.Add(ToQt(field->DisplayName()).replace(u'&', QStringLiteral("&&")));
+        item.OnClick = [this, id = field->ID()](TMenuItem*) {
+            TDSField* chosen = session ? session->Structure().FieldByID(id) : nullptr;
+            if (!chosen) return;
+            Step(tr("Add column"), [&] {
+                TRFieldList& list = columns->ResultFields();
+                list.Insert(list.GetCount(), list.GetUniqCaption(chosen->DisplayName()), {chosen});
+            });
+        };
+    };
+    for (int g = 0; g < structure.FieldGroups().GetCount(); ++g) {
+        const TDSFieldGroup& group = *structure.FieldGroups().GetItem(g);
+        TMenuItem& item =
+            menu->Items().Add(ToQt(group.GroupName()).replace(u'&', QStringLiteral("&&")));
+        for (int i = 0; i < group.GetCount(); ++i)
+            add(item, group.GetItem(i));
+    }
+    const TDSFieldList& root = structure.RootGroup();
+    for (int i = 0; i < root.GetCount(); ++i)
+        add(menu->Items(), root.GetItem(i));
+    connect(menu, &TKPopupMenu::closed, menu, &QObject::deleteLater);
+    const QRect place = columns->rect();
+    menu->PopupAt({columns->mapToGlobal(place.topLeft()), QSize(place.width(), 0)});
+}
+
+} // namespace tern7

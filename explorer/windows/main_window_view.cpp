@@ -1,0 +1,141 @@
+#include "main_window.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QSyntaxHighlighter>
+
+#include <tern7/ui/panels/query_panel.h>
+#include <tern7/ui/panels/result_fields_panel.h>
+#include <tern7/ui/support/language_titles.h>
+#include <tern7/ui/support/text.h>
+
+namespace tern7 {
+
+namespace {
+
+QPalette DarkPalette() {
+    const QColor window(0x2B, 0x2D, 0x30), base(0x1E, 0x1F, 0x22), text(0xDF, 0xE1, 0xE5);
+    QPalette palette(window);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, text);
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2B));
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Button, QColor(0x3A, 0x3D, 0x41));
+    palette.setColor(QPalette::ButtonText, text);
+    palette.setColor(QPalette::ToolTipBase, QColor(0x3A, 0x3D, 0x41));
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x8A, 0x8E, 0x95));
+    palette.setColor(QPalette::Link, QColor(0x7A, 0xB3, 0xFF));
+    palette.setColor(QPalette::LinkVisited, QColor(0xC0, 0xA0, 0xFF));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x65, 0xC8));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x80, 0x84, 0x8A));
+    return palette;
+}
+
+QPalette LightPalette() {
+    const QColor window(0xF3, 0xF3, 0xF4);
+    QPalette palette(window);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xF7, 0xF8, 0xFA));
+    palette.setColor(QPalette::Link, QColor(0x0B, 0x57, 0xD0));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x65, 0xC8));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}
+
+} // namespace
+
+void TMainWindow::MakeViewMenu() {
+    QMenu* menu = menuBar()->addMenu(tr("&View"));
+    sqlAction = new QAction(tr("Show &SQL"), this);
+    sqlAction->setCheckable(true);
+    sqlAction->setChecked(true);
+    sqlAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_J));
+    connect(sqlAction, &QAction::toggled, sqlPart, &QWidget::setVisible);
+    menu->addAction(sqlAction);
+
+    auto* andOr = new QAction(tr("And/or &words instead of brackets"), this);
+    andOr->setCheckable(true);
+    connect(andOr, &QAction::toggled, this, [this](bool on) {
+        conditions->Appearance().SetStyle(on ? TQPStyle::psAndOr : TQPStyle::psGroups);
+    });
+    menu->addAction(andOr);
+    menu->addSeparator();
+
+    QMenu* languageMenu = menu->addMenu(tr("&Language"));
+    languageActions = new QActionGroup(this);
+    for (const TTitleLanguage& each : TitleLanguages()) {
+        QAction* action = languageMenu->addAction(each.name);
+        action->setCheckable(true);
+        action->setData(each.code);
+        languageActions->addAction(action);
+    }
+    connect(languageActions, &QActionGroup::triggered, this,
+            [this](QAction* action) { SetLanguage(action->data().toString()); });
+
+    QMenu* lookMenu = menu->addMenu(tr("L&ook"));
+    lookActions = new QActionGroup(this);
+    const QString names[] = {tr("As the s&ystem"), tr("&Light"), tr("&Dark")};
+    for (int i = 0; i < 3; ++i) {
+        QAction* action = lookMenu->addAction(names[i]);
+        action->setCheckable(true);
+        action->setData(i);
+        lookActions->addAction(action);
+    }
+    connect(lookActions, &QActionGroup::triggered, this,
+            [this](QAction* action) { SetLook(static_cast<TLook>(action->data().toInt())); });
+
+    menu->addSeparator();
+    menu->addAction(Action(tr("Zoom &in"), QKeySequence::ZoomIn, [this] { SetZoom(zoom + 10); }));
+    menu->addAction(Action(tr("Zoom &out"), QKeySequence::ZoomOut, [this] { SetZoom(zoom - 10); }));
+    menu->addAction(
+        Action(tr("&Normal size"), QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(100); }));
+}
+
+void TMainWindow::SetLanguage(const QString& code) {
+    language = code.isEmpty() ? TitleLanguages().front().code : code;
+    for (QAction* action : languageActions->actions())
+        action->setChecked(action->data().toString() == language);
+    conditions->SetTitles(LanguageTitles(language));
+    columns->SetTitles(LanguageResultFieldsPanelTitles(language));
+    const bool fromRight = language == QLatin1String("ar");
+    QApplication::setLayoutDirection(fromRight ? Qt::RightToLeft : Qt::LeftToRight);
+}
+
+void TMainWindow::SetLook(TLook wanted) {
+    look = wanted;
+    for (QAction* action : lookActions->actions())
+        action->setChecked(action->data().toInt() == static_cast<int>(wanted));
+    if (wanted == TLook::System)
+        QApplication::setPalette(QPalette());
+    else
+        QApplication::setPalette(wanted == TLook::Dark ? DarkPalette() : LightPalette());
+    // The colours of the statement are chosen when it is coloured.
+    if (auto* highlighter = sqlText->document()->findChild<QSyntaxHighlighter*>())
+        highlighter->rehighlight();
+}
+
+void TMainWindow::SetZoom(int percent) {
+    zoom = std::clamp(percent, 50, 300);
+    ApplyZoom();
+}
+
+void TMainWindow::ApplyZoom() {
+    QFont font = QApplication::font();
+    font.setPointSizeF(plainPointSize * zoom / 100);
+    QApplication::setFont(font);
+    QFont fixed = sqlText->font();
+    fixed.setPointSizeF(plainPointSize * zoom / 100);
+    sqlText->setFont(fixed);
+}
+
+} // namespace tern7

@@ -1,0 +1,85 @@
+#include "message_bar.h"
+
+#include <QAccessible>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace tern7 {
+
+namespace {
+
+/// The colour of the window, tinted.
+QColor Tinted(const QColor& base, const QColor& tint) {
+    const auto mix = [](int a, int b) { return (a * 4 + b) / 5; };
+    return {mix(base.red(), tint.red()), mix(base.green(), tint.green()),
+            mix(base.blue(), tint.blue())};
+}
+
+} // namespace
+
+TMessageBar::TMessageBar(QWidget* parent)
+    : QFrame(parent), label(new QLabel), button(new QPushButton) {
+    setAutoFillBackground(true);
+    setFrameShape(QFrame::StyledPanel);
+    label->setWordWrap(true);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    auto* close = new QToolButton;
+    close->setText(QStringLiteral("×"));
+    close->setAutoRaise(true);
+    close->setAccessibleName(tr("Close the message"));
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(8, 4, 4, 4);
+    row->addWidget(label, 1);
+    row->addWidget(button);
+    row->addWidget(close);
+    connect(close, &QToolButton::clicked, this, &TMessageBar::Clear);
+    connect(button, &QPushButton::clicked, this, [this] {
+        const std::function<void()> action = whenPressed;
+        Clear();
+        if (action) action();
+    });
+    hide();
+}
+
+void TMessageBar::Say(TKind kind, const QString& text, const QString& offer,
+                      const std::function<void()>& action) {
+    shownKind = kind;
+    label->setText(text);
+    button->setText(offer);
+    button->setVisible(!offer.isEmpty());
+    whenPressed = action;
+    Colour();
+    show();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void TMessageBar::Clear() {
+    hide();
+    label->clear();
+    whenPressed = nullptr;
+}
+
+QString TMessageBar::Text() const {
+    return isHidden() ? QString() : label->text();
+}
+
+void TMessageBar::Colour() {
+    const QColor base = parentWidget() ? parentWidget()->palette().color(QPalette::Window)
+                                       : palette().color(QPalette::Window);
+    QPalette tinted = parentWidget() ? parentWidget()->palette() : palette();
+    tinted.setColor(QPalette::Window,
+                    Tinted(base, shownKind == TKind::Warning ? QColor(0xE0, 0x90, 0x00)
+                                                             : QColor(0x30, 0x80, 0xE0)));
+    setPalette(tinted);
+}
+
+void TMessageBar::changeEvent(QEvent* event) {
+    QFrame::changeEvent(event);
+    if (event->type() == QEvent::StyleChange && isVisible()) Colour();
+}
+
+} // namespace tern7

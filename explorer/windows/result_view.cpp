@@ -1,0 +1,171 @@
+#include "result_view.h"
+
+#include <algorithm>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QTableView>
+#include <QVBoxLayout>
+
+#include <tern7/core/corekit/files.h>
+#include <tern7/sql/csv_row.h>
+#include <tern7/ui/support/text.h>
+
+namespace tern7 {
+
+namespace {
+
+constexpr int widestColumn = 360;
+
+QString Seconds(qint64 milliseconds) {
+    return QLocale().toString(static_cast<double>(milliseconds) / 1000, 'f',
+                              milliseconds < 10'000 ? 2 : 0);
+}
+
+QString TabbedText(QString text) {
+    return text.replace(u'\t', u' ').replace(u'\n', u' ').replace(u'\r', u' ');
+}
+
+} // namespace
+
+TResultView::TResultView(QWidget* parent)
+    : QWidget(parent), messages(new TMessageBar(this)), table(new QTableView), summary(new QLabel),
+      progress(new QProgressBar), model(new TResultModel(this)) {
+    table->setModel(model);
+    table->setAccessibleName(tr("Result rows"));
+    table->setAlternatingRowColors(true);
+    table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table->setWordWrap(false);
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    table->horizontalHeader()->setSectionsClickable(true);
+    table->horizontalHeader()->setHighlightSections(false);
+    connect(table->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            &TResultView::headerClicked);
+    progress->setRange(0, 0);
+    progress->setMaximumWidth(120);
+    progress->setMaximumHeight(summary->sizeHint().height());
+    progress->setTextVisible(false);
+    progress->hide();
+    summary->setText(tr("Not run yet"));
+
+    auto* below = new QHBoxLayout;
+    below->addWidget(summary, 1);
+    below->addWidget(progress);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    column->addWidget(messages);
+    column->addWidget(table, 1);
+    column->addLayout(below);
+    clock.setInterval(200);
+    connect(&clock, &QTimer::timeout, this, &TResultView::ShowCount);
+}
+
+void TResultView::Attach(TQueryRunner& runner) {
+    connect(&runner, &TQueryRunner::started, this, &TResultView::RunStarted);
+    connect(&runner, &TQueryRunner::columnsRead, this,
+            [this](const std::vector<TKResultColumn>& columns) {
+                model->SetColumns(columns);
+                fitted = false;
+                FitColumns();
+            });
+    connect(&runner, &TQueryRunner::rowsRead, this,
+            [this](const std::shared_ptr<TResultRows>& rows) {
+                model->Append(std::move(*rows));
+                if (!fitted) FitColumns();
+                fitted = true;
+                ShowCount();
+            });
+    connect(&runner, &TQueryRunner::finished, this, [this](bool truncated) {
+        const QString count = tr("%n row(s)", nullptr, model->rowCount());
+        const QString rows = truncated ? tr("the first %1; there are more").arg(count) : count;
+        RunEnded(tr("%1, %2 s").arg(rows, Seconds(sinceStart.elapsed())));
+    });
+    connect(&runner, &TQueryRunner::failed, this,
+            [this] { RunEnded(tr("The database refused the query")); });
+    connect(&runner, &TQueryRunner::cancelled, this,
+            [this] { RunEnded(tr("Cancelled after %1 s").arg(Seconds(sinceStart.elapsed()))); });
+}
+
+void TResultView::RunStarted() {
+    messages->Clear();
+    sinceStart.start();
+    clock.start();
+    progress->show();
+    summary->setText(tr("Running..."));
+}
+
+void TResultView::RunEnded(const QString& text) {
+    clock.stop();
+    progress->hide();
+    summary->setText(text);
+    emit runEnded();
+}
+
+void TResultView::ShowCount() {
+    if (!clock.isActive()) return;
+    summary->setText(
+        tr("Running... %1, %2 s")
+            .arg(tr("%n row(s)", nullptr, model->rowCount()), Seconds(sinceStart.elapsed())));
+}
+
+QString TResultView::Summary() const {
+    return summary->text();
+}
+
+void TResultView::Clear() {
+    model->Clear();
+    messages->Clear();
+    summary->setText(tr("Not run yet"));
+}
+
+/// As wide as the first rows need, within reason.
+void TResultView::FitColumns() {
+    table->resizeColumnsToContents();
+    for (int i = 0; i < model->columnCount(); ++i)
+        table->setColumnWidth(i, std::min(table->columnWidth(i) + 8, widestColumn));
+}
+
+void TResultView::ShowSorted(int column, Qt::SortOrder order) {
+    QHeaderView* header = table->horizontalHeader();
+    header->setSortIndicatorShown(column >= 0);
+    if (column >= 0) header->setSortIndicator(column, order);
+}
+
+void TResultView::CopySelected() const {
+    const QItemSelectionModel& selection = *table->selectionModel();
+    QModelIndexList cells = selection.selectedIndexes();
+    if (cells.isEmpty()) return;
+    std::sort(cells.begin(), cells.end());
+    QString text;
+    if (!selection.selectedRows().isEmpty()) {
+        QStringList names;
+        for (const TKResultColumn& column : model->Columns())
+            names << TabbedText(ToQt(column.name));
+        text = names.join(u'\t') + u'\n';
+    }
+    for (qsizetype i = 0; i < cells.size(); ++i) {
+        if (i > 0) text += cells[i].row() == cells[i - 1].row() ? u'\t' : u'\n';
+        const TBoundValue& cell =
+            model->Row(cells[i].row())[static_cast<size_t>(cells[i].column())];
+        text += TabbedText(ToQt(cell.text));
+    }
+    QGuiApplication::clipboard()->setText(text);
+}
+
+void TResultView::SaveAsCsv(const QString& file) const {
+    std::vector<std::string> names;
+    for (const TKResultColumn& column : model->Columns())
+        names.push_back(column.name);
+    std::string text = CsvRow(names);
+    for (int i = 0; i < model->rowCount(); ++i)
+        text += CsvRow(model->Row(i));
+    WriteWholeFile(FromQt(file), text);
+}
+
+} // namespace tern7

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QWidget>
+
+#include "../run/result_model.h"
+#include "message_bar.h"
+
+class QLabel;
+class QProgressBar;
+class QTableView;
+
+namespace tern7 {
+
+/// The rows of the last run: a table, messages above it, and below it how many rows there are and
+/// how long it took.
+class TResultView : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TResultView(QWidget* parent = nullptr);
+
+    /// Follows the runs of a runner.
+    void Attach(TQueryRunner& runner);
+    TResultModel& Model() { return *model; }
+    QTableView& Table() { return *table; }
+    TMessageBar& Messages() { return *messages; }
+    QString Summary() const;
+    void Clear();
+    /// Marks a column's header as sorted; -1 for none.
+    void ShowSorted(int column, Qt::SortOrder order);
+    /// The selected cells as tabbed lines on the clipboard, with a line of names when whole rows
+    /// are selected.
+    void CopySelected() const;
+    /// All rows as comma separated values. EKFileError.
+    void SaveAsCsv(const QString& file) const;
+
+signals:
+    void headerClicked(int column);
+    /// The run has ended in some way.
+    void runEnded();
+
+private:
+    void RunStarted();
+    void RunEnded(const QString& summary);
+    void ShowCount();
+    void FitColumns();
+
+    TMessageBar* messages;
+    QTableView* table;
+    QLabel* summary;
+    QProgressBar* progress;
+    TResultModel* model;
+    QElapsedTimer sinceStart;
+    QTimer clock; // shows the time that passes
+    bool fitted = false;
+};
+
+} // namespace tern7

@@ -1,0 +1,150 @@
+#include <gtest/gtest.h>
+
+#include <QDialog>
+#include <QDir>
+#include <QHeaderView>
+#include <QMessageBox>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <explorer/data/sample_database.h>
+#include <explorer/windows/main_window.h>
+#include <explorer/windows/result_view.h>
+#include <tern7/core/corekit/files.h>
+#include <tern7/ui/panels/query_panel.h>
+#include <tern7/ui/panels/result_fields_panel.h>
+#include <tern7/ui/support/text.h>
+
+namespace tern7 {
+
+namespace {
+
+const QString samples = QStringLiteral(TERN7_TESTS_DIR "/../examples/sample/");
+
+/// Answers the next modal dialog as soon as it is there.
+struct TAnswer {
+    explicit TAnswer(QDialog::DialogCode code) {
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this, code] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            timer.stop();
+            seen = true;
+            dialog->done(code);
+        });
+        timer.start(20);
+    }
+    QTimer timer;
+    bool seen = false;
+};
+
+/// The window over the sample database with the example's structure.
+class TWindowTest : public testing::Test {
+protected:
+    void SetUp() override {
+        QStandardPaths::setTestModeEnabled(true);
+        QCoreApplication::setOrganizationName("tern7");
+        QCoreApplication::setApplicationName("tern7-test");
+        QSettings().clear();
+        window = std::make_unique<TMainWindow>();
+        window->show();
+        TKDatabaseURL url;
+        url.database = FromQt(SampleDatabase());
+        ASSERT_TRUE(window->OpenDatabase(url, samples + "sample.str"));
+    }
+
+    void Run() {
+        QSignalSpy ended(window.get(), &TMainWindow::runEnded);
+        window->RunQuery();
+        ASSERT_TRUE(ended.count() == 1 || ended.wait());
+    }
+    void AddColumn(const char* display) {
+        TRFieldList& list = window->Columns().ResultFields();
+        list.AddByExpression(display, TSortingType::stNoSort, std::string("{") + display + "}");
+    }
+    QString Cell(int row, int column) {
+        return window->Results().Model().index(row, column).data().toString();
+    }
+    int RowCount() { return window->Results().Model().rowCount(); }
+    static QString Queries(const char* file) { return samples + "queries/" + file; }
+
+    std::unique_ptr<TMainWindow> window;
+    QTemporaryDir folder;
+};
+
+TEST_F(TWindowTest, SavedQueryRuns) {
+    ASSERT_TRUE(window->LoadQuery(Queries("turnover.qry")));
+    EXPECT_FALSE(window->IsModified());
+    EXPECT_TRUE(window->ShownSQL().contains("GROUP BY"));
+    Run();
+    EXPECT_EQ(RowCount(), 44);
+    EXPECT_EQ(Cell(0, 0), "Austria");
+
+    // A click on a header sorts by that column, another one the other way round.
+    QSignalSpy ended(window.get(), &TMainWindow::runEnded);
+    const auto clickTurnover = [&] {
+        const QHeaderView* header = window->Results().Table().horizontalHeader();
+        const QPoint place(header->sectionViewportPosition(3) + 10, 10);
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, place);
+        return ended.wait();
+    };
+    ASSERT_TRUE(clickTurnover());
+    EXPECT_LT(Cell(0, 3).toDouble(), Cell(43, 3).toDouble());
+    ASSERT_TRUE(clickTurnover());
+    EXPECT_GT(Cell(0, 3).toDouble(), Cell(43, 3).toDouble());
+    EXPECT_TRUE(window->IsModified());
+}
+
+TEST_F(TWindowTest, SavedAndOpenedAgain) {
+    AddColumn("list price");
+    const QString file = folder.filePath("mine.qry");
+    EXPECT_TRUE(window->IsModified());
+    ASSERT_TRUE(window->SaveQuery(file));
+    EXPECT_FALSE(window->IsModified());
+    AddColumn("Price");
+    ASSERT_TRUE(window->LoadQuery(file));
+    EXPECT_EQ(window->Columns().ResultFields().GetCount(), 1);
+    TAnswer answer(QDialog::Accepted);
+    EXPECT_FALSE(window->SaveQuery("/no such folder/x.qry"));
+    EXPECT_TRUE(answer.seen);
+}
+
+TEST_F(TWindowTest, DamagedQueryChangesNothing) {
+    AddColumn("Price");
+    const QString file = folder.filePath("cut.qry");
+    const std::string whole = ReadWholeFile(FromQt(Queries("turnover.qry")));
+    WriteWholeFile(FromQt(file), whole.substr(0, whole.size() / 2));
+    TAnswer answer(QDialog::Accepted);
+    EXPECT_FALSE(window->LoadQuery(file));
+    EXPECT_TRUE(answer.seen);
+    EXPECT_EQ(window->Columns().ResultFields().GetCount(), 1);
+    Run();
+    EXPECT_GT(RowCount(), 10);
+}
+
+TEST_F(TWindowTest, StatementIsRead) {
+    const TAnswer report(QDialog::Accepted); // parts that are kept as text are told
+    ASSERT_TRUE(window->ReadSQL(
+        "select order_lines.quantity, order_lines.unit_price from order_lines where "
+        "order_lines.unit_price > 50"));
+    Run();
+    EXPECT_GT(RowCount(), 0);
+    EXPECT_GT(Cell(0, 1).toDouble(), 50);
+    const TAnswer message(QDialog::Accepted);
+    EXPECT_FALSE(window->ReadSQL("selec nonsense"));
+    EXPECT_EQ(window->Columns().ResultFields().GetCount(), 2);
+}
+
+TEST_F(TWindowTest, EmptyQuerySaysWhatIsMissing) {
+    window->RunQuery();
+    EXPECT_FALSE(window->IsRunning());
+    EXPECT_TRUE(window->findChild<TMessageBar*>("queryMessages")->Text().contains("column"));
+}
+
+} // namespace
+
+} // namespace tern7
