@@ -74,7 +74,8 @@ QString SchemaChoice(const QSqlDatabase& database, TKEngine engine) {
     if (!postgres && engine != TKEngine::MySQL) return {};
     QString schemas;
     ForEachRow(database,
-               postgres ? QStringLiteral("SHOW search_path") : QStringLiteral("SELECT DATABASE()"),
+               postgres ? QStringLiteral("SELECT current_setting('search_path')")
+                        : QStringLiteral("SELECT DATABASE()"),
                {}, [&](const QSqlQuery& query) { schemas = ToQt(TextOf(query, 0)); });
     if (schemas.isEmpty()) return {};
     if (postgres) return QStringLiteral("SET search_path = ") + schemas;
