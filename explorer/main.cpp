@@ -13,6 +13,7 @@
 #include <tern7/core/global/errors.h>
 #include <tern7/ui/support/text.h>
 
+#include "data/language.h"
 #include "run/query_runner.h"
 #include "windows/main_window.h"
 
@@ -53,6 +54,8 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationName(QStringLiteral("tern7"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TERN7_VERSION));
 
+    InstallLanguage(SystemLanguage()); // for the help
+
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QApplication::translate("main", "Questions to a database without SQL."));
@@ -75,7 +78,7 @@ int main(int argc, char** argv) {
         QApplication::translate("main", "Runs the query, saves a picture of the window and ends."),
         QStringLiteral("FILE"));
     const QCommandLineOption language(QStringLiteral("language"),
-                                      QApplication::translate("main", "Language of the captions."),
+                                      QApplication::translate("main", "Language of the program."),
                                       QStringLiteral("CODE"));
     const QCommandLineOption look(QStringLiteral("look"),
                                   QApplication::translate("main", "\"light\" or \"dark\"."),

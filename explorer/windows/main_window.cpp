@@ -29,27 +29,6 @@ namespace {
 constexpr int showSQLAfter = 30; // milliseconds after the last change
 constexpr int runLiveAfter = 600;
 
-/// A heading above a part of the window.
-QLabel* Heading(const QString& text, QWidget* buddy) {
-    auto* label = new QLabel(text);
-    QFont font = label->font();
-    font.setBold(true);
-    label->setFont(font);
-    label->setBuddy(buddy);
-    return label;
-}
-
-QWidget* Part(const QString& heading, QWidget* content) {
-    auto* part = new QWidget;
-    auto* column = new QVBoxLayout(part);
-    column->setContentsMargins(6, 4, 6, 4);
-    column->setSpacing(4);
-    column->addWidget(Heading(heading, content));
-    column->addWidget(content, 1);
-    content->setAccessibleName(QString(heading).remove(u'&'));
-    return part;
-}
-
 } // namespace
 
 TMainWindow::TMainWindow(QWidget* parent)
@@ -107,7 +86,7 @@ void TMainWindow::BuildWindow() {
     queryParts->setStretchFactor(0, 2);
     queryParts->setStretchFactor(1, 3);
     sqlPart = MakeSQLPart();
-    auto* resultPart = Part(tr("&Result"), results);
+    auto* resultPart = Part(QT_TR_NOOP("&Result"), results);
     results->setFocusProxy(&results->Table());
 
     queryMessages = new TMessageBar(this);
@@ -130,9 +109,29 @@ void TMainWindow::BuildWindow() {
     setCentralWidget(parts);
 }
 
+/// A part of the window below its heading.
+QWidget* TMainWindow::Part(const char* heading, QWidget* content) {
+    auto* label = new QLabel;
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setBuddy(content);
+    Worded([label, content, heading] {
+        label->setText(tr(heading));
+        content->setAccessibleName(tr(heading).remove(u'&'));
+    });
+    auto* part = new QWidget;
+    auto* column = new QVBoxLayout(part);
+    column->setContentsMargins(6, 4, 6, 4);
+    column->setSpacing(4);
+    column->addWidget(label);
+    column->addWidget(content, 1);
+    return part;
+}
+
 QWidget* TMainWindow::MakeColumnsPart() {
     columns->SetResultFields(&conditions->QResult().ResultFields());
-    QWidget* part = Part(tr("C&olumns"), columns);
+    QWidget* part = Part(QT_TR_NOOP("C&olumns"), columns);
     grouping = new QLabel;
     grouping->setWordWrap(true);
     grouping->hide();
@@ -141,7 +140,7 @@ QWidget* TMainWindow::MakeColumnsPart() {
 }
 
 QWidget* TMainWindow::MakeConditionsPart() {
-    return Part(tr("Con&ditions"), conditions);
+    return Part(QT_TR_NOOP("Con&ditions"), conditions);
 }
 
 QWidget* TMainWindow::MakeSQLPart() {
@@ -152,7 +151,7 @@ QWidget* TMainWindow::MakeSQLPart() {
     sqlText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     sqlText->setLayoutDirection(Qt::LeftToRight);
     new TSQLHighlighter(sqlText->document());
-    return Part(tr("S&QL"), sqlText);
+    return Part(QT_TR_NOOP("S&QL"), sqlText);
 }
 
 QString TMainWindow::ShownSQL() const {
@@ -199,6 +198,16 @@ void TMainWindow::UpdateTitle() {
     setWindowTitle(database.isEmpty() ? QStringLiteral("tern7")
                                       : QStringLiteral("%1[*] – %2 – tern7").arg(name, database));
     setWindowModified(IsModified());
+}
+
+void TMainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::LanguageChange) return;
+    for (const auto& say : wordings)
+        say();
+    FillRecentMenus();
+    UpdateTitle();
+    ShowSQL();
 }
 
 void TMainWindow::closeEvent(QCloseEvent* event) {

@@ -55,7 +55,8 @@ public:
     bool ReadSQL(const QString& sql);
 
     // --- looks
-    /// A language of the captions by its code ("de"); English when it is empty.
+    /// The whole program in a language of TitleLanguages by its code ("de"); the system's when it
+    /// is empty.
     void SetLanguage(const QString& code);
     enum class TLook { System, Light, Dark };
     void SetLook(TLook look);
@@ -70,6 +71,7 @@ signals:
     void runEnded();
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -77,6 +79,7 @@ protected:
 private:
     // main_window.cpp
     void BuildWindow();
+    QWidget* Part(const char* heading, QWidget* content);
     QWidget* MakeColumnsPart();
     QWidget* MakeConditionsPart();
     QWidget* MakeSQLPart();
@@ -92,12 +95,17 @@ private:
     void MakeViewMenu();
     void MakeToolBar();
     void UpdateActions();
-    QAction* Action(const QString& text, const QKeySequence& keys,
+    /// Says something in the program's language: now and after every change of the language.
+    void Worded(const std::function<void()>& say);
+    // their texts are marked with QT_TR_NOOP
+    QAction* Action(const char* text, const QKeySequence& keys,
                     const std::function<void()>& whenTriggered);
+    QAction* Switch(const char* text, const std::function<void()>& whenTriggered);
+    QMenu* Menu(const char* title, QMenu* into = nullptr);
 
     // main_window_edit.cpp
     /// A change of the query that can be undone under a name.
-    void Step(const QString& name, const std::function<void()>& change);
+    void Step(const char* name, const std::function<void()>& change);
     void ShowSteps();
 
     // main_window_files.cpp
@@ -135,9 +143,15 @@ private:
     void SortBy(int column);
     void ShowSorting();
     void AddColumn();
+    void EditColumns();
 
     // main_window_view.cpp
     void ApplyZoom();
+    void ShowTitles();
+    template <class Panel>
+    void EditTitles(Panel& panel);
+    void ForgetTitles();
+    QString TitlesKey(const char* part) const;
 
     std::unique_ptr<TDatabaseSession> session;
     TKQueryPanel* conditions;
@@ -162,6 +176,7 @@ private:
     TRecentList recentDatabases{QStringLiteral("recent/databases")};
     TRecentList recentQueries{QStringLiteral("recent/queries")};
 
+    std::vector<std::function<void()>> wordings;
     QMenu* recentDatabaseMenu = nullptr;
     QMenu* recentQueryMenu = nullptr;
     QAction* saveAction = nullptr;
@@ -173,6 +188,7 @@ private:
     QAction* distinctAction = nullptr;
     QAction* sqlAction = nullptr;
     QAction* addColumnAction = nullptr;
+    QAction* editColumnsAction = nullptr;
     QAction* saveRowsAction = nullptr;
     QActionGroup* languageActions = nullptr;
     QActionGroup* lookActions = nullptr;

@@ -4,6 +4,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QSpinBox>
 #include <QStyle>
@@ -15,12 +16,30 @@
 
 namespace tern7 {
 
-QAction* TMainWindow::Action(const QString& text, const QKeySequence& keys,
+void TMainWindow::Worded(const std::function<void()>& say) {
+    say();
+    wordings.push_back(say);
+}
+
+QAction* TMainWindow::Action(const char* text, const QKeySequence& keys,
                              const std::function<void()>& whenTriggered) {
-    auto* action = new QAction(text, this);
+    auto* action = new QAction(this);
+    Worded([action, text] { action->setText(tr(text)); });
     action->setShortcut(keys);
     connect(action, &QAction::triggered, this, whenTriggered);
     return action;
+}
+
+QAction* TMainWindow::Switch(const char* text, const std::function<void()>& whenTriggered) {
+    QAction* action = Action(text, {}, whenTriggered);
+    action->setCheckable(true);
+    return action;
+}
+
+QMenu* TMainWindow::Menu(const char* title, QMenu* into) {
+    QMenu* menu = into ? into->addMenu(QString()) : menuBar()->addMenu(QString());
+    Worded([menu, title] { menu->setTitle(tr(title)); });
+    return menu;
 }
 
 void TMainWindow::MakeActions() {
@@ -32,28 +51,30 @@ void TMainWindow::MakeActions() {
 }
 
 void TMainWindow::MakeFileMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&File"));
-    menu->addAction(Action(tr("Open &database..."), QKeySequence(Qt::CTRL | Qt::Key_D, Qt::Key_O),
+    QMenu* menu = Menu(QT_TR_NOOP("&File"));
+    menu->addAction(Action(QT_TR_NOOP("Open &database..."), QKeySequence("Ctrl+D"),
                            [this] { AskForDatabase(); }));
-    recentDatabaseMenu = menu->addMenu(tr("Recent d&atabases"));
-    menu->addAction(Action(tr("Sa&mple database"), {}, [this] { OpenSample(); }));
+    recentDatabaseMenu = Menu(QT_TR_NOOP("Recent d&atabases"), menu);
+    menu->addAction(Action(QT_TR_NOOP("Sa&mple database"), {}, [this] { OpenSample(); }));
     menu->addSeparator();
-    menu->addAction(Action(tr("&New query"), QKeySequence::New, [this] {
+    menu->addAction(Action(QT_TR_NOOP("&New query"), QKeySequence::New, [this] {
         if (MayDiscard()) NewQuery();
     }));
-    menu->addAction(Action(tr("&Open query..."), QKeySequence::Open, [this] { AskForQuery(); }));
-    recentQueryMenu = menu->addMenu(tr("&Recent queries"));
-    saveAction = Action(tr("&Save query"), QKeySequence::Save, [this] { SaveNow(); });
+    menu->addAction(
+        Action(QT_TR_NOOP("&Open query..."), QKeySequence::Open, [this] { AskForQuery(); }));
+    recentQueryMenu = Menu(QT_TR_NOOP("&Recent queries"), menu);
+    saveAction = Action(QT_TR_NOOP("&Save query"), QKeySequence::Save, [this] { SaveNow(); });
     menu->addAction(saveAction);
-    menu->addAction(Action(tr("Save query &as..."), QKeySequence::SaveAs, [this] { SaveAs(); }));
+    menu->addAction(
+        Action(QT_TR_NOOP("Save query &as..."), QKeySequence::SaveAs, [this] { SaveAs(); }));
     menu->addSeparator();
     menu->addAction(
-        Action(tr("Read S&QL..."), QKeySequence(Qt::CTRL | Qt::Key_L), [this] { AskForSQL(); }));
-    saveRowsAction = Action(tr("Save &rows as CSV..."), QKeySequence(Qt::CTRL | Qt::Key_E),
-                            [this] { SaveRows(); });
+        Action(QT_TR_NOOP("Read S&QL..."), QKeySequence("Ctrl+L"), [this] { AskForSQL(); }));
+    saveRowsAction =
+        Action(QT_TR_NOOP("Save &rows as CSV..."), QKeySequence("Ctrl+E"), [this] { SaveRows(); });
     menu->addAction(saveRowsAction);
     menu->addSeparator();
-    QAction* quit = Action(tr("&Quit"), QKeySequence::Quit, [this] { close(); });
+    QAction* quit = Action(QT_TR_NOOP("&Quit"), QKeySequence::Quit, [this] { close(); });
     quit->setMenuRole(QAction::QuitRole);
     menu->addAction(quit);
     connect(recentDatabaseMenu, &QMenu::aboutToShow, this, &TMainWindow::FillRecentMenus);
@@ -62,39 +83,40 @@ void TMainWindow::MakeFileMenu() {
 }
 
 void TMainWindow::MakeQueryMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Query"));
-    runAction = Action(tr("&Run"), QKeySequence(Qt::Key_F5), [this] { RunQuery(); });
+    QMenu* menu = Menu(QT_TR_NOOP("&Query"));
+    runAction = Action(QT_TR_NOOP("&Run"), QKeySequence("F5"), [this] { RunQuery(); });
     runAction->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
-    runAction->setToolTip(tr("Run the query (F5)"));
-    cancelAction =
-        Action(tr("&Cancel"), QKeySequence(Qt::SHIFT | Qt::Key_F5), [this] { CancelRun(); });
+    Worded([this] { runAction->setToolTip(tr("Run the query (F5)")); });
+    cancelAction = Action(QT_TR_NOOP("&Cancel"), QKeySequence("Shift+F5"), [this] { CancelRun(); });
     cancelAction->setIcon(style()->standardIcon(QStyle::SP_MediaStop));
-    liveAction = Action(tr("Run after every c&hange"), {}, [this] { QueryChanged(); });
-    liveAction->setCheckable(true);
+    liveAction = Switch(QT_TR_NOOP("Run after every c&hange"), [this] { QueryChanged(); });
     addColumnAction =
-        Action(tr("Add c&olumn..."), QKeySequence(Qt::CTRL | Qt::Key_K), [this] { AddColumn(); });
-    distinctAction = Action(tr("&Equal rows only once"), {}, [this] {
+        Action(QT_TR_NOOP("Add c&olumn..."), QKeySequence("Ctrl+K"), [this] { AddColumn(); });
+    distinctAction = Switch(QT_TR_NOOP("&Equal rows only once"), [this] {
         TSQLOptions options = conditions->SQLOptions();
         if (distinctAction->isChecked())
             options.Include(TSQLOption::soSelectDistinct);
         else
             options.Exclude(TSQLOption::soSelectDistinct);
-        Step(tr("Equal rows"), [&] { conditions->SetSQLOptions(options); });
+        Step(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Equal rows"),
+             [&] { conditions->SetSQLOptions(options); });
     });
-    distinctAction->setCheckable(true);
+    editColumnsAction = Action(QT_TR_NOOP("E&dit columns..."), QKeySequence("Ctrl+Shift+K"),
+                               [this] { EditColumns(); });
     menu->addActions({runAction, cancelAction, liveAction});
     menu->addSeparator();
-    menu->addActions({addColumnAction, distinctAction});
+    menu->addActions({addColumnAction, editColumnsAction, distinctAction});
 }
 
 void TMainWindow::MakeToolBar() {
-    QToolBar* bar = addToolBar(tr("Tools"));
+    QToolBar* bar = addToolBar(QString());
+    Worded([bar] { bar->setWindowTitle(tr("Tools")); });
     bar->setObjectName(QStringLiteral("tools"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->addActions({runAction, cancelAction});
     bar->addSeparator();
-    bar->addAction(addColumnAction);
+    bar->addActions({addColumnAction, editColumnsAction});
     bar->addSeparator();
     bar->addActions({undoAction, redoAction});
     bar->addSeparator();
@@ -104,7 +126,9 @@ void TMainWindow::MakeToolBar() {
     rowLimit->setSingleStep(100);
     rowLimit->setGroupSeparatorShown(true);
     rowLimit->setValue(1000);
-    auto* label = new QLabel(tr("  Rows at &most: "));
+    auto* label = new QLabel;
+    label->setContentsMargins(8, 0, 4, 0);
+    Worded([label] { label->setText(tr("Rows at &most:")); });
     label->setBuddy(rowLimit);
     bar->addWidget(label);
     bar->addWidget(rowLimit);
@@ -116,6 +140,7 @@ void TMainWindow::UpdateActions() {
     cancelAction->setEnabled(running);
     saveAction->setEnabled(HasDatabase());
     addColumnAction->setEnabled(HasDatabase());
+    editColumnsAction->setEnabled(HasDatabase());
     saveRowsAction->setEnabled(results->Model().rowCount() > 0 && !running);
     distinctAction->setChecked(conditions->SQLOptions().Contains(TSQLOption::soSelectDistinct));
 }

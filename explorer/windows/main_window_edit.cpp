@@ -12,29 +12,29 @@
 namespace tern7 {
 
 void TMainWindow::MakeEditMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&Edit"));
-    undoAction = Action(tr("&Undo"), QKeySequence::Undo, [this] { conditions->Undo(); });
-    redoAction = Action(tr("&Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z),
+    QMenu* menu = Menu(QT_TR_NOOP("&Edit"));
+    undoAction = Action(QT_TR_NOOP("&Undo"), QKeySequence::Undo, [this] { conditions->Undo(); });
+    redoAction = Action(QT_TR_NOOP("&Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")),
                         [this] { conditions->Redo(); });
     undoAction->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
     redoAction->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     const QUndoStack& stack = conditions->Editor().Stack();
     connect(&stack, &QUndoStack::indexChanged, this, &TMainWindow::ShowSteps);
-    ShowSteps();
+    Worded([this] { ShowSteps(); });
     menu->addActions({undoAction, redoAction});
     menu->addSeparator();
     // A shortcut of the table alone: elsewhere Ctrl+C copies what is selected there.
     QAction* copy =
-        Action(tr("&Copy rows"), QKeySequence::Copy, [this] { results->CopySelected(); });
+        Action(QT_TR_NOOP("&Copy rows"), QKeySequence::Copy, [this] { results->CopySelected(); });
     copy->setShortcutContext(Qt::WidgetShortcut);
     results->Table().addAction(copy);
     results->Table().setContextMenuPolicy(Qt::ActionsContextMenu);
     menu->addAction(copy);
 }
 
-void TMainWindow::Step(const QString& name, const std::function<void()>& change) {
+void TMainWindow::Step(const char* name, const std::function<void()>& change) {
     conditions->CloseEdit();
-    conditions->Editor().Run(name, change);
+    conditions->Editor().Run(QString::fromUtf8(name), change);
 }
 
 /// The actions name the step that they would take.

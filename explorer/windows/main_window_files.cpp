@@ -241,10 +241,11 @@ void TMainWindow::TellLostFields() {
         for (int k = 0; k < list.GetItem(i)->GetDSFieldCount(); ++k)
             lost += list.GetItem(i)->GetDSField(k) == session->Structure().PlaceholderField();
     if (lost > 0)
-        queryMessages->Say(TMessageBar::TKind::Warning,
-                           tr("%n row(s) of this query refer to fields that the database does not "
-                              "have. They are marked and take no part.",
-                              nullptr, lost));
+        queryMessages->Say(TMessageBar::TKind::Warning, [lost] {
+            return tr("%n row(s) of this query refer to fields that the database does not have. "
+                      "They are marked and take no part.",
+                      nullptr, lost);
+        });
 }
 
 void TMainWindow::SaveRows() {

@@ -13,6 +13,7 @@
 #include <tern7/ui/panels/filter_row_view.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/result_fields_panel.h>
+#include <tern7/ui/panels/row_problem.h>
 #include <tern7/ui/support/text.h>
 
 #include "parameter_dialog.h"
@@ -24,6 +25,11 @@ namespace {
 
 constexpr size_t mostTrials = 100;
 constexpr qsizetype mostSQL = 100'000; // characters that are shown
+
+/// A message that is there in one language only.
+TWording Fixed(const char* message) {
+    return [text = ToQt(message)] { return text; };
+}
 
 /// The conditions of a query, depth first.
 void CollectConditions(TFilterBracket& bracket, std::vector<TFilterCond*>& found) {
@@ -95,9 +101,13 @@ void TMainWindow::RunWith(bool asking) {
     if (asking) queryMessages->Clear();
     if (columns->ResultFields().GetCount() == 0) {
         if (asking)
-            queryMessages->Say(TMessageBar::TKind::Note,
-                               tr("Add a column first: it is what the result will show."),
-                               tr("Add column"), [this] { AddColumn(); });
+            queryMessages->Say(
+                TMessageBar::TKind::Note,
+                [] {
+                    return tr("Add a column first: it is what the result will "
+                              "show.");
+                },
+                [] { return tr("Add column"); }, [this] { AddColumn(); });
         return;
     }
     const TKQuery& query = conditions->Query();
@@ -116,10 +126,11 @@ void TMainWindow::RunWith(bool asking) {
         if (!asking) return;
         TFilterCond& row = const_cast<TFilterCond&>(error.Condition());
         const int number = row.RowNum();
-        queryMessages->Say(TMessageBar::TKind::Warning, ToQt(error.what()), tr("Show the row"),
-                           [this, number] { FocusRow(number); });
+        queryMessages->Say(
+            TMessageBar::TKind::Warning, Fixed(error.what()), [] { return tr("Show the row"); },
+            [this, number] { FocusRow(number); });
     } catch (const std::exception& error) {
-        if (asking) queryMessages->Say(TMessageBar::TKind::Warning, ToQt(error.what()));
+        if (asking) queryMessages->Say(TMessageBar::TKind::Warning, Fixed(error.what()));
     }
 }
 
@@ -163,9 +174,12 @@ std::vector<TRunRequest::TTrial> TMainWindow::MakeTrials() const {
 }
 
 void TMainWindow::RunFailed(const QString& message, int row) {
-    if (row < 0) return results->Messages().Say(TMessageBar::TKind::Warning, message);
-    results->Messages().Say(TMessageBar::TKind::Warning, tr("“%1”: %2").arg(Sentence(row), message),
-                            tr("Show the row"), [this, row] { FocusRow(row); });
+    if (row < 0)
+        return results->Messages().Say(TMessageBar::TKind::Warning, [message] { return message; });
+    results->Messages().Say(
+        TMessageBar::TKind::Warning,
+        [this, message, row] { return tr("“%1”: %2").arg(Sentence(row), message); },
+        [] { return tr("Show the row"); }, [this, row] { FocusRow(row); });
 }
 
 /// A filter never vanishes in silence.
@@ -173,13 +187,16 @@ void TMainWindow::ShowUnfinished() {
     const std::vector<TUnfinishedRow> rows = conditions->Query().UnfinishedRows();
     if (rows.empty()) return;
     const int number = rows.front().row->RowNum();
-    const QString first =
-        tr("“%1”: %2").arg(Sentence(number), ToQt(UnfinishedText(rows.front().reason)));
-    queryMessages->Say(TMessageBar::TKind::Warning,
-                       tr("%n condition(s) are not finished and take no part (%1).", nullptr,
-                          static_cast<int>(rows.size()))
-                           .arg(first),
-                       tr("Show the row"), [this, number] { FocusRow(number); });
+    const auto say = [this, number, count = static_cast<int>(rows.size())] {
+        const TFilterCond* row = RowOf(number);
+        const QString first =
+            tr("“%1”: %2").arg(Sentence(number), row ? RowProblem(*row) : QString());
+        return tr("%n condition(s) are not finished and take no part (%1).", nullptr, count)
+            .arg(first);
+    };
+    queryMessages->Say(
+        TMessageBar::TKind::Warning, say, [] { return tr("Show the row"); },
+        [this, number] { FocusRow(number); });
 }
 
 TFilterCond* TMainWindow::RowOf(int number) const {
@@ -211,7 +228,7 @@ void TMainWindow::SortBy(int column) {
     const TSortingType wanted = clicked.Sorting() == TSortingType::stAscending
                                     ? TSortingType::stDescending
                                     : TSortingType::stAscending;
-    Step(tr("Sort"), [&] {
+    Step(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Sort"), [&] {
         for (int i = 0; i < list.GetCount(); ++i)
             if (i != column) list.GetItem(i)->SetSorting(TSortingType::stNoSort);
         clicked.SetSorting(wanted);
@@ -234,6 +251,12 @@ void TMainWindow::ShowSorting() {
     results->ShowSorted(first, down ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
+void TMainWindow::EditColumns() {
+    if (!session) return;
+    conditions->CloseEdit();
+    conditions->EditResultFields();
+}
+
 /// All fields in a menu with their groups; the chosen one becomes a column.
 void TMainWindow::AddColumn() {
     if (!session) return;
@@ -245,7 +268,7 @@ void TMainWindow::AddColumn() {
         item.OnClick = [this, id = field->ID()](TMenuItem*) {
             TDSField* chosen = session ? session->Structure().FieldByID(id) : nullptr;
             if (!chosen) return;
-            Step(tr("Add column"), [&] {
+            Step(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add column"), [&] {
                 TRFieldList& list = columns->ResultFields();
                 list.Insert(list.GetCount(), list.GetUniqCaption(chosen->DisplayName()), {chosen});
             });

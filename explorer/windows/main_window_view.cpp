@@ -3,8 +3,10 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
-#include <QMenuBar>
+#include <QEvent>
+#include <QMenu>
 #include <QPlainTextEdit>
+#include <QSettings>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QSyntaxHighlighter>
@@ -13,6 +15,8 @@
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/language_titles.h>
 #include <tern7/ui/support/text.h>
+
+#include "../data/language.h"
 
 namespace tern7 {
 
@@ -55,23 +59,21 @@ QPalette LightPalette() {
 } // namespace
 
 void TMainWindow::MakeViewMenu() {
-    QMenu* menu = menuBar()->addMenu(tr("&View"));
-    sqlAction = new QAction(tr("Show &SQL"), this);
-    sqlAction->setCheckable(true);
+    QMenu* menu = Menu(QT_TR_NOOP("&View"));
+    sqlAction = Switch(QT_TR_NOOP("Show &SQL"), {});
     sqlAction->setChecked(true);
-    sqlAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_J));
+    sqlAction->setShortcut(QKeySequence(QStringLiteral("Ctrl+J")));
     connect(sqlAction, &QAction::toggled, sqlPart, &QWidget::setVisible);
     menu->addAction(sqlAction);
 
-    auto* andOr = new QAction(tr("And/or &words instead of brackets"), this);
-    andOr->setCheckable(true);
+    QAction* andOr = Switch(QT_TR_NOOP("And/or &words instead of brackets"), {});
     connect(andOr, &QAction::toggled, this, [this](bool on) {
         conditions->Appearance().SetStyle(on ? TQPStyle::psAndOr : TQPStyle::psGroups);
     });
     menu->addAction(andOr);
     menu->addSeparator();
 
-    QMenu* languageMenu = menu->addMenu(tr("&Language"));
+    QMenu* languageMenu = Menu(QT_TR_NOOP("&Language"), menu);
     languageActions = new QActionGroup(this);
     for (const TTitleLanguage& each : TitleLanguages()) {
         QAction* action = languageMenu->addAction(each.name);
@@ -82,34 +84,75 @@ void TMainWindow::MakeViewMenu() {
     connect(languageActions, &QActionGroup::triggered, this,
             [this](QAction* action) { SetLanguage(action->data().toString()); });
 
-    QMenu* lookMenu = menu->addMenu(tr("L&ook"));
+    QMenu* titlesMenu = Menu(QT_TR_NOOP("&Captions"), menu);
+    titlesMenu->addAction(Action(QT_TR_NOOP("Of the con&ditions..."), QKeySequence("Ctrl+Shift+T"),
+                                 [this] { EditTitles(*conditions); }));
+    titlesMenu->addAction(
+        Action(QT_TR_NOOP("Of the c&olumns..."), {}, [this] { EditTitles(*columns); }));
+    titlesMenu->addAction(Action(QT_TR_NOOP("As &delivered"), {}, [this] { ForgetTitles(); }));
+
+    QMenu* lookMenu = Menu(QT_TR_NOOP("L&ook"), menu);
     lookActions = new QActionGroup(this);
-    const QString names[] = {tr("As the s&ystem"), tr("&Light"), tr("&Dark")};
+    const char* const names[] = {QT_TR_NOOP("As the s&ystem"), QT_TR_NOOP("&Light"),
+                                 QT_TR_NOOP("&Dark")};
     for (int i = 0; i < 3; ++i) {
-        QAction* action = lookMenu->addAction(names[i]);
-        action->setCheckable(true);
+        QAction* action = Switch(names[i], [this, i] { SetLook(static_cast<TLook>(i)); });
         action->setData(i);
         lookActions->addAction(action);
     }
-    connect(lookActions, &QActionGroup::triggered, this,
-            [this](QAction* action) { SetLook(static_cast<TLook>(action->data().toInt())); });
+    lookMenu->addActions(lookActions->actions());
 
     menu->addSeparator();
-    menu->addAction(Action(tr("Zoom &in"), QKeySequence::ZoomIn, [this] { SetZoom(zoom + 10); }));
-    menu->addAction(Action(tr("Zoom &out"), QKeySequence::ZoomOut, [this] { SetZoom(zoom - 10); }));
     menu->addAction(
-        Action(tr("&Normal size"), QKeySequence(Qt::CTRL | Qt::Key_0), [this] { SetZoom(100); }));
+        Action(QT_TR_NOOP("Zoom &in"), QKeySequence::ZoomIn, [this] { SetZoom(zoom + 10); }));
+    menu->addAction(
+        Action(QT_TR_NOOP("Zoom &out"), QKeySequence::ZoomOut, [this] { SetZoom(zoom - 10); }));
+    menu->addAction(
+        Action(QT_TR_NOOP("&Normal size"), QKeySequence("Ctrl+0"), [this] { SetZoom(100); }));
 }
 
+// --- language and captions
+
 void TMainWindow::SetLanguage(const QString& code) {
-    language = code.isEmpty() ? TitleLanguages().front().code : code;
+    language = code.isEmpty() ? SystemLanguage() : code;
     for (QAction* action : languageActions->actions())
         action->setChecked(action->data().toString() == language);
-    conditions->SetTitles(LanguageTitles(language));
-    columns->SetTitles(LanguageResultFieldsPanelTitles(language));
-    const bool fromRight = language == QLatin1String("ar");
-    QApplication::setLayoutDirection(fromRight ? Qt::RightToLeft : Qt::LeftToRight);
+    InstallLanguage(language);
+    ShowTitles();
+    QEvent event(QEvent::LanguageChange); // not only when the windows get to it
+    QCoreApplication::sendEvent(this, &event);
 }
+
+QString TMainWindow::TitlesKey(const char* part) const {
+    return QStringLiteral("titles/%1/%2").arg(language, QLatin1String(part));
+}
+
+/// The captions of the language, or what the user has made of them.
+void TMainWindow::ShowTitles() {
+    const auto titles = [this](const char* part, const TStrings& delivered) {
+        const QByteArray own = QSettings().value(TitlesKey(part)).toByteArray();
+        return own.isEmpty() ? delivered : SplitLines(own.toStdString());
+    };
+    conditions->SetTitles(titles("conditions", LanguageTitles(language)));
+    columns->SetTitles(titles("columns", LanguageResultFieldsPanelTitles(language)));
+}
+
+template <class Panel>
+void TMainWindow::EditTitles(Panel& panel) {
+    if (!panel.EditTitles()) return;
+    const bool ofColumns = std::is_same_v<Panel, TKResultFieldsPanel>;
+    QSettings().setValue(TitlesKey(ofColumns ? "columns" : "conditions"),
+                         QByteArray::fromStdString(JoinStrings(panel.Titles(), "\n")));
+}
+
+void TMainWindow::ForgetTitles() {
+    QSettings settings;
+    for (const char* part : {"conditions", "columns"})
+        settings.remove(TitlesKey(part));
+    ShowTitles();
+}
+
+// --- look and zoom
 
 void TMainWindow::SetLook(TLook wanted) {
     look = wanted;

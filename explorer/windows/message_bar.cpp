@@ -21,15 +21,13 @@ QColor Tinted(const QColor& base, const QColor& tint) {
 } // namespace
 
 TMessageBar::TMessageBar(QWidget* parent)
-    : QFrame(parent), label(new QLabel), button(new QPushButton) {
+    : QFrame(parent), label(new QLabel), button(new QPushButton), close(new QToolButton) {
     setAutoFillBackground(true);
     setFrameShape(QFrame::StyledPanel);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    auto* close = new QToolButton;
     close->setText(QStringLiteral("×"));
     close->setAutoRaise(true);
-    close->setAccessibleName(tr("Close the message"));
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 4, 4);
     row->addWidget(label, 1);
@@ -41,16 +39,17 @@ TMessageBar::TMessageBar(QWidget* parent)
         Clear();
         if (action) action();
     });
+    Word();
     hide();
 }
 
-void TMessageBar::Say(TKind kind, const QString& text, const QString& offer,
-                      const std::function<void()>& action) {
+void TMessageBar::Say(TKind kind, TWording text, TWording offer, std::function<void()> action) {
     shownKind = kind;
-    label->setText(text);
-    button->setText(offer);
-    button->setVisible(!offer.isEmpty());
-    whenPressed = action;
+    shownText = std::move(text);
+    shownOffer = std::move(offer);
+    whenPressed = std::move(action);
+    Word();
+    button->setVisible(shownOffer != nullptr);
     Colour();
     show();
     QAccessibleEvent alert(this, QAccessible::Alert);
@@ -59,12 +58,19 @@ void TMessageBar::Say(TKind kind, const QString& text, const QString& offer,
 
 void TMessageBar::Clear() {
     hide();
-    label->clear();
+    shownText = shownOffer = nullptr;
     whenPressed = nullptr;
+    Word();
 }
 
 QString TMessageBar::Text() const {
     return isHidden() ? QString() : label->text();
+}
+
+void TMessageBar::Word() {
+    label->setText(shownText ? shownText() : QString());
+    button->setText(shownOffer ? shownOffer() : QString());
+    close->setAccessibleName(tr("Close the message"));
 }
 
 void TMessageBar::Colour() {
@@ -80,6 +86,7 @@ void TMessageBar::Colour() {
 void TMessageBar::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
     if (event->type() == QEvent::StyleChange && isVisible()) Colour();
+    if (event->type() == QEvent::LanguageChange) Word();
 }
 
 } // namespace tern7

@@ -6,8 +6,12 @@
 
 class QLabel;
 class QPushButton;
+class QToolButton;
 
 namespace tern7 {
+
+/// Gives a text in the program's language, whichever that is by then.
+using TWording = std::function<QString()>;
 
 /// A line of text that is hidden until there is something to say, with an offer to do something
 /// about it.
@@ -19,8 +23,7 @@ public:
 
     explicit TMessageBar(QWidget* parent = nullptr);
 
-    void Say(TKind kind, const QString& text, const QString& offer = {},
-             const std::function<void()>& action = {});
+    void Say(TKind kind, TWording text, TWording offer = {}, std::function<void()> action = {});
     void Clear();
     QString Text() const;
 
@@ -29,9 +32,12 @@ protected:
 
 private:
     void Colour();
+    void Word();
 
     QLabel* label;
     QPushButton* button;
+    QToolButton* close;
+    TWording shownText, shownOffer;
     std::function<void()> whenPressed;
     TKind shownKind = TKind::Note;
 };

@@ -26,6 +26,35 @@ QString Outcome(TSQLReportKind kind) {
     return TReportDialog::tr("Left out");
 }
 
+/// What the core says in English, for the translation.
+[[maybe_unused]] constexpr const char* coreTexts[] = {
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "alias"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "column"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "condition"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "derived table"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "grouping"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "hint"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "join"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "parameter"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "rest"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "sorting"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "statement"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "table"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "a query can not say it"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "another column has this alias"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "another parameter has this name"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "it is no column"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "it names what the structure does not have"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "no column and no condition uses it"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "no field or operator of the structure says it"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "no link of the structure"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the columns ask for other groups"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the query joins the tables in another order"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure has no such table"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure joins it in another way"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure joins these tables in another way"),
+};
+
 } // namespace
 
 TReportDialog::TReportDialog(const TSQLReport& report, QWidget* parent) : QDialog(parent) {
@@ -35,8 +64,8 @@ TReportDialog::TReportDialog(const TSQLReport& report, QWidget* parent) : QDialo
     list->setHeaderLabels({tr("Outcome"), tr("Part"), tr("Text"), tr("Reason"), tr("Line")});
     int kept = 0, dropped = 0;
     for (const TSQLReportEntry& entry : report.Entries()) {
-        auto* item = new QTreeWidgetItem({Outcome(entry.kind), ToQt(entry.what),
-                                          ToQt(entry.text).simplified(), ToQt(entry.reason),
+        auto* item = new QTreeWidgetItem({Outcome(entry.kind), tr(entry.what.c_str()),
+                                          ToQt(entry.text).simplified(), tr(entry.reason.c_str()),
                                           QString::number(entry.position.line)});
         for (int i = 0; i < item->columnCount(); ++i)
             item->setToolTip(i, item->text(i));

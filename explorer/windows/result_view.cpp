@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QClipboard>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QLabel>
@@ -36,14 +37,14 @@ TResultView::TResultView(QWidget* parent)
     : QWidget(parent), messages(new TMessageBar(this)), table(new QTableView), summary(new QLabel),
       progress(new QProgressBar), model(new TResultModel(this)) {
     table->setModel(model);
-    table->setAccessibleName(tr("Result rows"));
     table->setAlternatingRowColors(true);
     table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     table->setWordWrap(false);
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->horizontalHeader()->setSectionsClickable(true);
     table->horizontalHeader()->setHighlightSections(false);
+    table->setAccessibleName(tr("Result rows"));
+    FitRows();
     connect(table->horizontalHeader(), &QHeaderView::sectionClicked, this,
             &TResultView::headerClicked);
     progress->setRange(0, 0);
@@ -51,7 +52,7 @@ TResultView::TResultView(QWidget* parent)
     progress->setMaximumHeight(summary->sizeHint().height());
     progress->setTextVisible(false);
     progress->hide();
-    summary->setText(tr("Not run yet"));
+    Clear();
 
     auto* below = new QHBoxLayout;
     below->addWidget(summary, 1);
@@ -82,14 +83,20 @@ void TResultView::Attach(TQueryRunner& runner) {
                 ShowCount();
             });
     connect(&runner, &TQueryRunner::finished, this, [this](bool truncated) {
-        const QString count = tr("%n row(s)", nullptr, model->rowCount());
-        const QString rows = truncated ? tr("the first %1; there are more").arg(count) : count;
-        RunEnded(tr("%1, %2 s").arg(rows, Seconds(sinceStart.elapsed())));
+        RunEnded([truncated, rows = model->rowCount(), time = sinceStart.elapsed()] {
+            const QString count = tr("%n row(s)", nullptr, rows);
+            return tr("%1, %2 s")
+                .arg(truncated ? tr("the first %1; there are more").arg(count) : count,
+                     Seconds(time));
+        });
     });
     connect(&runner, &TQueryRunner::failed, this,
-            [this] { RunEnded(tr("The database refused the query")); });
-    connect(&runner, &TQueryRunner::cancelled, this,
-            [this] { RunEnded(tr("Cancelled after %1 s").arg(Seconds(sinceStart.elapsed()))); });
+            [this] { RunEnded([] { return tr("The database refused the query"); }); });
+    connect(&runner, &TQueryRunner::cancelled, this, [this] {
+        RunEnded([time = sinceStart.elapsed()] {
+            return tr("Cancelled after %1 s").arg(Seconds(time));
+        });
+    });
 }
 
 void TResultView::RunStarted() {
@@ -97,21 +104,34 @@ void TResultView::RunStarted() {
     sinceStart.start();
     clock.start();
     progress->show();
-    summary->setText(tr("Running..."));
+    Summarise([] { return tr("Running..."); });
 }
 
-void TResultView::RunEnded(const QString& text) {
+void TResultView::RunEnded(TWording words) {
     clock.stop();
     progress->hide();
-    summary->setText(text);
+    Summarise(std::move(words));
     emit runEnded();
 }
 
 void TResultView::ShowCount() {
     if (!clock.isActive()) return;
-    summary->setText(
-        tr("Running... %1, %2 s")
-            .arg(tr("%n row(s)", nullptr, model->rowCount()), Seconds(sinceStart.elapsed())));
+    Summarise([rows = model->rowCount(), time = sinceStart.elapsed()] {
+        return tr("Running... %1, %2 s").arg(tr("%n row(s)", nullptr, rows), Seconds(time));
+    });
+}
+
+void TResultView::Summarise(TWording words) {
+    summaryWords = std::move(words);
+    summary->setText(summaryWords());
+}
+
+void TResultView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && table) FitRows();
+    if (event->type() != QEvent::LanguageChange) return;
+    table->setAccessibleName(tr("Result rows"));
+    summary->setText(summaryWords());
 }
 
 QString TResultView::Summary() const {
@@ -121,7 +141,11 @@ QString TResultView::Summary() const {
 void TResultView::Clear() {
     model->Clear();
     messages->Clear();
-    summary->setText(tr("Not run yet"));
+    Summarise([] { return tr("Not run yet"); });
+}
+
+void TResultView::FitRows() {
+    table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
 }
 
 /// As wide as the first rows need, within reason.

@@ -36,6 +36,9 @@ public:
     /// All rows as comma separated values. EKFileError.
     void SaveAsCsv(const QString& file) const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 signals:
     void headerClicked(int column);
     /// The run has ended in some way.
@@ -43,13 +46,16 @@ signals:
 
 private:
     void RunStarted();
-    void RunEnded(const QString& summary);
+    void RunEnded(TWording words);
     void ShowCount();
+    void Summarise(TWording words);
     void FitColumns();
+    void FitRows();
 
     TMessageBar* messages;
-    QTableView* table;
+    QTableView* table = nullptr;
     QLabel* summary;
+    TWording summaryWords;
     QProgressBar* progress;
     TResultModel* model;
     QElapsedTimer sinceStart;

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QDialog>
 #include <QDir>
 #include <QHeaderView>
+#include <QLocale>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QSettings>
 #include <QSignalSpy>
@@ -12,6 +15,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <explorer/data/language.h>
 #include <explorer/data/sample_database.h>
 #include <explorer/windows/main_window.h>
 #include <explorer/windows/result_view.h>
@@ -50,6 +54,7 @@ protected:
         QCoreApplication::setOrganizationName("tern7");
         QCoreApplication::setApplicationName("tern7-test");
         QSettings().clear();
+        QLocale::setDefault(QLocale::c());
         window = std::make_unique<TMainWindow>();
         window->show();
         TKDatabaseURL url;
@@ -71,6 +76,11 @@ protected:
     }
     int RowCount() { return window->Results().Model().rowCount(); }
     static QString Queries(const char* file) { return samples + "queries/" + file; }
+
+    void TearDown() override {
+        window.reset();
+        InstallLanguage("en"); // of the application, for the next test
+    }
 
     std::unique_ptr<TMainWindow> window;
     QTemporaryDir folder;
@@ -143,6 +153,67 @@ TEST_F(TWindowTest, EmptyQuerySaysWhatIsMissing) {
     window->RunQuery();
     EXPECT_FALSE(window->IsRunning());
     EXPECT_TRUE(window->findChild<TMessageBar*>("queryMessages")->Text().contains("column"));
+}
+
+#ifdef TERN7_WITH_TRANSLATIONS
+TEST_F(TWindowTest, LanguageSwitchesEverything) {
+    AddColumn("Price");
+    TKQueryPanel& conditions = window->Conditions();
+    conditions.Editor().AddCondition(conditions.Root(), 0);
+    Run(); // the condition is not finished, which is said
+    const auto bar = window->findChild<TMessageBar*>("queryMessages");
+    const auto menuTitle = [this] { return window->menuBar()->actions().front()->text(); };
+    const QString summary = window->Results().Summary();
+    ASSERT_TRUE(bar->Text().startsWith("1 condition is")) << FromQt(bar->Text());
+
+    window->SetLanguage("de");
+    EXPECT_EQ(menuTitle(), "&Datei");
+    EXPECT_EQ(conditions.Editor().Stack().undoText(), QString("Bedingung hinzufügen"));
+    EXPECT_TRUE(bar->Text().startsWith("1 Bedingung ist")) << FromQt(bar->Text());
+    EXPECT_TRUE(window->Results().Summary().contains("Zeilen"));
+    EXPECT_EQ(window->layoutDirection(), Qt::LeftToRight);
+    window->SetLanguage("ar");
+    EXPECT_EQ(menuTitle(), QString("&ملف"));
+    EXPECT_EQ(window->layoutDirection(), Qt::RightToLeft);
+    window->SetLanguage("en");
+    EXPECT_EQ(menuTitle(), "&File");
+    EXPECT_EQ(window->Results().Summary(), summary);
+    EXPECT_EQ(window->layoutDirection(), Qt::LeftToRight);
+}
+#endif
+
+TEST_F(TWindowTest, OwnCaptionsStayWithTheirLanguage) {
+    window->SetLanguage("en");
+    const auto choose = [this](const char* text) {
+        for (QAction* action : window->findChildren<QAction*>())
+            if (action->text() == QLatin1String(text)) return action->trigger();
+        FAIL() << text;
+    };
+    window->Columns().Dialogs.editTitles = [](QWidget*, const TStrings&, TStrings& titles) {
+        titles = {"ttlAscending=upwards"};
+        return true;
+    };
+    choose("Of the c&olumns...");
+    EXPECT_EQ(window->Columns().Titles(), TStrings{"ttlAscending=upwards"});
+    window->SetLanguage("fr");
+    EXPECT_NE(window->Columns().Titles(), TStrings{"ttlAscending=upwards"});
+    window->SetLanguage("en");
+    EXPECT_EQ(window->Columns().Titles(), TStrings{"ttlAscending=upwards"});
+    choose("As &delivered");
+    EXPECT_TRUE(window->Columns().Titles().empty());
+}
+
+TEST_F(TWindowTest, ColumnsAreEditedInTheDialogAndTakenBack) {
+    AddColumn("Price");
+    window->Conditions().Dialogs.editResultFields =
+        [](QWidget*, const TRFieldList&, const TStrings&, const std::function<void()>&) {
+            return [](TRFieldList& list) { list.GetItem(0)->SetCaption("Dear"); };
+        };
+    for (QAction* action : window->findChildren<QAction*>())
+        if (action->shortcut() == QKeySequence("Ctrl+Shift+K")) action->trigger();
+    EXPECT_EQ(window->Columns().ResultFields().GetItem(0)->Caption(), "Dear");
+    window->Conditions().Undo();
+    EXPECT_EQ(window->Columns().ResultFields().GetItem(0)->Caption(), "Price");
 }
 
 } // namespace

@@ -95,10 +95,10 @@ void TFilterRowView::RefreshCheckBox(bool on) {
     }
     if (!checkBox) {
         checkBox = new TFlatCheckBox(panel.viewport());
-        checkBox->setAccessibleName(tr("Row takes part"));
         connect(checkBox, &QCheckBox::clicked, this, [this] { CheckBoxClick(); });
         checkBox->show();
     }
+    checkBox->setAccessibleName(tr("Row takes part"));
     checkBox->setChecked(row.GetEnabled());
     checkBox->setToolTip(row.GetEnabled() && !on ? tr("The bracket around it is switched off")
                                                  : QString());

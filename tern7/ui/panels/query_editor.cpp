@@ -32,7 +32,11 @@ class TKQueryEditor::TCommand : public QUndoCommand {
 public:
     TCommand(TKQueryEditor& owner, const QString& text, std::unique_ptr<TKQueryRecord> changes,
              const TTyped& what)
-        : QUndoCommand(text), editor(owner), record(std::move(changes)), typed(what) {}
+        : editor(owner), name(text.toUtf8()), record(std::move(changes)), typed(what) {
+        Translate();
+    }
+
+    void Translate() { setText(tr(name.constData())); }
 
     void undo() override { editor.Replay(*record, true); }
     void redo() override {
@@ -49,6 +53,7 @@ public:
 
 private:
     TKQueryEditor& editor;
+    const QByteArray name; // before it is translated
     std::unique_ptr<TKQueryRecord> record;
     TTyped typed;
     bool done = false;
@@ -72,6 +77,13 @@ void TKQueryEditor::QueryDestroyed() {
 
 bool TKQueryEditor::Run(const QString& text, const std::function<void()>& change) {
     return Run(text, change, {});
+}
+
+void TKQueryEditor::TranslateSteps() {
+    for (int i = 0; i < stack->count(); ++i) // all of them are ours, and not const
+        static_cast<TCommand*>(const_cast<QUndoCommand*>(stack->command(i)))->Translate();
+    emit stack->undoTextChanged(stack->undoText());
+    emit stack->redoTextChanged(stack->redoText());
 }
 
 void TKQueryEditor::RunStep(const std::string& name, const std::function<void()>& change) {

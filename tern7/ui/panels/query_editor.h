@@ -61,10 +61,14 @@ public:
     void Undo();
     void Redo();
     /// One step out of all that the call changes in the query; inside another step it is part of
-    /// that. True when something was changed.
+    /// that. True when something was changed. The text is translated where it is shown, from the
+    /// translations of this class (QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add condition"))
+    /// where they have it.
     bool Run(const QString& text, const std::function<void()>& change);
     /// After each undo and redo: the row or column to look at; none when there is none.
     TEvent<TFilterRow*, TResultField*> OnReplayed;
+    /// The language has changed: steps get their names anew. Panels do that by themselves.
+    void TranslateSteps();
     /// The row to look at after the last undo or redo; none when the query was changed since.
     TFilterRow* ReplayedRow() const { return replayedRow; }
     /// Actions with the name of the step and the usual keys; they end with their parent.

@@ -38,96 +38,98 @@ std::vector<TFilterRow*> Topmost(const std::vector<TFilterRow*>& rows) {
 
 TFilterCond* TKQueryEditor::AddCondition(TFilterBracket& parent, int index) {
     TFilterCond* added = nullptr;
-    Run(tr("Add condition"), [&] { added = edits.AddCondition(parent, index); });
+    Run(QT_TR_NOOP("Add condition"), [&] { added = edits.AddCondition(parent, index); });
     return added;
 }
 
 TFilterBracket* TKQueryEditor::AddBracket(TFilterBracket& parent, int index) {
     TFilterBracket* added = nullptr;
-    Run(tr("Add bracket"), [&] { added = edits.AddBracket(parent, index); });
+    Run(QT_TR_NOOP("Add bracket"), [&] { added = edits.AddBracket(parent, index); });
     return added;
 }
 
 TFilterRow* TKQueryEditor::Delete(TFilterRow& row) {
     TFilterRow* next = nullptr;
-    Run(row.IsBracket() ? tr("Delete bracket") : tr("Delete condition"),
+    Run(row.IsBracket() ? QT_TR_NOOP("Delete bracket") : QT_TR_NOOP("Delete condition"),
         [&] { next = edits.Delete(row); });
     return next;
 }
 
 bool TKQueryEditor::Move(TFilterRow& row, TFilterBracket& to, int index) {
-    return Run(tr("Move"), [&] { edits.Move(row, to, index); });
+    return Run(QT_TR_NOOP("Move"), [&] { edits.Move(row, to, index); });
 }
 
 bool TKQueryEditor::MoveUp(TFilterRow& row) {
-    return Run(tr("Move up"), [&] { edits.MoveUp(row); });
+    return Run(QT_TR_NOOP("Move up"), [&] { edits.MoveUp(row); });
 }
 
 bool TKQueryEditor::MoveDown(TFilterRow& row) {
-    return Run(tr("Move down"), [&] { edits.MoveDown(row); });
+    return Run(QT_TR_NOOP("Move down"), [&] { edits.MoveDown(row); });
 }
 
 TFilterRow* TKQueryEditor::Duplicate(TFilterRow& row) {
     TFilterBracket* parent = row.Parent();
     if (!parent) return nullptr;
     TFilterRow* copy = nullptr;
-    Run(tr("Duplicate"), [&] { copy = edits.CopyTo(row, *parent, parent->GetRowIndex(&row) + 1); });
+    Run(QT_TR_NOOP("Duplicate"),
+        [&] { copy = edits.CopyTo(row, *parent, parent->GetRowIndex(&row) + 1); });
     return copy;
 }
 
 TFilterRow* TKQueryEditor::CopyTo(TFilterRow& row, TFilterBracket& to, int index) {
     TFilterRow* copy = nullptr;
-    Run(tr("Copy"), [&] { copy = edits.CopyTo(row, to, index); });
+    Run(QT_TR_NOOP("Copy"), [&] { copy = edits.CopyTo(row, to, index); });
     return copy;
 }
 
 void TKQueryEditor::SetEnabled(TFilterRow& row, bool value) {
-    Run(value ? tr("Enable") : tr("Disable"), [&] { edits.SetEnabled(row, value); });
+    Run(value ? QT_TR_NOOP("Enable") : QT_TR_NOOP("Disable"),
+        [&] { edits.SetEnabled(row, value); });
 }
 
 void TKQueryEditor::SetBracketKind(TFilterBracket& bracket, TFilterLinkType value) {
-    Run(tr("Change bracket"), [&] { edits.SetBracketKind(bracket, value); });
+    Run(QT_TR_NOOP("Change bracket"), [&] { edits.SetBracketKind(bracket, value); });
 }
 
 void TKQueryEditor::SetBracketJoin(TFilterBracket& bracket, bool byAnd) {
-    Run(tr("Change joining word"), [&] { edits.SetBracketJoin(bracket, byAnd); });
+    Run(QT_TR_NOOP("Change joining word"), [&] { edits.SetBracketJoin(bracket, byAnd); });
 }
 
 // --- conditions
 
 void TKQueryEditor::SetField(TFilterCond& condition, TDSField& field) {
-    Run(tr("Choose field"), [&] { edits.SetField(condition, field); });
+    Run(QT_TR_NOOP("Choose field"), [&] { edits.SetField(condition, field); });
 }
 
 void TKQueryEditor::SetOperator(TFilterCond& condition, TDSOperator& op) {
-    Run(tr("Choose operator"), [&] { edits.SetOperator(condition, op); });
+    Run(QT_TR_NOOP("Choose operator"), [&] { edits.SetOperator(condition, op); });
 }
 
 void TKQueryEditor::SetValue(TFilterCond& condition, int n, std::string text, std::string caption) {
-    Run(tr("Change value"),
+    Run(QT_TR_NOOP("Change value"),
         [&] { edits.SetValue(condition, n, std::move(text), std::move(caption)); });
 }
 
 void TKQueryEditor::TypeValue(TFilterCond& condition, int n, std::string text,
                               std::string caption) {
-    Run(tr("Change value"),
+    Run(QT_TR_NOOP("Change value"),
         [&] { edits.SetValue(condition, n, std::move(text), std::move(caption)); },
         {&condition, n, typing});
 }
 
 void TKQueryEditor::SetParameter(TFilterCond& condition, int n, bool value) {
-    Run(value ? tr("Make parameter") : tr("Make constant"),
+    Run(value ? QT_TR_NOOP("Make parameter") : QT_TR_NOOP("Make constant"),
         [&] { edits.SetParameter(condition, n, value); });
 }
 
 void TKQueryEditor::SetParameterTexts(TFilterCond& condition, int n, std::string caption,
                                       std::string format) {
-    Run(tr("Change parameter"),
+    Run(QT_TR_NOOP("Change parameter"),
         [&] { condition.SetParamTexts(n, std::move(caption), std::move(format)); });
 }
 
 void TKQueryEditor::SetSubQuery(TFilterCond& condition, std::string text, TSQLOptions options) {
-    Run(tr("Edit sub-query"), [&] { condition.SetSubQuery(std::move(text), options); });
+    Run(QT_TR_NOOP("Edit sub-query"), [&] { condition.SetSubQuery(std::move(text), options); });
 }
 
 bool TKQueryEditor::EditSubQuery(TFilterCond& condition) {
@@ -136,14 +138,14 @@ bool TKQueryEditor::EditSubQuery(TFilterCond& condition) {
     const auto copy = condition.Clone();
     TFilterCond& edited = *copy->AsCond();
     if (!edited.RunSubQueryEditor() || !alive || !guard.Row()) return false;
-    return Run(tr("Edit sub-query"), [&] {
+    return Run(QT_TR_NOOP("Edit sub-query"), [&] {
         condition.SetSubQuery(edited.SubQuery(), edited.SubQueryOptions());
         edits.SetValue(condition, 1, edited.Value(1), edited.ValueCaption(1));
     });
 }
 
 void TKQueryEditor::SetRowCaption(TFilterCond& condition, std::string caption) {
-    Run(tr("Change caption"), [&] { condition.SetCaption(std::move(caption)); });
+    Run(QT_TR_NOOP("Change caption"), [&] { condition.SetCaption(std::move(caption)); });
 }
 
 // --- clipboard
@@ -159,7 +161,7 @@ std::unique_ptr<QMimeData> TKQueryEditor::Copy(const std::vector<TFilterRow*>& r
 std::unique_ptr<QMimeData> TKQueryEditor::Cut(TFilterRow& row, TFilterRow** next) {
     auto data = Copy({&row});
     TFilterRow* after = nullptr;
-    Run(tr("Cut"), [&] { after = edits.Delete(row); });
+    Run(QT_TR_NOOP("Cut"), [&] { after = edits.Delete(row); });
     if (next) *next = after;
     return data;
 }
@@ -174,7 +176,7 @@ std::vector<TFilterRow*> TKQueryEditor::Paste(TFilterBracket& parent, int index,
     const std::string text =
         data.hasFormat(rowsMimeType) ? data.data(rowsMimeType).toStdString() : FromQt(data.text());
     std::vector<TFilterRow*> pasted;
-    Run(tr("Paste"), [&] { pasted = InsertRowsFromText(parent, index, text); });
+    Run(QT_TR_NOOP("Paste"), [&] { pasted = InsertRowsFromText(parent, index, text); });
     return pasted;
 }
 
@@ -182,7 +184,7 @@ std::vector<TFilterRow*> TKQueryEditor::Paste(TFilterBracket& parent, int index,
 
 TResultField* TKQueryEditor::AddResultField(int index, TDSField& field) {
     TResultField* added = nullptr;
-    Run(tr("Add column"),
+    Run(QT_TR_NOOP("Add column"),
         [&] { added = TResultFieldsEdit(Columns()).Insert(index, field, field.DisplayName()); });
     return added;
 }
@@ -190,7 +192,7 @@ TResultField* TKQueryEditor::AddResultField(int index, TDSField& field) {
 TResultField* TKQueryEditor::AddFormula(int index, std::string caption,
                                         const std::string& expression) {
     TResultField* added = nullptr;
-    Run(tr("Add column"), [&] {
+    Run(QT_TR_NOOP("Add column"), [&] {
         added = Columns().InsertByExpression(index, std::move(caption), TSortingType::stNoSort,
                                              expression);
     });
@@ -198,16 +200,16 @@ TResultField* TKQueryEditor::AddFormula(int index, std::string caption,
 }
 
 void TKQueryEditor::DeleteResultField(int index) {
-    Run(tr("Delete column"), [&] { TResultFieldsEdit(Columns()).Delete(index); });
+    Run(QT_TR_NOOP("Delete column"), [&] { TResultFieldsEdit(Columns()).Delete(index); });
 }
 
 bool TKQueryEditor::MoveResultField(int from, int to) {
-    return Run(tr("Move column"), [&] { TResultFieldsEdit(Columns()).Move(from, to); });
+    return Run(QT_TR_NOOP("Move column"), [&] { TResultFieldsEdit(Columns()).Move(from, to); });
 }
 
 TResultField* TKQueryEditor::DuplicateResultField(int index) {
     TResultField* copy = nullptr;
-    Run(tr("Duplicate column"), [&] {
+    Run(QT_TR_NOOP("Duplicate column"), [&] {
         const TResultField& source = *Columns().GetItem(index);
         auto fresh = Columns().CreateRField();
         fresh->Assign(source);
@@ -220,32 +222,33 @@ TResultField* TKQueryEditor::DuplicateResultField(int index) {
 }
 
 void TKQueryEditor::SetResultField(TResultField& column, TDSField& field) {
-    Run(tr("Choose field"),
+    Run(QT_TR_NOOP("Choose field"),
         [&] { TResultFieldsEdit(Columns()).Replace(column, field, field.DisplayName()); });
 }
 
 void TKQueryEditor::SetFormula(TResultField& column, const std::string& expression) {
-    Run(tr("Change formula"), [&] { column.ProcessExpression(expression); });
+    Run(QT_TR_NOOP("Change formula"), [&] { column.ProcessExpression(expression); });
 }
 
 void TKQueryEditor::SetSorting(TResultField& column, TSortingType value) {
-    Run(tr("Change sorting"), [&] { TResultFieldsEdit(Columns()).SetSorting(column, value); });
+    Run(QT_TR_NOOP("Change sorting"),
+        [&] { TResultFieldsEdit(Columns()).SetSorting(column, value); });
 }
 
 void TKQueryEditor::SetSortOrder(TResultField& column, int value) {
-    Run(tr("Change sort order"), [&] { column.SetSortOrder(value); });
+    Run(QT_TR_NOOP("Change sort order"), [&] { column.SetSortOrder(value); });
 }
 
 void TKQueryEditor::SetResultCaption(TResultField& column, std::string caption) {
-    Run(tr("Change caption"), [&] { column.SetCaption(std::move(caption)); });
+    Run(QT_TR_NOOP("Change caption"), [&] { column.SetCaption(std::move(caption)); });
 }
 
 void TKQueryEditor::SetJustSorting(bool value) {
-    Run(tr("Just sorting"), [&] { Columns().SetJustSorting(value); });
+    Run(QT_TR_NOOP("Just sorting"), [&] { Columns().SetJustSorting(value); });
 }
 
 void TKQueryEditor::SetResultFields(const TRFieldList& list) {
-    Run(tr("Edit columns"), [&] { Columns().Assign(list); });
+    Run(QT_TR_NOOP("Edit columns"), [&] { Columns().Assign(list); });
 }
 
 // --- the whole query
@@ -256,15 +259,15 @@ void TKQueryEditor::SetSQLOption(TSQLOption option, bool value) {
         options.Include(option);
     else
         options.Exclude(option);
-    Run(tr("Change options"), [&] { query->SetSQLOptions(options); });
+    Run(QT_TR_NOOP("Change options"), [&] { query->SetSQLOptions(options); });
 }
 
 void TKQueryEditor::SetMainTable(std::string name) {
-    Run(tr("Choose main table"), [&] { query->SetMainTableName(std::move(name)); });
+    Run(QT_TR_NOOP("Choose main table"), [&] { query->SetMainTableName(std::move(name)); });
 }
 
 void TKQueryEditor::ClearAll() {
-    Run(tr("Clear"), [&] { query->ClearAll(); });
+    Run(QT_TR_NOOP("Clear"), [&] { query->ClearAll(); });
 }
 
 } // namespace tern7

@@ -50,7 +50,8 @@ bool TKQueryPanel::EditResultFields() {
     TRFieldList& columns = query->QResult().ResultFields();
     const TResultFieldsChange change = edit(this, columns, query->Titles, HelpCall(true));
     if (!alive || !change) return false;
-    query->RunStep(FromQt(tr("Edit columns")), [&] { change(columns); });
+    query->RunStep(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Edit columns"),
+                   [&] { change(columns); });
     return true;
 }
 

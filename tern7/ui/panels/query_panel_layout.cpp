@@ -321,6 +321,7 @@ void TKQueryPanel::changeEvent(QEvent* event) {
     case QEvent::LayoutDirectionChange:
     case QEvent::LocaleChange:
     case QEvent::LanguageChange:
+        editor->TranslateSteps();
         RefreshPanel();
         break;
     default:

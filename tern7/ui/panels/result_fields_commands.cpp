@@ -24,11 +24,11 @@ std::string CaptionOf(const TDSField& field) {
 } // namespace
 
 /// Every change by the user goes through here.
-void TKResultFieldsPanel::Edit(const QString& name,
+void TKResultFieldsPanel::Edit(const char* name,
                                const std::function<void(TResultFieldsEdit&)>& step) {
     TResultFieldsEdit edit(*fields);
     const QPointer<TKResultFieldsPanel> alive(this);
-    fields->Query()->RunStep(FromQt(name), [&] { step(edit); });
+    fields->Query()->RunStep(name, [&] { step(edit); });
     if (!alive) return;
     EnsureRows();
     Changed();
@@ -55,18 +55,20 @@ void TKResultFieldsPanel::InsertRow(int index) {
     if (offered.empty()) return;
     TDSField& field = *offered.front().field;
     const QPointer<TKResultFieldsPanel> alive(this);
-    Edit(tr("Add column"),
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add column"),
          [&](TResultFieldsEdit& edit) { edit.Insert(index, field, CaptionOf(field)); });
     if (alive) FocusRow(index, TPart::Field);
 }
 
 void TKResultFieldsPanel::DeleteRow(int index) {
-    Edit(tr("Delete column"), [&](TResultFieldsEdit& edit) { edit.Delete(index); });
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Delete column"),
+         [&](TResultFieldsEdit& edit) { edit.Delete(index); });
 }
 
 void TKResultFieldsPanel::MoveRow(int from, int to) {
     if (from == to) return;
-    Edit(tr("Move column"), [&](TResultFieldsEdit& edit) { edit.Move(from, to); });
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Move column"),
+         [&](TResultFieldsEdit& edit) { edit.Move(from, to); });
 }
 
 void TKResultFieldsPanel::MoveRowUp(int index) {
@@ -80,12 +82,14 @@ void TKResultFieldsPanel::MoveRowDown(int index) {
 }
 
 void TKResultFieldsPanel::RefreshSortOrder() {
-    Edit(tr("Renumber sorting"), [](TResultFieldsEdit& edit) { edit.RefreshSortOrder(); });
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Renumber sorting"),
+         [](TResultFieldsEdit& edit) { edit.RefreshSortOrder(); });
 }
 
 void TKResultFieldsPanel::ClearAll() {
     if (fields->IsEmpty()) return;
-    Edit(tr("Clear columns"), [](TResultFieldsEdit& edit) { edit.Clear(); });
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Clear columns"),
+         [](TResultFieldsEdit& edit) { edit.Clear(); });
 }
 
 bool TKResultFieldsPanel::EditResultFields(const TStrings& editorTitles,
@@ -96,7 +100,8 @@ bool TKResultFieldsPanel::EditResultFields(const TStrings& editorTitles,
     const TRFieldList* const edited = fields;
     const TResultFieldsChange change = Dialogs.editResultFields(this, *fields, editorTitles, help);
     if (!alive || !change || fields != edited) return false;
-    Edit(tr("Edit columns"), [&](TResultFieldsEdit&) { change(*fields); });
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Edit columns"),
+         [&](TResultFieldsEdit&) { change(*fields); });
     return true;
 }
 
@@ -109,13 +114,13 @@ void TKResultFieldsPanel::RowFieldChosen(TResultFieldRow& row, int fieldID) {
     const bool same =
         column.Formula() == "@1" && column.GetDSFieldCount() == 1 && column.GetDSField(0) == field;
     if (same) return LayLater(); // the caption may be that of the menu
-    Edit(tr("Choose field"),
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Choose field"),
          [&](TResultFieldsEdit& edit) { edit.Replace(column, *field, CaptionOf(*field)); });
 }
 
 void TKResultFieldsPanel::RowSortingChosen(TResultFieldRow& row) {
     if (!Holds(row) || row.Sorting() == row.Field()->Sorting()) return;
-    Edit(tr("Change sorting"),
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Change sorting"),
          [&](TResultFieldsEdit& edit) { edit.SetSorting(*row.Field(), row.Sorting()); });
 }
 

@@ -22,7 +22,8 @@ TKResultFieldsPanel::TKResultFieldsPanel(QWidget* parent)
       fields(&own->QResult().ResultFields()), canvas(new QWidget(this)),
       addLabel(new TDropDownLabel(canvas)), rowMenu(new TKPopupMenu(this)) {
     titleLines = DefaultResultFieldsPanelTitles();
-    setAccessibleName(tr("Result fields"));
+    ownName = tr("Result fields");
+    setAccessibleName(ownName);
     setFocusPolicy(Qt::NoFocus);
     setWidget(canvas);
     canvas->setObjectName("canvas");
@@ -209,6 +210,14 @@ void TKResultFieldsPanel::changeEvent(QEvent* event) {
     case QEvent::StyleChange:
         LayLater();
         break;
+    case QEvent::LanguageChange: {
+        const bool isOwn = accessibleName() == ownName;
+        ownName = tr("Result fields");
+        if (isOwn) setAccessibleName(ownName);
+        if (ownEditor) ownEditor->TranslateSteps();
+        LayLater();
+        break;
+    }
     default:
         break;
     }

@@ -150,7 +150,7 @@ private:
     void MenuItemClick(void (TKResultFieldsPanel::*operation)(int));
     void RowFieldChosen(TResultFieldRow& row, int fieldID);
     void RowSortingChosen(TResultFieldRow& row);
-    void Edit(const QString& name, const std::function<void(TResultFieldsEdit&)>& step);
+    void Edit(const char* name, const std::function<void(TResultFieldsEdit&)>& step);
     void Replay(void (TKQuerySteps::*step)());
     bool RowKey(int key, Qt::KeyboardModifiers modifiers);
     bool Holds(const TResultFieldRow& row) const;
@@ -158,6 +158,7 @@ private:
     TRFPAppearance appearance;
     TStrings titleLines;
     TKTitles titles;
+    QString ownName; // for a screen reader, unless the application gives another
     std::unique_ptr<TKQuery> own;
     std::unique_ptr<TKQueryEditor> ownEditor;
     TRFieldList* fields; // never null

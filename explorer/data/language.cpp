@@ -1,0 +1,57 @@
+#include "language.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPointer>
+#include <QTranslator>
+
+#include <tern7/ui/support/language_titles.h>
+#include <tern7/ui/support/translations.h>
+
+#ifdef TERN7_WITH_TRANSLATIONS
+// Resources of a static library must be asked for, outside of any namespace.
+static void InitProgramTranslations() {
+    Q_INIT_RESOURCE(tern7_explorer_translations);
+}
+#else
+static void InitProgramTranslations() {}
+#endif
+
+namespace tern7 {
+
+namespace {
+
+/// Puts a file of texts in the place of the one before.
+void Replace(QPointer<QTranslator>& installed, const QString& file, const QString& folder) {
+    delete installed;
+    installed = new QTranslator(QCoreApplication::instance());
+    if (!installed->load(file, folder) || !QCoreApplication::installTranslator(installed))
+        delete installed;
+}
+
+} // namespace
+
+QString SystemLanguage() {
+    const auto& known = TitleLanguages();
+    for (const QString& name : QLocale::system().uiLanguages()) {
+        const QString code = name.section(u'-', 0, 0);
+        if (std::any_of(known.begin(), known.end(), [&](auto& each) { return each.code == code; }))
+            return code;
+    }
+    return known.front().code;
+}
+
+void InstallLanguage(const QString& code) {
+    static QPointer<QTranslator> qt, program; // go with the application object
+    InitProgramTranslations();
+    Replace(qt, QStringLiteral("qtbase_") + code,
+            QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+    InstallTranslations(code);
+    Replace(program, QStringLiteral("explorer_") + code, QStringLiteral(":/tern7/translations"));
+    QApplication::setLayoutDirection(QLocale(code).textDirection());
+}
+
+} // namespace tern7

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace tern7 {
+
+/// The language of the system where the program speaks it, else English.
+QString SystemLanguage();
+
+/// The whole program speaks a language of TitleLanguages from now on: its own texts, the library's
+/// and Qt's. Mirrors the windows for a language that is read from the right.
+void InstallLanguage(const QString& code);
+
+} // namespace tern7

@@ -1,0 +1,700 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar" sourcelanguage="en">
+<context>
+    <name>main</name>
+    <message>
+        <source>Questions to a database without SQL.</source>
+        <translation>أسئلة لقاعدة بيانات من دون SQL.</translation>
+    </message>
+    <message>
+        <source>Opens a database: a SQLite file, or an address such as postgresql://user@host/name.</source>
+        <translation>يفتح قاعدة بيانات: ملف SQLite أو عنوانًا مثل postgresql://user@host/name.</translation>
+    </message>
+    <message>
+        <source>Loads the structure instead of importing it.</source>
+        <translation>يحمّل البنية بدلاً من استيرادها.</translation>
+    </message>
+    <message>
+        <source>Opens a saved query.</source>
+        <translation>يفتح استعلامًا محفوظًا.</translation>
+    </message>
+    <message>
+        <source>Runs the query, saves a picture of the window and ends.</source>
+        <translation>ينفّذ الاستعلام ويحفظ صورة للنافذة ثم ينتهي.</translation>
+    </message>
+    <message>
+        <source>Language of the program.</source>
+        <translation>لغة البرنامج.</translation>
+    </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>«light» (فاتح) أو «dark» (داكن).</translation>
+    </message>
+    <message>
+        <source>Size of the window.</source>
+        <translation>حجم النافذة.</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TConnectionDialog</name>
+    <message>
+        <source>Open database</source>
+        <translation>فتح قاعدة بيانات</translation>
+    </message>
+    <message>
+        <source>SQLite file</source>
+        <translation>ملف SQLite</translation>
+    </message>
+    <message>
+        <source>PostgreSQL server</source>
+        <translation>خادم PostgreSQL</translation>
+    </message>
+    <message>
+        <source>MariaDB or MySQL server</source>
+        <translation>خادم MariaDB أو MySQL</translation>
+    </message>
+    <message>
+        <source>ODBC data source</source>
+        <translation>مصدر بيانات ODBC</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;قاعدة البيانات:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>است&amp;عراض...</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>ال&amp;ملف:</translation>
+    </message>
+    <message>
+        <source>not kept</source>
+        <translation>لا يُحفظ</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>ال&amp;خادم:</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>ال&amp;منفذ:</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the database:</source>
+        <translation>ا&amp;سم قاعدة البيانات:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>المست&amp;خدم:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;كلمة المرور:</translation>
+    </message>
+    <message>
+        <source>Name of a data source, or a connection string</source>
+        <translation>اسم مصدر بيانات أو سلسلة اتصال</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>ال&amp;مصدر:</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.db *.sqlite *.sqlite3 *.db3);;All files (*)</source>
+        <translation>قواعد بيانات SQLite (*.db *.sqlite *.sqlite3 *.db3);;كل الملفات (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TKQueryEditor</name>
+    <message>
+        <source>Equal rows</source>
+        <translation>الصفوف المتماثلة</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>ترتيب</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>إضافة عمود</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMainWindow</name>
+    <message>
+        <source>&amp;Result</source>
+        <translation>ال&amp;نتيجة</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>الأع&amp;مدة</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions</source>
+        <translation>ال&amp;شروط</translation>
+    </message>
+    <message>
+        <source>S&amp;QL</source>
+        <translation>S&amp;QL</translation>
+    </message>
+    <message>
+        <source>New query</source>
+        <translation>استعلام جديد</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;ملف</translation>
+    </message>
+    <message>
+        <source>Open &amp;database...</source>
+        <translation>فتح قاعدة &amp;بيانات...</translation>
+    </message>
+    <message>
+        <source>Recent d&amp;atabases</source>
+        <translation>قواعد البيانات ال&amp;أخيرة</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple database</source>
+        <translation>قاعدة البيانات ال&amp;نموذجية</translation>
+    </message>
+    <message>
+        <source>&amp;New query</source>
+        <translation>استعلام &amp;جديد</translation>
+    </message>
+    <message>
+        <source>&amp;Open query...</source>
+        <translation>&amp;فتح استعلام...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent queries</source>
+        <translation>الاستعلامات الأ&amp;خيرة</translation>
+    </message>
+    <message>
+        <source>&amp;Save query</source>
+        <translation>&amp;حفظ الاستعلام</translation>
+    </message>
+    <message>
+        <source>Save query &amp;as...</source>
+        <translation>حفظ الاستعلام &amp;باسم...</translation>
+    </message>
+    <message>
+        <source>Read S&amp;QL...</source>
+        <translation>قراءة S&amp;QL...</translation>
+    </message>
+    <message>
+        <source>Save &amp;rows as CSV...</source>
+        <translation>حفظ ال&amp;صفوف بصيغة CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>إ&amp;نهاء</translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation>الا&amp;ستعلام</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;تنفيذ</translation>
+    </message>
+    <message>
+        <source>Run the query (F5)</source>
+        <translation>تنفيذ الاستعلام (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>إل&amp;غاء</translation>
+    </message>
+    <message>
+        <source>Run after every c&amp;hange</source>
+        <translation>التنفيذ بعد كل ت&amp;غيير</translation>
+    </message>
+    <message>
+        <source>Add c&amp;olumn...</source>
+        <translation>إضافة &amp;عمود...</translation>
+    </message>
+    <message>
+        <source>&amp;Equal rows only once</source>
+        <translation>الصفوف ال&amp;متماثلة مرة واحدة فقط</translation>
+    </message>
+    <message>
+        <source>E&amp;dit columns...</source>
+        <translation>ت&amp;حرير الأعمدة...</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>الأدوات</translation>
+    </message>
+    <message>
+        <source>Rows at &amp;most:</source>
+        <translation>الحد الأ&amp;قصى للصفوف:</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>ت&amp;حرير</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>ت&amp;راجع</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>إ&amp;عادة</translation>
+    </message>
+    <message>
+        <source>&amp;Copy rows</source>
+        <translation>&amp;نسخ الصفوف</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>ت&amp;راجع: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>إ&amp;عادة: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>تراجع</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>إعادة</translation>
+    </message>
+    <message>
+        <source>Queries (*.qry);;All files (*)</source>
+        <translation>الاستعلامات (*.qry);;كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>Sample database</source>
+        <translation>قاعدة البيانات النموذجية</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>فتح قاعدة بيانات</translation>
+    </message>
+    <message>
+        <source>Open query</source>
+        <translation>فتح استعلام</translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Save query</source>
+        <translation>حفظ الاستعلام</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>تغييرات غير محفوظة</translation>
+    </message>
+    <message>
+        <source>The query was changed. Save the changes?</source>
+        <translation>تم تغيير الاستعلام. هل تريد حفظ التغييرات؟</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>قراءة SQL</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of this query refer to fields that the database does not have. They are marked and take no part.</source>
+        <translation>
+            <numerusform>لا صفوف (%n) تشير إلى حقول غير موجودة في قاعدة البيانات.</numerusform>
+            <numerusform>صف واحد (%n) من هذا الاستعلام يشير إلى حقول غير موجودة في قاعدة البيانات. وهو معلَّم وغير مشارك.</numerusform>
+            <numerusform>صفان (%n) من هذا الاستعلام يشيران إلى حقول غير موجودة في قاعدة البيانات. وهما معلَّمان وغير مشاركين.</numerusform>
+            <numerusform>%n صفوف من هذا الاستعلام تشير إلى حقول غير موجودة في قاعدة البيانات. وهي معلَّمة وغير مشاركة.</numerusform>
+            <numerusform>%n صفًا من هذا الاستعلام تشير إلى حقول غير موجودة في قاعدة البيانات. وهي معلَّمة وغير مشاركة.</numerusform>
+            <numerusform>%n صف من هذا الاستعلام تشير إلى حقول غير موجودة في قاعدة البيانات. وهي معلَّمة وغير مشاركة.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save rows</source>
+        <translation>حفظ الصفوف</translation>
+    </message>
+    <message>
+        <source>Comma separated values (*.csv)</source>
+        <translation>قيم مفصولة بفواصل (*.csv)</translation>
+    </message>
+    <message>
+        <source>Add a column to begin.</source>
+        <translation>أضف عمودًا للبدء.</translation>
+    </message>
+    <message>
+        <source>One row for all records.</source>
+        <translation>صف واحد لكل السجلات.</translation>
+    </message>
+    <message>
+        <source>One row for each: %1.</source>
+        <translation>صف واحد لكل: %1.</translation>
+    </message>
+    <message>
+        <source>Add a column first: it is what the result will show.</source>
+        <translation>أضف عمودًا أولاً: فهو ما ستعرضه النتيجة.</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>إضافة عمود</translation>
+    </message>
+    <message>
+        <source>Show the row</source>
+        <translation>عرض الصف</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>«%1»: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condition(s) are not finished and take no part (%1).</source>
+        <translation>
+            <numerusform>لا شروط غير مكتملة (%n) (%1).</numerusform>
+            <numerusform>شرط واحد (%n) غير مكتمل ولا يشارك (%1).</numerusform>
+            <numerusform>شرطان (%n) غير مكتملين ولا يشاركان (%1).</numerusform>
+            <numerusform>%n شروط غير مكتملة ولا تشارك (%1).</numerusform>
+            <numerusform>%n شرطًا غير مكتمل ولا يشارك (%1).</numerusform>
+            <numerusform>%n شرط غير مكتمل ولا يشارك (%1).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;عرض</translation>
+    </message>
+    <message>
+        <source>Show &amp;SQL</source>
+        <translation>إظهار &amp;SQL</translation>
+    </message>
+    <message>
+        <source>And/or &amp;words instead of brackets</source>
+        <translation>&amp;كلمات «و/أو» بدل الأقواس</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>ال&amp;لغة</translation>
+    </message>
+    <message>
+        <source>&amp;Captions</source>
+        <translation>ال&amp;تسميات</translation>
+    </message>
+    <message>
+        <source>Of the con&amp;ditions...</source>
+        <translation>ال&amp;شروط...</translation>
+    </message>
+    <message>
+        <source>Of the c&amp;olumns...</source>
+        <translation>الأع&amp;مدة...</translation>
+    </message>
+    <message>
+        <source>As &amp;delivered</source>
+        <translation>كما في الأ&amp;صل</translation>
+    </message>
+    <message>
+        <source>L&amp;ook</source>
+        <translation>ال&amp;مظهر</translation>
+    </message>
+    <message>
+        <source>As the s&amp;ystem</source>
+        <translation>مثل ال&amp;نظام</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;فاتح</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;داكن</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>ت&amp;كبير</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>ت&amp;صغير</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>الحجم ال&amp;عادي</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>إغلاق الرسالة</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TParameterDialog</name>
+    <message>
+        <source>Values of the query</source>
+        <translation>قيم الاستعلام</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;تنفيذ</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TQueryRunner</name>
+    <message>
+        <source>No database is open</source>
+        <translation>لا توجد قاعدة بيانات مفتوحة</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReadSQLDialog</name>
+    <message>
+        <source>Read SQL</source>
+        <translation>قراءة SQL</translation>
+    </message>
+    <message>
+        <source>SELECT statement</source>
+        <translation>عبارة SELECT</translation>
+    </message>
+    <message>
+        <source>A &amp;SELECT statement over the tables of this database takes the place of the query:</source>
+        <translation>عبارة &amp;SELECT على جداول قاعدة البيانات هذه تحل محل الاستعلام:</translation>
+    </message>
+    <message>
+        <source>&amp;Read</source>
+        <translation>&amp;قراءة</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReportDialog</name>
+    <message>
+        <source>Understood</source>
+        <translation>مفهوم</translation>
+    </message>
+    <message>
+        <source>Kept as text</source>
+        <translation>محفوظ كنص</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>متروك</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>اسم بديل</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>عمود</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>شرط</translation>
+    </message>
+    <message>
+        <source>derived table</source>
+        <translation>جدول مشتق</translation>
+    </message>
+    <message>
+        <source>grouping</source>
+        <translation>تجميع</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>تلميح</translation>
+    </message>
+    <message>
+        <source>join</source>
+        <translation>ربط</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>معلمة</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>الباقي</translation>
+    </message>
+    <message>
+        <source>sorting</source>
+        <translation>ترتيب</translation>
+    </message>
+    <message>
+        <source>statement</source>
+        <translation>عبارة</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>جدول</translation>
+    </message>
+    <message>
+        <source>a query can not say it</source>
+        <translation>لا يستطيع الاستعلام التعبير عنه</translation>
+    </message>
+    <message>
+        <source>another column has this alias</source>
+        <translation>عمود آخر له هذا الاسم البديل</translation>
+    </message>
+    <message>
+        <source>another parameter has this name</source>
+        <translation>معلمة أخرى لها هذا الاسم</translation>
+    </message>
+    <message>
+        <source>it is no column</source>
+        <translation>ليس عمودًا</translation>
+    </message>
+    <message>
+        <source>it names what the structure does not have</source>
+        <translation>يسمّي ما ليس في البنية</translation>
+    </message>
+    <message>
+        <source>no column and no condition uses it</source>
+        <translation>لا يستخدمه أي عمود أو شرط</translation>
+    </message>
+    <message>
+        <source>no field or operator of the structure says it</source>
+        <translation>لا حقل ولا عامل في البنية يعبّر عنه</translation>
+    </message>
+    <message>
+        <source>no link of the structure</source>
+        <translation>ليس رابطًا في البنية</translation>
+    </message>
+    <message>
+        <source>the columns ask for other groups</source>
+        <translation>الأعمدة تتطلب مجموعات أخرى</translation>
+    </message>
+    <message>
+        <source>the query joins the tables in another order</source>
+        <translation>يربط الاستعلام الجداول بترتيب آخر</translation>
+    </message>
+    <message>
+        <source>the structure has no such table</source>
+        <translation>لا يوجد هذا الجدول في البنية</translation>
+    </message>
+    <message>
+        <source>the structure joins it in another way</source>
+        <translation>تربطه البنية بطريقة أخرى</translation>
+    </message>
+    <message>
+        <source>the structure joins these tables in another way</source>
+        <translation>تربط البنية هذه الجداول بطريقة أخرى</translation>
+    </message>
+    <message>
+        <source>What was read</source>
+        <translation>ما تمت قراءته</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>النتيجة</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>الجزء</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>النص</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>السبب</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>السطر</translation>
+    </message>
+    <message>
+        <source>Parts of the statement</source>
+        <translation>أجزاء العبارة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) of the statement were left out: the query does not say the same.</source>
+        <translation>
+            <numerusform>لم يُترك أي جزء (%n) من العبارة.</numerusform>
+            <numerusform>تُرك جزء واحد (%n) من العبارة: الاستعلام لا يقول الشيء نفسه.</numerusform>
+            <numerusform>تُرك جزآن (%n) من العبارة: الاستعلام لا يقول الشيء نفسه.</numerusform>
+            <numerusform>تُركت %n أجزاء من العبارة: الاستعلام لا يقول الشيء نفسه.</numerusform>
+            <numerusform>تُرك %n جزءًا من العبارة: الاستعلام لا يقول الشيء نفسه.</numerusform>
+            <numerusform>تُرك %n جزء من العبارة: الاستعلام لا يقول الشيء نفسه.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) were kept as text.</source>
+        <translation>
+            <numerusform>لم يُحفظ أي جزء (%n) كنص.</numerusform>
+            <numerusform>حُفظ جزء واحد (%n) كنص.</numerusform>
+            <numerusform>حُفظ جزآن (%n) كنص.</numerusform>
+            <numerusform>حُفظت %n أجزاء كنص.</numerusform>
+            <numerusform>حُفظ %n جزءًا كنص.</numerusform>
+            <numerusform>حُفظ %n جزء كنص.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything was understood.</source>
+        <translation>فُهم كل شيء.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the query</source>
+        <translation>ال&amp;إبقاء على الاستعلام</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>ت&amp;راجع</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultModel</name>
+    <message>
+        <source>No value</source>
+        <translation>لا قيمة</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultView</name>
+    <message>
+        <source>Result rows</source>
+        <translation>صفوف النتيجة</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>لا صفوف (%n)</numerusform>
+            <numerusform>صف واحد (%n)</numerusform>
+            <numerusform>صفان (%n)</numerusform>
+            <numerusform>%n صفوف</numerusform>
+            <numerusform>%n صفًا</numerusform>
+            <numerusform>%n صف</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1، %2 ث</translation>
+    </message>
+    <message>
+        <source>the first %1; there are more</source>
+        <translation>أول %1؛ هناك المزيد</translation>
+    </message>
+    <message>
+        <source>The database refused the query</source>
+        <translation>رفضت قاعدة البيانات الاستعلام</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 s</source>
+        <translation>أُلغي بعد %1 ث</translation>
+    </message>
+    <message>
+        <source>Running...</source>
+        <translation>جارٍ التنفيذ...</translation>
+    </message>
+    <message>
+        <source>Running... %1, %2 s</source>
+        <translation>جارٍ التنفيذ... %1، %2 ث</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>لم يُنفَّذ بعد</translation>
+    </message>
+</context>
+</TS>

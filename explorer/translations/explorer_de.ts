@@ -1,0 +1,680 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>main</name>
+    <message>
+        <source>Questions to a database without SQL.</source>
+        <translation>Fragen an eine Datenbank ohne SQL.</translation>
+    </message>
+    <message>
+        <source>Opens a database: a SQLite file, or an address such as postgresql://user@host/name.</source>
+        <translation>Öffnet eine Datenbank: eine SQLite-Datei oder eine Adresse wie postgresql://user@host/name.</translation>
+    </message>
+    <message>
+        <source>Loads the structure instead of importing it.</source>
+        <translation>Lädt die Struktur, statt sie einzulesen.</translation>
+    </message>
+    <message>
+        <source>Opens a saved query.</source>
+        <translation>Öffnet eine gespeicherte Abfrage.</translation>
+    </message>
+    <message>
+        <source>Runs the query, saves a picture of the window and ends.</source>
+        <translation>Führt die Abfrage aus, speichert ein Bild des Fensters und endet.</translation>
+    </message>
+    <message>
+        <source>Language of the program.</source>
+        <translation>Sprache des Programms.</translation>
+    </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>„light“ (hell) oder „dark“ (dunkel).</translation>
+    </message>
+    <message>
+        <source>Size of the window.</source>
+        <translation>Größe des Fensters.</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TConnectionDialog</name>
+    <message>
+        <source>Open database</source>
+        <translation>Datenbank öffnen</translation>
+    </message>
+    <message>
+        <source>SQLite file</source>
+        <translation>SQLite-Datei</translation>
+    </message>
+    <message>
+        <source>PostgreSQL server</source>
+        <translation>PostgreSQL-Server</translation>
+    </message>
+    <message>
+        <source>MariaDB or MySQL server</source>
+        <translation>MariaDB- oder MySQL-Server</translation>
+    </message>
+    <message>
+        <source>ODBC data source</source>
+        <translation>ODBC-Datenquelle</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;Datenbank:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>D&amp;urchsuchen ...</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>Da&amp;tei:</translation>
+    </message>
+    <message>
+        <source>not kept</source>
+        <translation>wird nicht gespeichert</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Server:</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>P&amp;ort:</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the database:</source>
+        <translation>&amp;Name der Datenbank:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Benutzer:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Kennwort:</translation>
+    </message>
+    <message>
+        <source>Name of a data source, or a connection string</source>
+        <translation>Name einer Datenquelle oder Verbindungszeichenfolge</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>&amp;Quelle:</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.db *.sqlite *.sqlite3 *.db3);;All files (*)</source>
+        <translation>SQLite-Datenbanken (*.db *.sqlite *.sqlite3 *.db3);;Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TKQueryEditor</name>
+    <message>
+        <source>Equal rows</source>
+        <translation>Gleiche Zeilen</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Spalte hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMainWindow</name>
+    <message>
+        <source>&amp;Result</source>
+        <translation>Er&amp;gebnis</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>S&amp;palten</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions</source>
+        <translation>&amp;Bedingungen</translation>
+    </message>
+    <message>
+        <source>S&amp;QL</source>
+        <translation>S&amp;QL</translation>
+    </message>
+    <message>
+        <source>New query</source>
+        <translation>Neue Abfrage</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>Open &amp;database...</source>
+        <translation>&amp;Datenbank öffnen ...</translation>
+    </message>
+    <message>
+        <source>Recent d&amp;atabases</source>
+        <translation>Zuletzt geöffnete Da&amp;tenbanken</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple database</source>
+        <translation>Beispieldatenban&amp;k</translation>
+    </message>
+    <message>
+        <source>&amp;New query</source>
+        <translation>&amp;Neue Abfrage</translation>
+    </message>
+    <message>
+        <source>&amp;Open query...</source>
+        <translation>Abfrage &amp;öffnen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent queries</source>
+        <translation>&amp;Zuletzt geöffnete Abfragen</translation>
+    </message>
+    <message>
+        <source>&amp;Save query</source>
+        <translation>Abfrage &amp;speichern</translation>
+    </message>
+    <message>
+        <source>Save query &amp;as...</source>
+        <translation>Abfrage speichern &amp;unter ...</translation>
+    </message>
+    <message>
+        <source>Read S&amp;QL...</source>
+        <translation>S&amp;QL lesen ...</translation>
+    </message>
+    <message>
+        <source>Save &amp;rows as CSV...</source>
+        <translation>&amp;Zeilen als CSV speichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation>Ab&amp;frage</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ausführen</translation>
+    </message>
+    <message>
+        <source>Run the query (F5)</source>
+        <translation>Abfrage ausführen (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>A&amp;bbrechen</translation>
+    </message>
+    <message>
+        <source>Run after every c&amp;hange</source>
+        <translation>Nach jeder Ä&amp;nderung ausführen</translation>
+    </message>
+    <message>
+        <source>Add c&amp;olumn...</source>
+        <translation>S&amp;palte hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Equal rows only once</source>
+        <translation>&amp;Gleiche Zeilen nur einmal</translation>
+    </message>
+    <message>
+        <source>E&amp;dit columns...</source>
+        <translation>Spalten bea&amp;rbeiten ...</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Rows at &amp;most:</source>
+        <translation>Höchstens &amp;Zeilen:</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Copy rows</source>
+        <translation>Zeilen &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Rückgängig: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Queries (*.qry);;All files (*)</source>
+        <translation>Abfragen (*.qry);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Sample database</source>
+        <translation>Beispieldatenbank</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>Datenbank öffnen</translation>
+    </message>
+    <message>
+        <source>Open query</source>
+        <translation>Abfrage öffnen</translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Save query</source>
+        <translation>Abfrage speichern</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>The query was changed. Save the changes?</source>
+        <translation>Die Abfrage wurde geändert. Änderungen speichern?</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>SQL lesen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of this query refer to fields that the database does not have. They are marked and take no part.</source>
+        <translation>
+            <numerusform>%n Zeile dieser Abfrage bezieht sich auf Felder, die die Datenbank nicht hat. Sie ist gekennzeichnet und wirkt nicht mit.</numerusform>
+            <numerusform>%n Zeilen dieser Abfrage beziehen sich auf Felder, die die Datenbank nicht hat. Sie sind gekennzeichnet und wirken nicht mit.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save rows</source>
+        <translation>Zeilen speichern</translation>
+    </message>
+    <message>
+        <source>Comma separated values (*.csv)</source>
+        <translation>Durch Komma getrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <source>Add a column to begin.</source>
+        <translation>Fügen Sie zuerst eine Spalte hinzu.</translation>
+    </message>
+    <message>
+        <source>One row for all records.</source>
+        <translation>Eine Zeile für alle Datensätze.</translation>
+    </message>
+    <message>
+        <source>One row for each: %1.</source>
+        <translation>Je eine Zeile für: %1.</translation>
+    </message>
+    <message>
+        <source>Add a column first: it is what the result will show.</source>
+        <translation>Fügen Sie zuerst eine Spalte hinzu: Sie ist das, was das Ergebnis zeigt.</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Spalte hinzufügen</translation>
+    </message>
+    <message>
+        <source>Show the row</source>
+        <translation>Zeile zeigen</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>„%1“: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condition(s) are not finished and take no part (%1).</source>
+        <translation>
+            <numerusform>%n Bedingung ist nicht fertig und wirkt nicht mit (%1).</numerusform>
+            <numerusform>%n Bedingungen sind nicht fertig und wirken nicht mit (%1).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Show &amp;SQL</source>
+        <translation>&amp;SQL zeigen</translation>
+    </message>
+    <message>
+        <source>And/or &amp;words instead of brackets</source>
+        <translation>Und/oder-&amp;Wörter statt Klammern</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Sprache</translation>
+    </message>
+    <message>
+        <source>&amp;Captions</source>
+        <translation>&amp;Beschriftungen</translation>
+    </message>
+    <message>
+        <source>Of the con&amp;ditions...</source>
+        <translation>Der &amp;Bedingungen ...</translation>
+    </message>
+    <message>
+        <source>Of the c&amp;olumns...</source>
+        <translation>Der S&amp;palten ...</translation>
+    </message>
+    <message>
+        <source>As &amp;delivered</source>
+        <translation>&amp;Wie ausgeliefert</translation>
+    </message>
+    <message>
+        <source>L&amp;ook</source>
+        <translation>&amp;Aussehen</translation>
+    </message>
+    <message>
+        <source>As the s&amp;ystem</source>
+        <translation>Wie das S&amp;ystem</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Ver&amp;kleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>&amp;Normale Größe</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TParameterDialog</name>
+    <message>
+        <source>Values of the query</source>
+        <translation>Werte der Abfrage</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ausführen</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TQueryRunner</name>
+    <message>
+        <source>No database is open</source>
+        <translation>Es ist keine Datenbank geöffnet</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReadSQLDialog</name>
+    <message>
+        <source>Read SQL</source>
+        <translation>SQL lesen</translation>
+    </message>
+    <message>
+        <source>SELECT statement</source>
+        <translation>SELECT-Anweisung</translation>
+    </message>
+    <message>
+        <source>A &amp;SELECT statement over the tables of this database takes the place of the query:</source>
+        <translation>Eine &amp;SELECT-Anweisung über die Tabellen dieser Datenbank tritt an die Stelle der Abfrage:</translation>
+    </message>
+    <message>
+        <source>&amp;Read</source>
+        <translation>&amp;Lesen</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReportDialog</name>
+    <message>
+        <source>Understood</source>
+        <translation>Verstanden</translation>
+    </message>
+    <message>
+        <source>Kept as text</source>
+        <translation>Als Text behalten</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Weggelassen</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>Alias</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>Bedingung</translation>
+    </message>
+    <message>
+        <source>derived table</source>
+        <translation>abgeleitete Tabelle</translation>
+    </message>
+    <message>
+        <source>grouping</source>
+        <translation>Gruppierung</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>join</source>
+        <translation>Verknüpfung</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>Rest</translation>
+    </message>
+    <message>
+        <source>sorting</source>
+        <translation>Sortierung</translation>
+    </message>
+    <message>
+        <source>statement</source>
+        <translation>Anweisung</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>a query can not say it</source>
+        <translation>eine Abfrage kann das nicht ausdrücken</translation>
+    </message>
+    <message>
+        <source>another column has this alias</source>
+        <translation>eine andere Spalte hat diesen Alias</translation>
+    </message>
+    <message>
+        <source>another parameter has this name</source>
+        <translation>ein anderer Parameter heißt so</translation>
+    </message>
+    <message>
+        <source>it is no column</source>
+        <translation>es ist keine Spalte</translation>
+    </message>
+    <message>
+        <source>it names what the structure does not have</source>
+        <translation>es nennt, was die Struktur nicht hat</translation>
+    </message>
+    <message>
+        <source>no column and no condition uses it</source>
+        <translation>keine Spalte und keine Bedingung verwendet es</translation>
+    </message>
+    <message>
+        <source>no field or operator of the structure says it</source>
+        <translation>kein Feld und kein Operator der Struktur drückt es aus</translation>
+    </message>
+    <message>
+        <source>no link of the structure</source>
+        <translation>keine Verbindung der Struktur</translation>
+    </message>
+    <message>
+        <source>the columns ask for other groups</source>
+        <translation>die Spalten verlangen andere Gruppen</translation>
+    </message>
+    <message>
+        <source>the query joins the tables in another order</source>
+        <translation>die Abfrage verknüpft die Tabellen in anderer Reihenfolge</translation>
+    </message>
+    <message>
+        <source>the structure has no such table</source>
+        <translation>die Struktur hat keine solche Tabelle</translation>
+    </message>
+    <message>
+        <source>the structure joins it in another way</source>
+        <translation>die Struktur verknüpft es anders</translation>
+    </message>
+    <message>
+        <source>the structure joins these tables in another way</source>
+        <translation>die Struktur verknüpft diese Tabellen anders</translation>
+    </message>
+    <message>
+        <source>What was read</source>
+        <translation>Was gelesen wurde</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Teil</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>Parts of the statement</source>
+        <translation>Teile der Anweisung</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) of the statement were left out: the query does not say the same.</source>
+        <translation>
+            <numerusform>%n Teil der Anweisung wurde weggelassen: Die Abfrage sagt nicht dasselbe.</numerusform>
+            <numerusform>%n Teile der Anweisung wurden weggelassen: Die Abfrage sagt nicht dasselbe.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) were kept as text.</source>
+        <translation>
+            <numerusform>%n Teil wurde als Text behalten.</numerusform>
+            <numerusform>%n Teile wurden als Text behalten.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything was understood.</source>
+        <translation>Alles wurde verstanden.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the query</source>
+        <translation>Abfrage &amp;behalten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultModel</name>
+    <message>
+        <source>No value</source>
+        <translation>Kein Wert</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultView</name>
+    <message>
+        <source>Result rows</source>
+        <translation>Ergebniszeilen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n Zeile</numerusform>
+            <numerusform>%n Zeilen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
+    <message>
+        <source>the first %1; there are more</source>
+        <translation>die ersten %1; es gibt mehr</translation>
+    </message>
+    <message>
+        <source>The database refused the query</source>
+        <translation>Die Datenbank hat die Abfrage abgelehnt</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 s</source>
+        <translation>Abgebrochen nach %1 s</translation>
+    </message>
+    <message>
+        <source>Running...</source>
+        <translation>Läuft ...</translation>
+    </message>
+    <message>
+        <source>Running... %1, %2 s</source>
+        <translation>Läuft ... %1, %2 s</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>Noch nicht ausgeführt</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,680 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>main</name>
+    <message>
+        <source>Questions to a database without SQL.</source>
+        <translation>Preguntas a una base de datos sin SQL.</translation>
+    </message>
+    <message>
+        <source>Opens a database: a SQLite file, or an address such as postgresql://user@host/name.</source>
+        <translation>Abre una base de datos: un archivo SQLite o una dirección como postgresql://user@host/name.</translation>
+    </message>
+    <message>
+        <source>Loads the structure instead of importing it.</source>
+        <translation>Carga la estructura en vez de importarla.</translation>
+    </message>
+    <message>
+        <source>Opens a saved query.</source>
+        <translation>Abre una consulta guardada.</translation>
+    </message>
+    <message>
+        <source>Runs the query, saves a picture of the window and ends.</source>
+        <translation>Ejecuta la consulta, guarda una imagen de la ventana y termina.</translation>
+    </message>
+    <message>
+        <source>Language of the program.</source>
+        <translation>Idioma del programa.</translation>
+    </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>«light» (claro) o «dark» (oscuro).</translation>
+    </message>
+    <message>
+        <source>Size of the window.</source>
+        <translation>Tamaño de la ventana.</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TConnectionDialog</name>
+    <message>
+        <source>Open database</source>
+        <translation>Abrir base de datos</translation>
+    </message>
+    <message>
+        <source>SQLite file</source>
+        <translation>Archivo SQLite</translation>
+    </message>
+    <message>
+        <source>PostgreSQL server</source>
+        <translation>Servidor PostgreSQL</translation>
+    </message>
+    <message>
+        <source>MariaDB or MySQL server</source>
+        <translation>Servidor MariaDB o MySQL</translation>
+    </message>
+    <message>
+        <source>ODBC data source</source>
+        <translation>Origen de datos ODBC</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>Base de &amp;datos:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>E&amp;xaminar...</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Archivo:</translation>
+    </message>
+    <message>
+        <source>not kept</source>
+        <translation>no se guarda</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Servidor:</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>P&amp;uerto:</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the database:</source>
+        <translation>&amp;Nombre de la base de datos:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>Us&amp;uario:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Contraseña:</translation>
+    </message>
+    <message>
+        <source>Name of a data source, or a connection string</source>
+        <translation>Nombre de un origen de datos o cadena de conexión</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>&amp;Origen:</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.db *.sqlite *.sqlite3 *.db3);;All files (*)</source>
+        <translation>Bases de datos SQLite (*.db *.sqlite *.sqlite3 *.db3);;Todos los archivos (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TKQueryEditor</name>
+    <message>
+        <source>Equal rows</source>
+        <translation>Filas iguales</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Ordenar</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Añadir columna</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMainWindow</name>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Resultado</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>C&amp;olumnas</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions</source>
+        <translation>Con&amp;diciones</translation>
+    </message>
+    <message>
+        <source>S&amp;QL</source>
+        <translation>S&amp;QL</translation>
+    </message>
+    <message>
+        <source>New query</source>
+        <translation>Consulta nueva</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <source>Open &amp;database...</source>
+        <translation>Abrir base de &amp;datos...</translation>
+    </message>
+    <message>
+        <source>Recent d&amp;atabases</source>
+        <translation>B&amp;ases de datos recientes</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple database</source>
+        <translation>Base de datos de eje&amp;mplo</translation>
+    </message>
+    <message>
+        <source>&amp;New query</source>
+        <translation>Consulta &amp;nueva</translation>
+    </message>
+    <message>
+        <source>&amp;Open query...</source>
+        <translation>&amp;Abrir consulta...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent queries</source>
+        <translation>Consultas &amp;recientes</translation>
+    </message>
+    <message>
+        <source>&amp;Save query</source>
+        <translation>&amp;Guardar consulta</translation>
+    </message>
+    <message>
+        <source>Save query &amp;as...</source>
+        <translation>Guardar consulta &amp;como...</translation>
+    </message>
+    <message>
+        <source>Read S&amp;QL...</source>
+        <translation>Leer S&amp;QL...</translation>
+    </message>
+    <message>
+        <source>Save &amp;rows as CSV...</source>
+        <translation>Guardar &amp;filas como CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation>&amp;Consulta</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ejecutar</translation>
+    </message>
+    <message>
+        <source>Run the query (F5)</source>
+        <translation>Ejecutar la consulta (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Run after every c&amp;hange</source>
+        <translation>Ejecutar tras cada cam&amp;bio</translation>
+    </message>
+    <message>
+        <source>Add c&amp;olumn...</source>
+        <translation>Añadir c&amp;olumna...</translation>
+    </message>
+    <message>
+        <source>&amp;Equal rows only once</source>
+        <translation>Filas &amp;iguales una sola vez</translation>
+    </message>
+    <message>
+        <source>E&amp;dit columns...</source>
+        <translation>E&amp;ditar columnas...</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Herramientas</translation>
+    </message>
+    <message>
+        <source>Rows at &amp;most:</source>
+        <translation>&amp;Máximo de filas:</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edición</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+    <message>
+        <source>&amp;Copy rows</source>
+        <translation>&amp;Copiar filas</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Queries (*.qry);;All files (*)</source>
+        <translation>Consultas (*.qry);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Sample database</source>
+        <translation>Base de datos de ejemplo</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>Abrir base de datos</translation>
+    </message>
+    <message>
+        <source>Open query</source>
+        <translation>Abrir consulta</translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Save query</source>
+        <translation>Guardar consulta</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Cambios sin guardar</translation>
+    </message>
+    <message>
+        <source>The query was changed. Save the changes?</source>
+        <translation>La consulta ha cambiado. ¿Guardar los cambios?</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>Leer SQL</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of this query refer to fields that the database does not have. They are marked and take no part.</source>
+        <translation>
+            <numerusform>%n fila de esta consulta se refiere a campos que la base de datos no tiene. Está marcada y no participa.</numerusform>
+            <numerusform>%n filas de esta consulta se refieren a campos que la base de datos no tiene. Están marcadas y no participan.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save rows</source>
+        <translation>Guardar filas</translation>
+    </message>
+    <message>
+        <source>Comma separated values (*.csv)</source>
+        <translation>Valores separados por comas (*.csv)</translation>
+    </message>
+    <message>
+        <source>Add a column to begin.</source>
+        <translation>Añada una columna para empezar.</translation>
+    </message>
+    <message>
+        <source>One row for all records.</source>
+        <translation>Una fila para todos los registros.</translation>
+    </message>
+    <message>
+        <source>One row for each: %1.</source>
+        <translation>Una fila por cada: %1.</translation>
+    </message>
+    <message>
+        <source>Add a column first: it is what the result will show.</source>
+        <translation>Añada primero una columna: es lo que mostrará el resultado.</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Añadir columna</translation>
+    </message>
+    <message>
+        <source>Show the row</source>
+        <translation>Mostrar la fila</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>«%1»: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condition(s) are not finished and take no part (%1).</source>
+        <translation>
+            <numerusform>%n condición no está completa y no participa (%1).</numerusform>
+            <numerusform>%n condiciones no están completas y no participan (%1).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>Show &amp;SQL</source>
+        <translation>Mostrar &amp;SQL</translation>
+    </message>
+    <message>
+        <source>And/or &amp;words instead of brackets</source>
+        <translation>&amp;Palabras y/o en lugar de paréntesis</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Idioma</translation>
+    </message>
+    <message>
+        <source>&amp;Captions</source>
+        <translation>&amp;Títulos</translation>
+    </message>
+    <message>
+        <source>Of the con&amp;ditions...</source>
+        <translation>De las con&amp;diciones...</translation>
+    </message>
+    <message>
+        <source>Of the c&amp;olumns...</source>
+        <translation>De las c&amp;olumnas...</translation>
+    </message>
+    <message>
+        <source>As &amp;delivered</source>
+        <translation>Los &amp;originales</translation>
+    </message>
+    <message>
+        <source>L&amp;ook</source>
+        <translation>As&amp;pecto</translation>
+    </message>
+    <message>
+        <source>As the s&amp;ystem</source>
+        <translation>Como el s&amp;istema</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Claro</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>&amp;Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>&amp;Reducir</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>Tamaño &amp;normal</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Cerrar el mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TParameterDialog</name>
+    <message>
+        <source>Values of the query</source>
+        <translation>Valores de la consulta</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Ejecutar</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TQueryRunner</name>
+    <message>
+        <source>No database is open</source>
+        <translation>No hay ninguna base de datos abierta</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReadSQLDialog</name>
+    <message>
+        <source>Read SQL</source>
+        <translation>Leer SQL</translation>
+    </message>
+    <message>
+        <source>SELECT statement</source>
+        <translation>Instrucción SELECT</translation>
+    </message>
+    <message>
+        <source>A &amp;SELECT statement over the tables of this database takes the place of the query:</source>
+        <translation>Una instrucción &amp;SELECT sobre las tablas de esta base de datos sustituye a la consulta:</translation>
+    </message>
+    <message>
+        <source>&amp;Read</source>
+        <translation>&amp;Leer</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReportDialog</name>
+    <message>
+        <source>Understood</source>
+        <translation>Entendido</translation>
+    </message>
+    <message>
+        <source>Kept as text</source>
+        <translation>Conservado como texto</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omitido</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>alias</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>columna</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>condición</translation>
+    </message>
+    <message>
+        <source>derived table</source>
+        <translation>tabla derivada</translation>
+    </message>
+    <message>
+        <source>grouping</source>
+        <translation>agrupación</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>indicación</translation>
+    </message>
+    <message>
+        <source>join</source>
+        <translation>combinación</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>parámetro</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>resto</translation>
+    </message>
+    <message>
+        <source>sorting</source>
+        <translation>ordenación</translation>
+    </message>
+    <message>
+        <source>statement</source>
+        <translation>instrucción</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>tabla</translation>
+    </message>
+    <message>
+        <source>a query can not say it</source>
+        <translation>una consulta no puede expresarlo</translation>
+    </message>
+    <message>
+        <source>another column has this alias</source>
+        <translation>otra columna tiene este alias</translation>
+    </message>
+    <message>
+        <source>another parameter has this name</source>
+        <translation>otro parámetro tiene este nombre</translation>
+    </message>
+    <message>
+        <source>it is no column</source>
+        <translation>no es una columna</translation>
+    </message>
+    <message>
+        <source>it names what the structure does not have</source>
+        <translation>nombra algo que la estructura no tiene</translation>
+    </message>
+    <message>
+        <source>no column and no condition uses it</source>
+        <translation>ninguna columna ni condición lo usa</translation>
+    </message>
+    <message>
+        <source>no field or operator of the structure says it</source>
+        <translation>ningún campo ni operador de la estructura lo expresa</translation>
+    </message>
+    <message>
+        <source>no link of the structure</source>
+        <translation>no es un enlace de la estructura</translation>
+    </message>
+    <message>
+        <source>the columns ask for other groups</source>
+        <translation>las columnas piden otros grupos</translation>
+    </message>
+    <message>
+        <source>the query joins the tables in another order</source>
+        <translation>la consulta combina las tablas en otro orden</translation>
+    </message>
+    <message>
+        <source>the structure has no such table</source>
+        <translation>la estructura no tiene esa tabla</translation>
+    </message>
+    <message>
+        <source>the structure joins it in another way</source>
+        <translation>la estructura lo combina de otra manera</translation>
+    </message>
+    <message>
+        <source>the structure joins these tables in another way</source>
+        <translation>la estructura combina estas tablas de otra manera</translation>
+    </message>
+    <message>
+        <source>What was read</source>
+        <translation>Lo que se leyó</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Parte</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <source>Parts of the statement</source>
+        <translation>Partes de la instrucción</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) of the statement were left out: the query does not say the same.</source>
+        <translation>
+            <numerusform>Se omitió %n parte de la instrucción: la consulta no dice lo mismo.</numerusform>
+            <numerusform>Se omitieron %n partes de la instrucción: la consulta no dice lo mismo.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) were kept as text.</source>
+        <translation>
+            <numerusform>Se conservó %n parte como texto.</numerusform>
+            <numerusform>Se conservaron %n partes como texto.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything was understood.</source>
+        <translation>Se entendió todo.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the query</source>
+        <translation>&amp;Conservar la consulta</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultModel</name>
+    <message>
+        <source>No value</source>
+        <translation>Sin valor</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultView</name>
+    <message>
+        <source>Result rows</source>
+        <translation>Filas de resultado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n fila</numerusform>
+            <numerusform>%n filas</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
+    <message>
+        <source>the first %1; there are more</source>
+        <translation>las primeras %1; hay más</translation>
+    </message>
+    <message>
+        <source>The database refused the query</source>
+        <translation>La base de datos rechazó la consulta</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 s</source>
+        <translation>Cancelado después de %1 s</translation>
+    </message>
+    <message>
+        <source>Running...</source>
+        <translation>Ejecutando...</translation>
+    </message>
+    <message>
+        <source>Running... %1, %2 s</source>
+        <translation>Ejecutando... %1, %2 s</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>Aún no ejecutada</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,680 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>main</name>
+    <message>
+        <source>Questions to a database without SQL.</source>
+        <translation>Des questions à une base de données sans SQL.</translation>
+    </message>
+    <message>
+        <source>Opens a database: a SQLite file, or an address such as postgresql://user@host/name.</source>
+        <translation>Ouvre une base de données : un fichier SQLite ou une adresse comme postgresql://user@host/name.</translation>
+    </message>
+    <message>
+        <source>Loads the structure instead of importing it.</source>
+        <translation>Charge la structure au lieu de l’importer.</translation>
+    </message>
+    <message>
+        <source>Opens a saved query.</source>
+        <translation>Ouvre une requête enregistrée.</translation>
+    </message>
+    <message>
+        <source>Runs the query, saves a picture of the window and ends.</source>
+        <translation>Exécute la requête, enregistre une image de la fenêtre et se termine.</translation>
+    </message>
+    <message>
+        <source>Language of the program.</source>
+        <translation>Langue du programme.</translation>
+    </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>« light » (clair) ou « dark » (sombre).</translation>
+    </message>
+    <message>
+        <source>Size of the window.</source>
+        <translation>Taille de la fenêtre.</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TConnectionDialog</name>
+    <message>
+        <source>Open database</source>
+        <translation>Ouvrir une base de données</translation>
+    </message>
+    <message>
+        <source>SQLite file</source>
+        <translation>Fichier SQLite</translation>
+    </message>
+    <message>
+        <source>PostgreSQL server</source>
+        <translation>Serveur PostgreSQL</translation>
+    </message>
+    <message>
+        <source>MariaDB or MySQL server</source>
+        <translation>Serveur MariaDB ou MySQL</translation>
+    </message>
+    <message>
+        <source>ODBC data source</source>
+        <translation>Source de données ODBC</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>Base de &amp;données :</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Parcourir...</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Fichier :</translation>
+    </message>
+    <message>
+        <source>not kept</source>
+        <translation>non conservé</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Serveur :</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>P&amp;ort :</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the database:</source>
+        <translation>&amp;Nom de la base de données :</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Utilisateur :</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>&amp;Mot de passe :</translation>
+    </message>
+    <message>
+        <source>Name of a data source, or a connection string</source>
+        <translation>Nom d’une source de données ou chaîne de connexion</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>&amp;Source :</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.db *.sqlite *.sqlite3 *.db3);;All files (*)</source>
+        <translation>Bases de données SQLite (*.db *.sqlite *.sqlite3 *.db3);;Tous les fichiers (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TKQueryEditor</name>
+    <message>
+        <source>Equal rows</source>
+        <translation>Lignes identiques</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Trier</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Ajouter une colonne</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMainWindow</name>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Résultat</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>C&amp;olonnes</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions</source>
+        <translation>Con&amp;ditions</translation>
+    </message>
+    <message>
+        <source>S&amp;QL</source>
+        <translation>S&amp;QL</translation>
+    </message>
+    <message>
+        <source>New query</source>
+        <translation>Nouvelle requête</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>Open &amp;database...</source>
+        <translation>Ouvrir une base de &amp;données...</translation>
+    </message>
+    <message>
+        <source>Recent d&amp;atabases</source>
+        <translation>B&amp;ases de données récentes</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple database</source>
+        <translation>Base de données d’exe&amp;mple</translation>
+    </message>
+    <message>
+        <source>&amp;New query</source>
+        <translation>&amp;Nouvelle requête</translation>
+    </message>
+    <message>
+        <source>&amp;Open query...</source>
+        <translation>&amp;Ouvrir une requête...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent queries</source>
+        <translation>&amp;Requêtes récentes</translation>
+    </message>
+    <message>
+        <source>&amp;Save query</source>
+        <translation>&amp;Enregistrer la requête</translation>
+    </message>
+    <message>
+        <source>Save query &amp;as...</source>
+        <translation>Enregistrer la requête &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Read S&amp;QL...</source>
+        <translation>Lire du S&amp;QL...</translation>
+    </message>
+    <message>
+        <source>Save &amp;rows as CSV...</source>
+        <translation>Enregistrer les &amp;lignes en CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation>&amp;Requête</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Exécuter</translation>
+    </message>
+    <message>
+        <source>Run the query (F5)</source>
+        <translation>Exécuter la requête (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Run after every c&amp;hange</source>
+        <translation>Exécuter à c&amp;haque modification</translation>
+    </message>
+    <message>
+        <source>Add c&amp;olumn...</source>
+        <translation>Ajouter une c&amp;olonne...</translation>
+    </message>
+    <message>
+        <source>&amp;Equal rows only once</source>
+        <translation>Lignes &amp;identiques une seule fois</translation>
+    </message>
+    <message>
+        <source>E&amp;dit columns...</source>
+        <translation>Mo&amp;difier les colonnes...</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Rows at &amp;most:</source>
+        <translation>Lignes au &amp;plus :</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>É&amp;dition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>&amp;Copy rows</source>
+        <translation>&amp;Copier les lignes</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Annuler : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Queries (*.qry);;All files (*)</source>
+        <translation>Requêtes (*.qry);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Sample database</source>
+        <translation>Base de données d’exemple</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>Ouvrir une base de données</translation>
+    </message>
+    <message>
+        <source>Open query</source>
+        <translation>Ouvrir une requête</translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Save query</source>
+        <translation>Enregistrer la requête</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>The query was changed. Save the changes?</source>
+        <translation>La requête a été modifiée. Enregistrer les modifications ?</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>Lire du SQL</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of this query refer to fields that the database does not have. They are marked and take no part.</source>
+        <translation>
+            <numerusform>%n ligne de cette requête se réfère à des champs que la base de données n’a pas. Elle est marquée et ignorée.</numerusform>
+            <numerusform>%n lignes de cette requête se réfèrent à des champs que la base de données n’a pas. Elles sont marquées et ignorées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save rows</source>
+        <translation>Enregistrer les lignes</translation>
+    </message>
+    <message>
+        <source>Comma separated values (*.csv)</source>
+        <translation>Valeurs séparées par des virgules (*.csv)</translation>
+    </message>
+    <message>
+        <source>Add a column to begin.</source>
+        <translation>Ajoutez une colonne pour commencer.</translation>
+    </message>
+    <message>
+        <source>One row for all records.</source>
+        <translation>Une ligne pour tous les enregistrements.</translation>
+    </message>
+    <message>
+        <source>One row for each: %1.</source>
+        <translation>Une ligne pour chaque : %1.</translation>
+    </message>
+    <message>
+        <source>Add a column first: it is what the result will show.</source>
+        <translation>Ajoutez d’abord une colonne : c’est ce que le résultat affichera.</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Ajouter une colonne</translation>
+    </message>
+    <message>
+        <source>Show the row</source>
+        <translation>Afficher la ligne</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>« %1 » : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condition(s) are not finished and take no part (%1).</source>
+        <translation>
+            <numerusform>%n condition n’est pas complète et est ignorée (%1).</numerusform>
+            <numerusform>%n conditions ne sont pas complètes et sont ignorées (%1).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>Show &amp;SQL</source>
+        <translation>Afficher le &amp;SQL</translation>
+    </message>
+    <message>
+        <source>And/or &amp;words instead of brackets</source>
+        <translation>&amp;Mots et/ou au lieu de parenthèses</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Langue</translation>
+    </message>
+    <message>
+        <source>&amp;Captions</source>
+        <translation>&amp;Intitulés</translation>
+    </message>
+    <message>
+        <source>Of the con&amp;ditions...</source>
+        <translation>Des con&amp;ditions...</translation>
+    </message>
+    <message>
+        <source>Of the c&amp;olumns...</source>
+        <translation>Des c&amp;olonnes...</translation>
+    </message>
+    <message>
+        <source>As &amp;delivered</source>
+        <translation>Ceux d’o&amp;rigine</translation>
+    </message>
+    <message>
+        <source>L&amp;ook</source>
+        <translation>A&amp;pparence</translation>
+    </message>
+    <message>
+        <source>As the s&amp;ystem</source>
+        <translation>Comme le s&amp;ystème</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Clair</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Sombre</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>Zoom a&amp;vant</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>Zoom a&amp;rrière</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>Taille &amp;normale</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Fermer le message</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TParameterDialog</name>
+    <message>
+        <source>Values of the query</source>
+        <translation>Valeurs de la requête</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Exécuter</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TQueryRunner</name>
+    <message>
+        <source>No database is open</source>
+        <translation>Aucune base de données n’est ouverte</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReadSQLDialog</name>
+    <message>
+        <source>Read SQL</source>
+        <translation>Lire du SQL</translation>
+    </message>
+    <message>
+        <source>SELECT statement</source>
+        <translation>Instruction SELECT</translation>
+    </message>
+    <message>
+        <source>A &amp;SELECT statement over the tables of this database takes the place of the query:</source>
+        <translation>Une instruction &amp;SELECT sur les tables de cette base de données remplace la requête :</translation>
+    </message>
+    <message>
+        <source>&amp;Read</source>
+        <translation>&amp;Lire</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReportDialog</name>
+    <message>
+        <source>Understood</source>
+        <translation>Compris</translation>
+    </message>
+    <message>
+        <source>Kept as text</source>
+        <translation>Gardé comme texte</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Omis</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>alias</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>colonne</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>condition</translation>
+    </message>
+    <message>
+        <source>derived table</source>
+        <translation>table dérivée</translation>
+    </message>
+    <message>
+        <source>grouping</source>
+        <translation>regroupement</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>indication</translation>
+    </message>
+    <message>
+        <source>join</source>
+        <translation>jointure</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>paramètre</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>reste</translation>
+    </message>
+    <message>
+        <source>sorting</source>
+        <translation>tri</translation>
+    </message>
+    <message>
+        <source>statement</source>
+        <translation>instruction</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>table</translation>
+    </message>
+    <message>
+        <source>a query can not say it</source>
+        <translation>une requête ne peut pas l’exprimer</translation>
+    </message>
+    <message>
+        <source>another column has this alias</source>
+        <translation>une autre colonne a cet alias</translation>
+    </message>
+    <message>
+        <source>another parameter has this name</source>
+        <translation>un autre paramètre porte ce nom</translation>
+    </message>
+    <message>
+        <source>it is no column</source>
+        <translation>ce n’est pas une colonne</translation>
+    </message>
+    <message>
+        <source>it names what the structure does not have</source>
+        <translation>il nomme ce que la structure n’a pas</translation>
+    </message>
+    <message>
+        <source>no column and no condition uses it</source>
+        <translation>aucune colonne ni condition ne l’utilise</translation>
+    </message>
+    <message>
+        <source>no field or operator of the structure says it</source>
+        <translation>aucun champ ni opérateur de la structure ne l’exprime</translation>
+    </message>
+    <message>
+        <source>no link of the structure</source>
+        <translation>aucun lien de la structure</translation>
+    </message>
+    <message>
+        <source>the columns ask for other groups</source>
+        <translation>les colonnes demandent d’autres groupes</translation>
+    </message>
+    <message>
+        <source>the query joins the tables in another order</source>
+        <translation>la requête joint les tables dans un autre ordre</translation>
+    </message>
+    <message>
+        <source>the structure has no such table</source>
+        <translation>la structure n’a pas cette table</translation>
+    </message>
+    <message>
+        <source>the structure joins it in another way</source>
+        <translation>la structure le joint autrement</translation>
+    </message>
+    <message>
+        <source>the structure joins these tables in another way</source>
+        <translation>la structure joint ces tables autrement</translation>
+    </message>
+    <message>
+        <source>What was read</source>
+        <translation>Ce qui a été lu</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Partie</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>Parts of the statement</source>
+        <translation>Parties de l’instruction</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) of the statement were left out: the query does not say the same.</source>
+        <translation>
+            <numerusform>%n partie de l’instruction a été omise : la requête ne dit pas la même chose.</numerusform>
+            <numerusform>%n parties de l’instruction ont été omises : la requête ne dit pas la même chose.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) were kept as text.</source>
+        <translation>
+            <numerusform>%n partie a été gardée comme texte.</numerusform>
+            <numerusform>%n parties ont été gardées comme texte.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything was understood.</source>
+        <translation>Tout a été compris.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the query</source>
+        <translation>&amp;Garder la requête</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultModel</name>
+    <message>
+        <source>No value</source>
+        <translation>Aucune valeur</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultView</name>
+    <message>
+        <source>Result rows</source>
+        <translation>Lignes de résultat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n ligne</numerusform>
+            <numerusform>%n lignes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 s</translation>
+    </message>
+    <message>
+        <source>the first %1; there are more</source>
+        <translation>%1 (il y en a d’autres)</translation>
+    </message>
+    <message>
+        <source>The database refused the query</source>
+        <translation>La base de données a refusé la requête</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 s</source>
+        <translation>Annulé après %1 s</translation>
+    </message>
+    <message>
+        <source>Running...</source>
+        <translation>En cours...</translation>
+    </message>
+    <message>
+        <source>Running... %1, %2 s</source>
+        <translation>En cours... %1, %2 s</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>Pas encore exécutée</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,675 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>main</name>
+    <message>
+        <source>Questions to a database without SQL.</source>
+        <translation>SQL を使わずにデータベースに質問します。</translation>
+    </message>
+    <message>
+        <source>Opens a database: a SQLite file, or an address such as postgresql://user@host/name.</source>
+        <translation>データベースを開きます。SQLite ファイル、または postgresql://user@host/name のようなアドレスです。</translation>
+    </message>
+    <message>
+        <source>Loads the structure instead of importing it.</source>
+        <translation>構造を取り込まず、ファイルから読み込みます。</translation>
+    </message>
+    <message>
+        <source>Opens a saved query.</source>
+        <translation>保存したクエリを開きます。</translation>
+    </message>
+    <message>
+        <source>Runs the query, saves a picture of the window and ends.</source>
+        <translation>クエリを実行し、ウィンドウの画像を保存して終了します。</translation>
+    </message>
+    <message>
+        <source>Language of the program.</source>
+        <translation>プログラムの言語。</translation>
+    </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>「light」(明るい) または「dark」(暗い)。</translation>
+    </message>
+    <message>
+        <source>Size of the window.</source>
+        <translation>ウィンドウの大きさ。</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TConnectionDialog</name>
+    <message>
+        <source>Open database</source>
+        <translation>データベースを開く</translation>
+    </message>
+    <message>
+        <source>SQLite file</source>
+        <translation>SQLite ファイル</translation>
+    </message>
+    <message>
+        <source>PostgreSQL server</source>
+        <translation>PostgreSQL サーバー</translation>
+    </message>
+    <message>
+        <source>MariaDB or MySQL server</source>
+        <translation>MariaDB または MySQL サーバー</translation>
+    </message>
+    <message>
+        <source>ODBC data source</source>
+        <translation>ODBC データソース</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>データベース(&amp;D):</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>参照(&amp;B)...</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>ファイル(&amp;F):</translation>
+    </message>
+    <message>
+        <source>not kept</source>
+        <translation>保存されません</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>サーバー(&amp;S):</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>ポート(&amp;O):</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the database:</source>
+        <translation>データベース名(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>ユーザー(&amp;U):</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>パスワード(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Name of a data source, or a connection string</source>
+        <translation>データソース名または接続文字列</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>ソース(&amp;S):</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.db *.sqlite *.sqlite3 *.db3);;All files (*)</source>
+        <translation>SQLite データベース (*.db *.sqlite *.sqlite3 *.db3);;すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TKQueryEditor</name>
+    <message>
+        <source>Equal rows</source>
+        <translation>同じ行</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>列を追加</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMainWindow</name>
+    <message>
+        <source>&amp;Result</source>
+        <translation>結果(&amp;R)</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>列(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions</source>
+        <translation>条件(&amp;D)</translation>
+    </message>
+    <message>
+        <source>S&amp;QL</source>
+        <translation>S&amp;QL</translation>
+    </message>
+    <message>
+        <source>New query</source>
+        <translation>新しいクエリ</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Open &amp;database...</source>
+        <translation>データベースを開く(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Recent d&amp;atabases</source>
+        <translation>最近使ったデータベース(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple database</source>
+        <translation>サンプルデータベース(&amp;M)</translation>
+    </message>
+    <message>
+        <source>&amp;New query</source>
+        <translation>新しいクエリ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>&amp;Open query...</source>
+        <translation>クエリを開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent queries</source>
+        <translation>最近使ったクエリ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Save query</source>
+        <translation>クエリを保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Save query &amp;as...</source>
+        <translation>名前を付けてクエリを保存(&amp;A)...</translation>
+    </message>
+    <message>
+        <source>Read S&amp;QL...</source>
+        <translation>SQL を読み込む(&amp;Q)...</translation>
+    </message>
+    <message>
+        <source>Save &amp;rows as CSV...</source>
+        <translation>行を CSV で保存(&amp;R)...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>終了(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation>クエリ(&amp;Q)</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>実行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Run the query (F5)</source>
+        <translation>クエリを実行 (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Run after every c&amp;hange</source>
+        <translation>変更するたびに実行(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Add c&amp;olumn...</source>
+        <translation>列を追加(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Equal rows only once</source>
+        <translation>同じ行は一度だけ(&amp;E)</translation>
+    </message>
+    <message>
+        <source>E&amp;dit columns...</source>
+        <translation>列を編集(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>ツール</translation>
+    </message>
+    <message>
+        <source>Rows at &amp;most:</source>
+        <translation>最大行数(&amp;M):</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy rows</source>
+        <translation>行をコピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>元に戻す(&amp;U): %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>やり直し(&amp;R): %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>元に戻す</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>やり直し</translation>
+    </message>
+    <message>
+        <source>Queries (*.qry);;All files (*)</source>
+        <translation>クエリ (*.qry);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Sample database</source>
+        <translation>サンプルデータベース</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>データベースを開く</translation>
+    </message>
+    <message>
+        <source>Open query</source>
+        <translation>クエリを開く</translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Save query</source>
+        <translation>クエリを保存</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>保存されていない変更</translation>
+    </message>
+    <message>
+        <source>The query was changed. Save the changes?</source>
+        <translation>クエリが変更されています。変更を保存しますか?</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>SQL を読み込む</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of this query refer to fields that the database does not have. They are marked and take no part.</source>
+        <translation>
+            <numerusform>このクエリの %n 行は、データベースにないフィールドを参照しています。印を付け、使わないようにしました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save rows</source>
+        <translation>行を保存</translation>
+    </message>
+    <message>
+        <source>Comma separated values (*.csv)</source>
+        <translation>カンマ区切り (*.csv)</translation>
+    </message>
+    <message>
+        <source>Add a column to begin.</source>
+        <translation>まず列を追加してください。</translation>
+    </message>
+    <message>
+        <source>One row for all records.</source>
+        <translation>全レコードで 1 行。</translation>
+    </message>
+    <message>
+        <source>One row for each: %1.</source>
+        <translation>次の組ごとに 1 行: %1。</translation>
+    </message>
+    <message>
+        <source>Add a column first: it is what the result will show.</source>
+        <translation>先に列を追加してください。結果に表示されます。</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>列を追加</translation>
+    </message>
+    <message>
+        <source>Show the row</source>
+        <translation>行を表示</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>「%1」: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condition(s) are not finished and take no part (%1).</source>
+        <translation>
+            <numerusform>%n 件の条件が未完成のため使われません (%1)。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>表示(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Show &amp;SQL</source>
+        <translation>SQL を表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>And/or &amp;words instead of brackets</source>
+        <translation>かっこの代わりに「かつ/または」を使う(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>言語(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Captions</source>
+        <translation>見出し(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Of the con&amp;ditions...</source>
+        <translation>条件の見出し(&amp;D)...</translation>
+    </message>
+    <message>
+        <source>Of the c&amp;olumns...</source>
+        <translation>列の見出し(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>As &amp;delivered</source>
+        <translation>初期状態に戻す(&amp;D)</translation>
+    </message>
+    <message>
+        <source>L&amp;ook</source>
+        <translation>外観(&amp;O)</translation>
+    </message>
+    <message>
+        <source>As the s&amp;ystem</source>
+        <translation>システムに合わせる(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>明るい(&amp;L)</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>暗い(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>拡大(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>縮小(&amp;O)</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>標準の大きさ(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>メッセージを閉じる</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TParameterDialog</name>
+    <message>
+        <source>Values of the query</source>
+        <translation>クエリの値</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>実行(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TQueryRunner</name>
+    <message>
+        <source>No database is open</source>
+        <translation>データベースが開かれていません</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReadSQLDialog</name>
+    <message>
+        <source>Read SQL</source>
+        <translation>SQL を読み込む</translation>
+    </message>
+    <message>
+        <source>SELECT statement</source>
+        <translation>SELECT 文</translation>
+    </message>
+    <message>
+        <source>A &amp;SELECT statement over the tables of this database takes the place of the query:</source>
+        <translation>このデータベースのテーブルに対する &amp;SELECT 文で、クエリを置き換えます:</translation>
+    </message>
+    <message>
+        <source>&amp;Read</source>
+        <translation>読み込む(&amp;R)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReportDialog</name>
+    <message>
+        <source>Understood</source>
+        <translation>解釈済み</translation>
+    </message>
+    <message>
+        <source>Kept as text</source>
+        <translation>テキストとして保持</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>除外</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>別名</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>条件</translation>
+    </message>
+    <message>
+        <source>derived table</source>
+        <translation>派生テーブル</translation>
+    </message>
+    <message>
+        <source>grouping</source>
+        <translation>グループ化</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>ヒント</translation>
+    </message>
+    <message>
+        <source>join</source>
+        <translation>結合</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>パラメーター</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>残り</translation>
+    </message>
+    <message>
+        <source>sorting</source>
+        <translation>並べ替え</translation>
+    </message>
+    <message>
+        <source>statement</source>
+        <translation>文</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>テーブル</translation>
+    </message>
+    <message>
+        <source>a query can not say it</source>
+        <translation>クエリでは表せません</translation>
+    </message>
+    <message>
+        <source>another column has this alias</source>
+        <translation>別の列がこの別名を使っています</translation>
+    </message>
+    <message>
+        <source>another parameter has this name</source>
+        <translation>別のパラメーターがこの名前を使っています</translation>
+    </message>
+    <message>
+        <source>it is no column</source>
+        <translation>列ではありません</translation>
+    </message>
+    <message>
+        <source>it names what the structure does not have</source>
+        <translation>構造にない名前を使っています</translation>
+    </message>
+    <message>
+        <source>no column and no condition uses it</source>
+        <translation>列でも条件でも使われていません</translation>
+    </message>
+    <message>
+        <source>no field or operator of the structure says it</source>
+        <translation>これを表すフィールドや演算子が構造にありません</translation>
+    </message>
+    <message>
+        <source>no link of the structure</source>
+        <translation>構造のリンクではありません</translation>
+    </message>
+    <message>
+        <source>the columns ask for other groups</source>
+        <translation>列が別のグループ化を必要とします</translation>
+    </message>
+    <message>
+        <source>the query joins the tables in another order</source>
+        <translation>クエリは別の順序でテーブルを結合します</translation>
+    </message>
+    <message>
+        <source>the structure has no such table</source>
+        <translation>構造にそのテーブルはありません</translation>
+    </message>
+    <message>
+        <source>the structure joins it in another way</source>
+        <translation>構造では別の方法で結合します</translation>
+    </message>
+    <message>
+        <source>the structure joins these tables in another way</source>
+        <translation>構造ではこれらのテーブルを別の方法で結合します</translation>
+    </message>
+    <message>
+        <source>What was read</source>
+        <translation>読み込み結果</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>部分</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <source>Parts of the statement</source>
+        <translation>文の各部分</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) of the statement were left out: the query does not say the same.</source>
+        <translation>
+            <numerusform>文の %n か所が除外されました。クエリの意味は元の文と同じではありません。</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) were kept as text.</source>
+        <translation>
+            <numerusform>%n か所がテキストとして保持されました。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything was understood.</source>
+        <translation>すべて解釈されました。</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the query</source>
+        <translation>クエリを残す(&amp;K)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultModel</name>
+    <message>
+        <source>No value</source>
+        <translation>値なし</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultView</name>
+    <message>
+        <source>Result rows</source>
+        <translation>結果の行</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n 行</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1、%2 秒</translation>
+    </message>
+    <message>
+        <source>the first %1; there are more</source>
+        <translation>最初の %1。さらにあります</translation>
+    </message>
+    <message>
+        <source>The database refused the query</source>
+        <translation>データベースがクエリを拒否しました</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 s</source>
+        <translation>%1 秒後にキャンセルしました</translation>
+    </message>
+    <message>
+        <source>Running...</source>
+        <translation>実行中...</translation>
+    </message>
+    <message>
+        <source>Running... %1, %2 s</source>
+        <translation>実行中... %1、%2 秒</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>まだ実行していません</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,685 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>main</name>
+    <message>
+        <source>Questions to a database without SQL.</source>
+        <translation>Вопросы к базе данных без SQL.</translation>
+    </message>
+    <message>
+        <source>Opens a database: a SQLite file, or an address such as postgresql://user@host/name.</source>
+        <translation>Открывает базу данных: файл SQLite или адрес вида postgresql://user@host/name.</translation>
+    </message>
+    <message>
+        <source>Loads the structure instead of importing it.</source>
+        <translation>Загружает структуру, а не импортирует её.</translation>
+    </message>
+    <message>
+        <source>Opens a saved query.</source>
+        <translation>Открывает сохранённый запрос.</translation>
+    </message>
+    <message>
+        <source>Runs the query, saves a picture of the window and ends.</source>
+        <translation>Выполняет запрос, сохраняет снимок окна и завершается.</translation>
+    </message>
+    <message>
+        <source>Language of the program.</source>
+        <translation>Язык программы.</translation>
+    </message>
+    <message>
+        <source>&quot;light&quot; or &quot;dark&quot;.</source>
+        <translation>«light» (светлое) или «dark» (тёмное).</translation>
+    </message>
+    <message>
+        <source>Size of the window.</source>
+        <translation>Размер окна.</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TConnectionDialog</name>
+    <message>
+        <source>Open database</source>
+        <translation>Открыть базу данных</translation>
+    </message>
+    <message>
+        <source>SQLite file</source>
+        <translation>Файл SQLite</translation>
+    </message>
+    <message>
+        <source>PostgreSQL server</source>
+        <translation>Сервер PostgreSQL</translation>
+    </message>
+    <message>
+        <source>MariaDB or MySQL server</source>
+        <translation>Сервер MariaDB или MySQL</translation>
+    </message>
+    <message>
+        <source>ODBC data source</source>
+        <translation>Источник данных ODBC</translation>
+    </message>
+    <message>
+        <source>&amp;Database:</source>
+        <translation>&amp;База данных:</translation>
+    </message>
+    <message>
+        <source>&amp;Browse...</source>
+        <translation>&amp;Обзор...</translation>
+    </message>
+    <message>
+        <source>&amp;File:</source>
+        <translation>&amp;Файл:</translation>
+    </message>
+    <message>
+        <source>not kept</source>
+        <translation>не сохраняется</translation>
+    </message>
+    <message>
+        <source>&amp;Server:</source>
+        <translation>&amp;Сервер:</translation>
+    </message>
+    <message>
+        <source>P&amp;ort:</source>
+        <translation>П&amp;орт:</translation>
+    </message>
+    <message>
+        <source>&amp;Name of the database:</source>
+        <translation>&amp;Имя базы данных:</translation>
+    </message>
+    <message>
+        <source>&amp;User:</source>
+        <translation>&amp;Пользователь:</translation>
+    </message>
+    <message>
+        <source>&amp;Password:</source>
+        <translation>П&amp;ароль:</translation>
+    </message>
+    <message>
+        <source>Name of a data source, or a connection string</source>
+        <translation>Имя источника данных или строка подключения</translation>
+    </message>
+    <message>
+        <source>&amp;Source:</source>
+        <translation>&amp;Источник:</translation>
+    </message>
+    <message>
+        <source>SQLite databases (*.db *.sqlite *.sqlite3 *.db3);;All files (*)</source>
+        <translation>Базы данных SQLite (*.db *.sqlite *.sqlite3 *.db3);;Все файлы (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TKQueryEditor</name>
+    <message>
+        <source>Equal rows</source>
+        <translation>Одинаковые строки</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Сортировать</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Добавить столбец</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMainWindow</name>
+    <message>
+        <source>&amp;Result</source>
+        <translation>&amp;Результат</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns</source>
+        <translation>Ст&amp;олбцы</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions</source>
+        <translation>Усло&amp;вия</translation>
+    </message>
+    <message>
+        <source>S&amp;QL</source>
+        <translation>S&amp;QL</translation>
+    </message>
+    <message>
+        <source>New query</source>
+        <translation>Новый запрос</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Файл</translation>
+    </message>
+    <message>
+        <source>Open &amp;database...</source>
+        <translation>Открыть &amp;базу данных...</translation>
+    </message>
+    <message>
+        <source>Recent d&amp;atabases</source>
+        <translation>Недавние б&amp;азы данных</translation>
+    </message>
+    <message>
+        <source>Sa&amp;mple database</source>
+        <translation>Де&amp;монстрационная база данных</translation>
+    </message>
+    <message>
+        <source>&amp;New query</source>
+        <translation>&amp;Новый запрос</translation>
+    </message>
+    <message>
+        <source>&amp;Open query...</source>
+        <translation>&amp;Открыть запрос...</translation>
+    </message>
+    <message>
+        <source>&amp;Recent queries</source>
+        <translation>Неда&amp;вние запросы</translation>
+    </message>
+    <message>
+        <source>&amp;Save query</source>
+        <translation>&amp;Сохранить запрос</translation>
+    </message>
+    <message>
+        <source>Save query &amp;as...</source>
+        <translation>Сохранить запрос &amp;как...</translation>
+    </message>
+    <message>
+        <source>Read S&amp;QL...</source>
+        <translation>Прочитать S&amp;QL...</translation>
+    </message>
+    <message>
+        <source>Save &amp;rows as CSV...</source>
+        <translation>Сохранить строки в &amp;CSV...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Вы&amp;ход</translation>
+    </message>
+    <message>
+        <source>&amp;Query</source>
+        <translation>&amp;Запрос</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Выполнить</translation>
+    </message>
+    <message>
+        <source>Run the query (F5)</source>
+        <translation>Выполнить запрос (F5)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>О&amp;тмена</translation>
+    </message>
+    <message>
+        <source>Run after every c&amp;hange</source>
+        <translation>Выполнять после каждого из&amp;менения</translation>
+    </message>
+    <message>
+        <source>Add c&amp;olumn...</source>
+        <translation>Добавить ст&amp;олбец...</translation>
+    </message>
+    <message>
+        <source>&amp;Equal rows only once</source>
+        <translation>&amp;Одинаковые строки только один раз</translation>
+    </message>
+    <message>
+        <source>E&amp;dit columns...</source>
+        <translation>&amp;Изменить столбцы...</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Инструменты</translation>
+    </message>
+    <message>
+        <source>Rows at &amp;most:</source>
+        <translation>Строк не &amp;более:</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Правка</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Вернуть</translation>
+    </message>
+    <message>
+        <source>&amp;Copy rows</source>
+        <translation>&amp;Копировать строки</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <translation>&amp;Отменить: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <translation>&amp;Вернуть: %1</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Вернуть</translation>
+    </message>
+    <message>
+        <source>Queries (*.qry);;All files (*)</source>
+        <translation>Запросы (*.qry);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Sample database</source>
+        <translation>Демонстрационная база данных</translation>
+    </message>
+    <message>
+        <source>Open database</source>
+        <translation>Открыть базу данных</translation>
+    </message>
+    <message>
+        <source>Open query</source>
+        <translation>Открыть запрос</translation>
+    </message>
+    <message>
+        <source>%1
+
+%2</source>
+        <translation>%1
+
+%2</translation>
+    </message>
+    <message>
+        <source>Save query</source>
+        <translation>Сохранить запрос</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Несохранённые изменения</translation>
+    </message>
+    <message>
+        <source>The query was changed. Save the changes?</source>
+        <translation>Запрос изменён. Сохранить изменения?</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>Прочитать SQL</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s) of this query refer to fields that the database does not have. They are marked and take no part.</source>
+        <translation>
+            <numerusform>%n строка запроса ссылается на поля, которых нет в базе данных. Она помечена и не участвует.</numerusform>
+            <numerusform>%n строки запроса ссылаются на поля, которых нет в базе данных. Они помечены и не участвуют.</numerusform>
+            <numerusform>%n строк запроса ссылаются на поля, которых нет в базе данных. Они помечены и не участвуют.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Save rows</source>
+        <translation>Сохранить строки</translation>
+    </message>
+    <message>
+        <source>Comma separated values (*.csv)</source>
+        <translation>Значения через запятую (*.csv)</translation>
+    </message>
+    <message>
+        <source>Add a column to begin.</source>
+        <translation>Для начала добавьте столбец.</translation>
+    </message>
+    <message>
+        <source>One row for all records.</source>
+        <translation>Одна строка на все записи.</translation>
+    </message>
+    <message>
+        <source>One row for each: %1.</source>
+        <translation>По строке на каждое: %1.</translation>
+    </message>
+    <message>
+        <source>Add a column first: it is what the result will show.</source>
+        <translation>Сначала добавьте столбец: его и покажет результат.</translation>
+    </message>
+    <message>
+        <source>Add column</source>
+        <translation>Добавить столбец</translation>
+    </message>
+    <message>
+        <source>Show the row</source>
+        <translation>Показать строку</translation>
+    </message>
+    <message>
+        <source>“%1”: %2</source>
+        <translation>«%1»: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n condition(s) are not finished and take no part (%1).</source>
+        <translation>
+            <numerusform>%n условие не закончено и не участвует (%1).</numerusform>
+            <numerusform>%n условия не закончены и не участвуют (%1).</numerusform>
+            <numerusform>%n условий не закончены и не участвуют (%1).</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Вид</translation>
+    </message>
+    <message>
+        <source>Show &amp;SQL</source>
+        <translation>Показать &amp;SQL</translation>
+    </message>
+    <message>
+        <source>And/or &amp;words instead of brackets</source>
+        <translation>&amp;Слова «и/или» вместо скобок</translation>
+    </message>
+    <message>
+        <source>&amp;Language</source>
+        <translation>&amp;Язык</translation>
+    </message>
+    <message>
+        <source>&amp;Captions</source>
+        <translation>&amp;Подписи</translation>
+    </message>
+    <message>
+        <source>Of the con&amp;ditions...</source>
+        <translation>&amp;Условий...</translation>
+    </message>
+    <message>
+        <source>Of the c&amp;olumns...</source>
+        <translation>&amp;Столбцов...</translation>
+    </message>
+    <message>
+        <source>As &amp;delivered</source>
+        <translation>Как &amp;изначально</translation>
+    </message>
+    <message>
+        <source>L&amp;ook</source>
+        <translation>&amp;Оформление</translation>
+    </message>
+    <message>
+        <source>As the s&amp;ystem</source>
+        <translation>Как в с&amp;истеме</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Светлое</translation>
+    </message>
+    <message>
+        <source>&amp;Dark</source>
+        <translation>&amp;Тёмное</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation>&amp;Увеличить</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation>У&amp;меньшить</translation>
+    </message>
+    <message>
+        <source>&amp;Normal size</source>
+        <translation>&amp;Обычный размер</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TMessageBar</name>
+    <message>
+        <source>Close the message</source>
+        <translation>Закрыть сообщение</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TParameterDialog</name>
+    <message>
+        <source>Values of the query</source>
+        <translation>Значения запроса</translation>
+    </message>
+    <message>
+        <source>&amp;Run</source>
+        <translation>&amp;Выполнить</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TQueryRunner</name>
+    <message>
+        <source>No database is open</source>
+        <translation>База данных не открыта</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReadSQLDialog</name>
+    <message>
+        <source>Read SQL</source>
+        <translation>Прочитать SQL</translation>
+    </message>
+    <message>
+        <source>SELECT statement</source>
+        <translation>Оператор SELECT</translation>
+    </message>
+    <message>
+        <source>A &amp;SELECT statement over the tables of this database takes the place of the query:</source>
+        <translation>Оператор &amp;SELECT по таблицам этой базы данных заменит запрос:</translation>
+    </message>
+    <message>
+        <source>&amp;Read</source>
+        <translation>&amp;Прочитать</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TReportDialog</name>
+    <message>
+        <source>Understood</source>
+        <translation>Понято</translation>
+    </message>
+    <message>
+        <source>Kept as text</source>
+        <translation>Оставлено текстом</translation>
+    </message>
+    <message>
+        <source>Left out</source>
+        <translation>Опущено</translation>
+    </message>
+    <message>
+        <source>alias</source>
+        <translation>псевдоним</translation>
+    </message>
+    <message>
+        <source>column</source>
+        <translation>столбец</translation>
+    </message>
+    <message>
+        <source>condition</source>
+        <translation>условие</translation>
+    </message>
+    <message>
+        <source>derived table</source>
+        <translation>производная таблица</translation>
+    </message>
+    <message>
+        <source>grouping</source>
+        <translation>группировка</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>подсказка</translation>
+    </message>
+    <message>
+        <source>join</source>
+        <translation>соединение</translation>
+    </message>
+    <message>
+        <source>parameter</source>
+        <translation>параметр</translation>
+    </message>
+    <message>
+        <source>rest</source>
+        <translation>остаток</translation>
+    </message>
+    <message>
+        <source>sorting</source>
+        <translation>сортировка</translation>
+    </message>
+    <message>
+        <source>statement</source>
+        <translation>оператор</translation>
+    </message>
+    <message>
+        <source>table</source>
+        <translation>таблица</translation>
+    </message>
+    <message>
+        <source>a query can not say it</source>
+        <translation>запрос не может этого выразить</translation>
+    </message>
+    <message>
+        <source>another column has this alias</source>
+        <translation>такой псевдоним есть у другого столбца</translation>
+    </message>
+    <message>
+        <source>another parameter has this name</source>
+        <translation>другой параметр имеет это имя</translation>
+    </message>
+    <message>
+        <source>it is no column</source>
+        <translation>это не столбец</translation>
+    </message>
+    <message>
+        <source>it names what the structure does not have</source>
+        <translation>названо то, чего нет в структуре</translation>
+    </message>
+    <message>
+        <source>no column and no condition uses it</source>
+        <translation>не используется ни столбцом, ни условием</translation>
+    </message>
+    <message>
+        <source>no field or operator of the structure says it</source>
+        <translation>нет поля или оператора структуры с таким смыслом</translation>
+    </message>
+    <message>
+        <source>no link of the structure</source>
+        <translation>нет такой связи в структуре</translation>
+    </message>
+    <message>
+        <source>the columns ask for other groups</source>
+        <translation>столбцам нужны другие группы</translation>
+    </message>
+    <message>
+        <source>the query joins the tables in another order</source>
+        <translation>запрос соединяет таблицы в другом порядке</translation>
+    </message>
+    <message>
+        <source>the structure has no such table</source>
+        <translation>в структуре нет такой таблицы</translation>
+    </message>
+    <message>
+        <source>the structure joins it in another way</source>
+        <translation>структура соединяет её иначе</translation>
+    </message>
+    <message>
+        <source>the structure joins these tables in another way</source>
+        <translation>структура соединяет эти таблицы иначе</translation>
+    </message>
+    <message>
+        <source>What was read</source>
+        <translation>Что прочитано</translation>
+    </message>
+    <message>
+        <source>Outcome</source>
+        <translation>Итог</translation>
+    </message>
+    <message>
+        <source>Part</source>
+        <translation>Часть</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Причина</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Строка</translation>
+    </message>
+    <message>
+        <source>Parts of the statement</source>
+        <translation>Части оператора</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) of the statement were left out: the query does not say the same.</source>
+        <translation>
+            <numerusform>%n часть оператора опущена: запрос говорит не то же самое.</numerusform>
+            <numerusform>%n части оператора опущены: запрос говорит не то же самое.</numerusform>
+            <numerusform>%n частей оператора опущено: запрос говорит не то же самое.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n part(s) were kept as text.</source>
+        <translation>
+            <numerusform>%n часть оставлена текстом.</numerusform>
+            <numerusform>%n части оставлены текстом.</numerusform>
+            <numerusform>%n частей оставлено текстом.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Everything was understood.</source>
+        <translation>Всё понято.</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the query</source>
+        <translation>&amp;Оставить запрос</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Отменить</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultModel</name>
+    <message>
+        <source>No value</source>
+        <translation>Нет значения</translation>
+    </message>
+</context>
+<context>
+    <name>tern7::TResultView</name>
+    <message>
+        <source>Result rows</source>
+        <translation>Строки результата</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n row(s)</source>
+        <translation>
+            <numerusform>%n строка</numerusform>
+            <numerusform>%n строки</numerusform>
+            <numerusform>%n строк</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2 s</source>
+        <translation>%1, %2 с</translation>
+    </message>
+    <message>
+        <source>the first %1; there are more</source>
+        <translation>первые %1; есть ещё</translation>
+    </message>
+    <message>
+        <source>The database refused the query</source>
+        <translation>База данных отклонила запрос</translation>
+    </message>
+    <message>
+        <source>Cancelled after %1 s</source>
+        <translation>Отменено через %1 с</translation>
+    </message>
+    <message>
+        <source>Running...</source>
+        <translation>Выполняется...</translation>
+    </message>
+    <message>
+        <source>Running... %1, %2 s</source>
+        <translation>Выполняется... %1, %2 с</translation>
+    </message>
+    <message>
+        <source>Not run yet</source>
+        <translation>Ещё не выполнялся</translation>
+    </message>
+</context>
+</TS>
