@@ -5,6 +5,7 @@
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/filter_row.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/row_guard.h>
 #include <tern7/core/structure/structure.h>
 
 namespace tern7 {
@@ -83,8 +84,12 @@ std::string TFilterCond::OperatorName() const {
 
 void TFilterCond::SetValue(int n, std::string text, std::string valueCaption) {
     TValue& value = values[Slot(n)];
-    if (query && query->BuilderState() != TKBuilderState::stLoading && query->OnSetValue)
+    const bool tell = query && !detached && query->BuilderState() != TKBuilderState::stLoading;
+    if (tell && query->OnSetValue) {
+        const TRowGuard guard(*this);
         query->OnSetValue(*this, text, valueCaption);
+        if (!guard.Row()) return;
+    }
     if (value.text.Get() == text && value.caption == valueCaption) return;
     WillChange();
     value.text.Set(std::move(text));
@@ -93,9 +98,10 @@ void TFilterCond::SetValue(int n, std::string text, std::string valueCaption) {
 }
 
 void TFilterCond::EnterValue(int n, std::string text, std::string valueCaption) {
+    const TRowGuard guard(*this);
     if (query && query->OnChangeValue && field) query->OnChangeValue(*field, text, valueCaption);
-    SetEntered(true);
-    SetValue(n, std::move(text), std::move(valueCaption));
+    if (guard.Row()) SetEntered(true);
+    if (guard.Row()) SetValue(n, std::move(text), std::move(valueCaption));
 }
 
 std::string TFilterCond::ValueFormat() const {

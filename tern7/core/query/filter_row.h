@@ -250,7 +250,8 @@ public:
     const std::string& Value(int n) const { return values[Slot(n)].text.Get(); }
     /// What the user reads instead of the value; empty: the value itself.
     const std::string& ValueCaption(int n) const { return values[Slot(n)].caption; }
-    /// The application's OnSetValue may change both before they are stored (not while loading).
+    /// The application's OnSetValue may change both before they are stored (not while loading, nor
+    /// for a row outside of the tree).
     void SetValue(int n, std::string text, std::string caption = {});
     /// As SetValue, from the screen: OnChangeValue may say how the value is shown, and the values
     /// count as entered.

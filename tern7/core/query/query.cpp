@@ -228,6 +228,11 @@ std::unique_ptr<TKQuery> TKQuery::NewNested() const {
     nested->SaveTitles = false; // captions are the outer query's
     nested->CheckValues = CheckValues;
     nested->OnBuildSQL = OnBuildSQL;
+    nested->OnSetValue = OnSetValue;
+    nested->OnChangeValue = OnChangeValue;
+    nested->OnCustomEdit = OnCustomEdit;
+    nested->OnCustomValue = OnCustomValue;
+    nested->OnValueDblClick = OnValueDblClick;
     nested->SetDbStruct(structure);
     nested->SetSQLSyntax(SQLSyntax());
     nested->SetSQLOptions(SQLOptions());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <exception>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -204,8 +205,8 @@ public:
     std::weak_ptr<const char> Life() const { return life; }
 
     // --- nested queries
-    /// An empty query over the same structure, with syntax, services and parameter names of this
-    /// one.
+    /// An empty query over the same structure, with syntax, services, parameter names and the
+    /// events about conditions and values of this one.
     std::unique_ptr<TKQuery> NewNested() const;
     TKQuery* Outer() const { return outer; }
 
@@ -288,6 +289,7 @@ private:
     void BracketChanged(TFilterBracket& bracket);
     void SubQueryChanged(TFilterCond& condition);
     void StoreSQLReport(TSQLReport report);
+    void ReadingDone(bool wasActive);
 
     TKCustomDBStructure* structure = nullptr;
     TKQuery* outer = nullptr;
@@ -324,21 +326,25 @@ private:
     bool paramsPending = false;
 };
 
-/// Keeps the changes of a step together: BeginUpdate while it lives.
+/// Keeps the changes of a step together: BeginUpdate while it lives. What a handler raises at its
+/// end passes on, unless another exception is under way. The query may go meanwhile.
 class TKQueryUpdate {
 public:
-    explicit TKQueryUpdate(TKQuery& owner) : query(owner), life(owner.Life()) {
-        query.BeginUpdate();
+    explicit TKQueryUpdate(TKQuery& owner) : TKQueryUpdate(&owner) {}
+    /// None: nothing happens.
+    explicit TKQueryUpdate(TKQuery* owner) : query(owner) {
+        if (!query) return;
+        life = query->Life();
+        query->BeginUpdate();
     }
-    ~TKQueryUpdate() {
-        if (!life.expired()) query.EndUpdate();
-    }
+    ~TKQueryUpdate() noexcept(false);
     TKQueryUpdate(const TKQueryUpdate&) = delete;
     TKQueryUpdate& operator=(const TKQueryUpdate&) = delete;
 
 private:
-    TKQuery& query;
+    TKQuery* query;
     std::weak_ptr<const char> life;
+    const int exceptions = std::uncaught_exceptions();
 };
 
 /// While it lives the events of the application wait, OnConditionChange too; views are told as

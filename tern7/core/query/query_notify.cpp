@@ -56,6 +56,7 @@ void TKQuery::SetActive(bool value) {
     changePending = false;
     paramsPending = false;
     viewsPending = false;
+    pendingConditions.clear();
     if (updateNesting > 0)
         viewsPending = true;
     else
@@ -72,6 +73,25 @@ void TKQuery::EndUpdate() {
     SendPendingEvents();
 }
 
+TKQueryUpdate::~TKQueryUpdate() noexcept(false) {
+    if (!query || life.expired()) return;
+    if (std::uncaught_exceptions() == exceptions) {
+        query->EndUpdate();
+        return;
+    }
+    try {
+        query->EndUpdate();
+    } catch (...) { // the exception under way counts
+    }
+}
+
+/// A text was read: active as before, and the parameters may be others. A handler may end it all.
+void TKQuery::ReadingDone(bool wasActive) {
+    const std::weak_ptr<const char> alive = life;
+    SetActive(wasActive);
+    if (!alive.expired()) ParametersListChanged();
+}
+
 void TKQuery::SendPendingEvents() {
     if (!SendsEvents()) return;
     const std::weak_ptr<const char> alive = life;
@@ -79,16 +99,16 @@ void TKQuery::SendPendingEvents() {
         const THeldEvents together(*this); // with what their handlers change
         SendConditionEvents();
     }
-    if (alive.expired()) return;
+    if (alive.expired() || !active) return;
     if (std::exchange(paramsPending, false)) OnParamListChange(*this);
-    if (alive.expired()) return;
+    if (alive.expired() || !active) return;
     if (std::exchange(changePending, false)) OnChange(*this);
 }
 
 void TKQuery::SendConditionEvents() {
     const std::weak_ptr<const char> alive = life;
     // handlers may delete conditions, and make further steps
-    while (!alive.expired() && !pendingConditions.empty()) {
+    while (!alive.expired() && active && !pendingConditions.empty()) {
         const TPendingCondition pending = pendingConditions.front();
         pendingConditions.pop_front();
         if (!pending.condition->detached)

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cassert>
-#include <optional>
 #include <utility>
 
 namespace tern7 {
@@ -119,8 +118,7 @@ void TKQueryRecord::Replay(bool undo) {
     TToldRows told;
     TKQuery::THeldEvents events(query);
     {
-        std::optional<TKQueryUpdate> update;
-        if (changes.size() > tellEach) update.emplace(query);
+        const TKQueryUpdate update(changes.size() > tellEach ? &query : nullptr);
         const TKQuery::TReplaying replaying(query);
         auto turn = [&](TChange& change) {
             std::visit([&](auto& c) { Turn(c, undo, told); }, change);

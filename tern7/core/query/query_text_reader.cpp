@@ -111,8 +111,7 @@ void TKQueryTextReader::Read(std::string_view text, TStrings warnings) {
             Take(std::move(parsed));
         }
     }
-    query.SetActive(wasActive);
-    query.ParametersListChanged();
+    query.ReadingDone(wasActive);
 }
 
 void TKQueryTextReader::Take(TQueryText text) {

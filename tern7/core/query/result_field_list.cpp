@@ -200,8 +200,7 @@ std::string TRFieldList::GetCaption() const {
 
 void TRFieldList::Assign(const TRFieldList& source) {
     if (&source == this) return;
-    const std::unique_ptr<TKQueryUpdate> update =
-        Query() ? std::make_unique<TKQueryUpdate>(*Query()) : nullptr;
+    const TKQueryUpdate update(Query());
     Clear();
     SetJustSorting(source.justSorting);
     for (const auto& field : source)

@@ -111,8 +111,7 @@ void TRFieldList::Assign(const TRFieldListText& text) {
 void TRFieldList::LoadFromStrings(const TStrings& lines) {
     const std::string joined = JoinStrings(lines, "\n");
     const TRFieldListText text = AsQueryError([&] { return ParseResultFields(TKIniText(joined)); });
-    const std::unique_ptr<TKQueryUpdate> update =
-        Query() ? std::make_unique<TKQueryUpdate>(*Query()) : nullptr;
+    const TKQueryUpdate update(Query());
     Assign(text);
 }
 

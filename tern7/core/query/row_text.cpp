@@ -234,8 +234,14 @@ std::vector<TRowLabel> TKRowTexts::Labels(const TFilterRow& row, TQPStyle style)
 
 std::string TKRowTexts::Sentence(const TFilterRow& row, TQPStyle style) const {
     if (row.IsBracket() && style == TQPStyle::psGroups) {
-        const std::string& line = row.Parent() ? bracketLine : headerLine;
-        return OneLine(ReplaceStr(line, "@", BracketWord(row.AsBracket()->LinkType())));
+        std::string line = row.Parent() ? bracketLine : headerLine;
+        const std::string& word = BracketWord(row.AsBracket()->LinkType());
+        const size_t at = line.find('@');
+        if (at == std::string::npos)
+            line += " " + word;
+        else
+            line.replace(at, 1, word);
+        return OneLine(line);
     }
     std::string text;
     bool opened = true; // nothing before, or "("

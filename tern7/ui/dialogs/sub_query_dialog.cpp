@@ -22,6 +22,7 @@ T_dlgSubQuery::T_dlgSubQuery(const TFilterCond& condition, const std::function<v
     message->setTextFormat(Qt::PlainText);
     message->hide();
     panel = new TKQueryPanel(CopyOf(condition), this);
+    if (auto* outer = qobject_cast<TKQueryPanel*>(parent)) TakeLooks(*outer);
     setWindowTitle(panel->Title("ttlSubQueryCaption"));
     auto* column = new QVBoxLayout(this);
     AddFieldLine();
@@ -46,6 +47,21 @@ std::unique_ptr<TKQuery> T_dlgSubQuery::CopyOf(const TFilterCond& condition) {
         copy->SetActive(true);
     }
     return copy;
+}
+
+/// The panel in front of which the dialog stands shows its rows in the same way.
+void T_dlgSubQuery::TakeLooks(TKQueryPanel& outer) {
+    outer.Appearance().AssignTo(panel->Appearance());
+    panel->SetRowSpace(outer.RowSpace());
+    panel->SetTabSpace(outer.TabSpace());
+    panel->SetElemSpace(outer.ElemSpace());
+    panel->SetMaxPopupItemCount(outer.MaxPopupItemCount());
+    panel->SetImages(outer.Images());
+    panel->SetHelpFileName(outer.HelpFileName());
+    panel->OnGetGroupImageIndex = outer.OnGetGroupImageIndex;
+    panel->OnGetItemImageIndex = outer.OnGetItemImageIndex;
+    panel->OnValueAltClick = outer.OnValueAltClick;
+    panel->Dialogs = outer.Dialogs;
 }
 
 void T_dlgSubQuery::AddFieldLine() {
@@ -91,12 +107,12 @@ void T_dlgSubQuery::FillFields() {
 void T_dlgSubQuery::FieldChosen() {
     const TKCustomDBStructure* structure = panel->DbStruct();
     TDSField* chosen = structure ? structure->FieldByID(field->Value().toInt()) : nullptr;
-    if (chosen) {
-        TKQueryUpdate update(panel->Query());
-        TRFieldList& columns = panel->QResult().ResultFields();
-        columns.Clear();
-        columns.Insert(0, chosen->DisplayName(), {chosen});
-    }
+    if (chosen)
+        panel->Query().RunStep(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Choose field"), [&] {
+            TRFieldList& columns = panel->QResult().ResultFields();
+            columns.Clear();
+            columns.Insert(0, chosen->DisplayName(), {chosen});
+        });
     ShowField();
 }
 

@@ -37,6 +37,7 @@ public:
 
 private:
     std::unique_ptr<TKQuery> CopyOf(const TFilterCond& condition);
+    void TakeLooks(TKQueryPanel& outer);
     void AddFieldLine();
     void AddButtons(const std::function<void()>& help);
     void FillFields();

@@ -10,13 +10,13 @@ TQPAppearance::TQPAppearance(QObject* parent)
       options(aoFlatButtons | aoRoundButtons | aoNonEmptyBrackets | aoPopupField | aoPopupValue |
               aoAllowKeyboard | aoShowAddRow | aoShowCheckBoxes | aoAllowParams) {}
 
-void TQPAppearance::SetStyleNumber(int number) {
-    SetStyle(number == static_cast<int>(TQPStyle::psAndOr) ? TQPStyle::psAndOr
-                                                           : TQPStyle::psGroups);
+void TQPAppearance::SetFormStyle(TStyle value) {
+    SetStyle(value == psAndOr ? TQPStyle::psAndOr : TQPStyle::psGroups);
 }
 
 void TQPAppearance::EndUpdate() {
-    if (--nesting > 0 || !pending) return;
+    if (nesting > 0 && --nesting > 0) return;
+    if (!pending) return;
     pending = false;
     emit changed();
 }

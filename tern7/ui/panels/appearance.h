@@ -18,7 +18,7 @@ class TQPAppearance : public QObject {
     Q_PROPERTY(QColor ValueColor READ ValueColor WRITE SetValueColor)
     Q_PROPERTY(QColor BoolOpColor READ BoolOpColor WRITE SetBoolOpColor)
     Q_PROPERTY(TQPAppearanceOptions Options READ Options WRITE SetOptions)
-    Q_PROPERTY(int Style READ StyleNumber WRITE SetStyleNumber)
+    Q_PROPERTY(TStyle Style READ FormStyle WRITE SetFormStyle)
 
 public:
     enum TQPAppearanceOption {
@@ -36,6 +36,10 @@ public:
     };
     Q_DECLARE_FLAGS(TQPAppearanceOptions, TQPAppearanceOption)
     Q_FLAG(TQPAppearanceOptions)
+
+    /// TQPStyle as forms keep it.
+    enum TStyle { psGroups, psAndOr };
+    Q_ENUM(TStyle)
 
     explicit TQPAppearance(QObject* parent = nullptr);
 
@@ -61,6 +65,8 @@ public:
     bool Has(TQPAppearanceOption option) const { return options.testFlag(option); }
     TQPStyle Style() const { return style; }
     void SetStyle(TQPStyle value) { Set(style, value); }
+    TStyle FormStyle() const { return static_cast<TStyle>(style); }
+    void SetFormStyle(TStyle value);
 
     void BeginUpdate() { ++nesting; }
     void EndUpdate();
@@ -71,8 +77,6 @@ signals:
     void changed();
 
 private:
-    int StyleNumber() const { return static_cast<int>(style); }
-    void SetStyleNumber(int number);
     void Changed();
     template <class T>
     void Set(T& member, const T& value) {

@@ -49,7 +49,6 @@ void TFilterRowView::MakeButton() {
     button = new TKRndBtn(panel.viewport());
     button->SetAutoSize(false);
     button->SetCaption(QStringLiteral("\u22EE"));
-    button->setAccessibleName(tr("Row menu"));
     panel.RowDrag().Watch(*button);
     connect(button, &QPushButton::clicked, this, [this] {
         panel.PopupRowMenu(row, {button->mapToGlobal(QPoint(0, 0)), button->size()});
@@ -60,8 +59,15 @@ void TFilterRowView::MakeButton() {
 // --- showing
 
 void TFilterRowView::Refresh() {
+    Show(false);
+}
+
+void TFilterRowView::Show(bool newValueLabels) {
     const TQPAppearance& looks = panel.Appearance();
     const bool on = row.EffectivelyEnabled();
+    const int focusedAt = FocusedIndex();
+    const QWidget* focused = GetRowControl(focusedAt);
+    button->setAccessibleName(tr("Row menu"));
     button->SetFlat(looks.Has(TQPAppearance::aoFlatButtons));
     button->SetRoundCorners(looks.Has(TQPAppearance::aoRoundButtons));
     button->resize(panel.Geometry().LineHeight, panel.Geometry().LineHeight);
@@ -71,19 +77,22 @@ void TFilterRowView::Refresh() {
     elements.clear();
     for (TRowLabel& label : panel.RowTexts().Labels(row, panel.Query().Style())) {
         const TRowControl control = ControlFor(label);
-        TDropDownLabel* widget = TakeFrom(old, label, control);
+        const bool fresh = newValueLabels && label.valueNumber != 0;
+        TDropDownLabel* widget = fresh ? nullptr : TakeFrom(old, label, control);
         if (!widget) widget = MakeLabel(label, control);
         elements.push_back({std::move(label), control, widget});
         ShowLabel(elements.back(), on);
     }
-    for (const TElement& element : old)
-        if (element.widget) Discard(element);
-    RefreshMark(on);
-
     controls.assign(1, button);
     if (checkBox) controls.push_back(checkBox);
     for (const TElement& element : elements)
         if (element.control != TRowControl::rcText) controls.push_back(element.widget);
+    RefreshMark(on);
+    // a label that goes leaves the focus to the one in its place, not to another row
+    if (focusedAt >= 0 && GetControlIndex(focused) < 0)
+        panel.PassFocus(*controls[std::min(static_cast<size_t>(focusedAt), controls.size() - 1)]);
+    for (const TElement& element : old)
+        if (element.widget) Discard(element);
 }
 
 void TFilterRowView::RefreshCheckBox(bool on) {
@@ -173,6 +182,17 @@ QWidget* TFilterRowView::GetCurrentControl() const {
     return nullptr;
 }
 
+/// Of the control that has the focus of its window, or whose editor has it.
+int TFilterRowView::FocusedIndex() const {
+    const QWidget* focused = panel.window()->focusWidget();
+    for (size_t i = 0; i < controls.size(); ++i) {
+        const auto* label = qobject_cast<TDropDownLabel*>(controls[i]);
+        const bool editing = label && label->Dropped() && label->EditControl() == focused;
+        if (focused && (controls[i] == focused || editing)) return static_cast<int>(i);
+    }
+    return -1;
+}
+
 bool TFilterRowView::FirstCurControl() {
     for (const TElement& element : elements)
         if (element.control != TRowControl::rcText)
@@ -230,8 +250,7 @@ void TFilterRowView::FreeValueLabel() {
 }
 
 void TFilterRowView::RecreateValueEditor() {
-    FreeValueLabel();
-    Refresh();
+    Show(true);
 }
 
 } // namespace tern7

@@ -100,6 +100,8 @@ private:
         TDropDownLabel* widget;
     };
 
+    void Show(bool newValueLabels);
+    int FocusedIndex() const;
     void MakeButton();
     void RefreshCheckBox(bool on);
     void RefreshMark(bool on);

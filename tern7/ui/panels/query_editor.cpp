@@ -1,11 +1,13 @@
 #include <tern7/ui/panels/query_editor.h>
 
 #include <QAction>
+#include <QApplication>
 #include <QMetaObject>
 #include <QPointer>
 #include <QUndoCommand>
 
 #include <tern7/core/query/query_record.h>
+#include <tern7/ui/support/guarded.h>
 #include <tern7/ui/support/text.h>
 
 namespace tern7 {
@@ -131,15 +133,25 @@ bool TKQueryEditor::Run(const QString& text, const std::function<void()>& change
     return changed;
 }
 
+/// The stack must be at rest when handlers hear of the step.
+void TKQueryEditor::TakeOver(QAction& action, void (TKQueryEditor::*step)()) {
+    QObject::disconnect(&action, nullptr, stack.get(), nullptr);
+    QObject::connect(&action, &QAction::triggered, stack.get(), [this, step] {
+        Guarded(QApplication::activeWindow(), [this, step] { (this->*step)(); });
+    });
+}
+
 QAction* TKQueryEditor::MakeUndoAction(QObject* parent) {
     QAction* action = stack->createUndoAction(parent, tr("Undo"));
     action->setShortcut(QKeySequence::Undo);
+    TakeOver(*action, &TKQueryEditor::Undo);
     return action;
 }
 
 QAction* TKQueryEditor::MakeRedoAction(QObject* parent) {
     QAction* action = stack->createRedoAction(parent, tr("Redo"));
     action->setShortcuts(QKeySequence::Redo);
+    TakeOver(*action, &TKQueryEditor::Redo);
     return action;
 }
 

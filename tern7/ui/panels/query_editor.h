@@ -163,6 +163,7 @@ private:
         bool operator==(const TTyped&) const = default;
     };
     bool Run(const QString& text, const std::function<void()>& change, const TTyped& typed);
+    void TakeOver(QAction& action, void (TKQueryEditor::*step)());
     void Replay(TKQueryRecord& record, bool undo);
     void ReplayFromOutside(void (QUndoStack::*step)());
     void Forget();

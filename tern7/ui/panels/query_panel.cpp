@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QStyle>
 
+#include <tern7/core/query/row_guard.h>
 #include <tern7/ui/controls/drop_down_label.h>
 #include <tern7/ui/controls/popup_menu.h>
 #include <tern7/ui/panels/accessible_panel.h>
@@ -45,6 +46,10 @@ void TKQueryPanel::Init() {
             [this](QWidget*, QWidget* now) { FocusChanged(now); });
     connect(listReader, &TSQLListReader::finished, this,
             [this] { Guarded(this, [this] { ListFinished(); }); });
+    const TKCustomDBStructure* structure = query->DbStruct();
+    const bool ofStructure = structure && structure->Services.editSubQuery;
+    // that of a nested query is the panel's around it
+    if (query->Outer() && !ofStructure) query->Services.editSubQuery = nullptr;
     FillServices();
     query->AddView(this);
     HookEvents();
@@ -72,8 +77,9 @@ void TKQueryPanel::HookEvents() {
     };
     query->OnConditionChange = [this](TFilterCond& condition, int whatChanged) {
         const QPointer<TKQueryPanel> alive(this);
+        const TRowGuard guard(condition);
         OnConditionChange(condition, whatChanged);
-        if (alive) emit conditionChanged(&condition, whatChanged);
+        if (alive && guard.Row()) emit conditionChanged(&condition, whatChanged);
     };
 }
 
@@ -115,7 +121,12 @@ void TKQueryPanel::SetCurrentRow(TFilterRow& row) {
     if (wanted == current) return;
     current = wanted;
     viewport()->update();
-    emit currentRowChanged();
+    TellCurrentRow();
+}
+
+/// Later: whoever made the row current goes on with it.
+void TKQueryPanel::TellCurrentRow() {
+    QMetaObject::invokeMethod(this, &TKQueryPanel::currentRowChanged, Qt::QueuedConnection);
 }
 
 void TKQueryPanel::FocusRow(TFilterRow& row, int control) {
@@ -132,6 +143,12 @@ void TKQueryPanel::FocusChanged(QWidget* now) {
     if (!view) return;
     SetCurrentRow(view->Row());
     ScrollToControl(*now);
+}
+
+void TKQueryPanel::PassFocus(QWidget& control) {
+    const bool before = std::exchange(dropping, true);
+    control.setFocus(Qt::OtherFocusReason);
+    dropping = before;
 }
 
 // --- commands

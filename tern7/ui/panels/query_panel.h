@@ -50,11 +50,44 @@ class TKQueryPanel : public QAbstractScrollArea, private TKQueryView {
     Q_PROPERTY(QString HelpFileName READ HelpFileName WRITE SetHelpFileName)
     Q_PROPERTY(int RFEHelpContext READ RFEHelpContext WRITE SetRFEHelpContext)
     Q_PROPERTY(QString DbStructName READ DbStructName WRITE SetDbStructName)
+    Q_PROPERTY(bool CheckValues READ CheckValues WRITE SetCheckValues)
+    Q_PROPERTY(TSyntax SQLSyntax READ FormSQLSyntax WRITE SetFormSQLSyntax)
+    Q_PROPERTY(TOptions SQLOptions READ FormSQLOptions WRITE SetFormSQLOptions)
+    // the appearance, which is an object of its own, as forms keep it
+    Q_PROPERTY(QColor AppearanceActiveRowColor READ AppearanceActiveRowColor WRITE
+                   SetAppearanceActiveRowColor RESET ResetAppearanceActiveRowColor)
+    Q_PROPERTY(QColor AppearanceControlBorderColor READ AppearanceControlBorderColor WRITE
+                   SetAppearanceControlBorderColor RESET ResetAppearanceControlBorderColor)
+    Q_PROPERTY(QColor AppearanceFieldColor READ AppearanceFieldColor WRITE SetAppearanceFieldColor
+                   RESET ResetAppearanceFieldColor)
+    Q_PROPERTY(QColor AppearanceOperatorColor READ AppearanceOperatorColor WRITE
+                   SetAppearanceOperatorColor RESET ResetAppearanceOperatorColor)
+    Q_PROPERTY(QColor AppearanceValueColor READ AppearanceValueColor WRITE SetAppearanceValueColor
+                   RESET ResetAppearanceValueColor)
+    Q_PROPERTY(QColor AppearanceBoolOpColor READ AppearanceBoolOpColor WRITE
+                   SetAppearanceBoolOpColor RESET ResetAppearanceBoolOpColor)
+    Q_PROPERTY(TQPAppearance::TQPAppearanceOptions AppearanceOptions READ AppearanceOptions WRITE
+                   SetAppearanceOptions)
+    Q_PROPERTY(TQPAppearance::TStyle AppearanceStyle READ AppearanceStyle WRITE SetAppearanceStyle)
     Q_PROPERTY(QByteArray Titles READ TitlesText WRITE SetTitlesText)
     Q_PROPERTY(QByteArray Description READ DescriptionText WRITE SetDescriptionText)
     Q_PROPERTY(QByteArray UserData READ UserDataText WRITE SetUserDataText)
 
 public:
+    /// TSQLSyntax and TSQLOptions as forms keep them.
+    enum TSyntax { ssSQL1, ssSQL2, ssOracle };
+    Q_ENUM(TSyntax)
+    enum TOption {
+        soASCIIRFields = 1 << 0,
+        soSelectDistinct = 1 << 1,
+        soQuoteAliases = 1 << 2,
+        soBracketJoins = 1 << 3,
+        soBracketConditions = 1 << 4,
+        soSortByNames = 1 << 5
+    };
+    Q_DECLARE_FLAGS(TOptions, TOption)
+    Q_FLAG(TOptions)
+
     explicit TKQueryPanel(QWidget* parent = nullptr);
     /// A panel over a query that was made elsewhere, as a sub-query is.
     TKQueryPanel(std::unique_ptr<TKQuery> shownQuery, QWidget* parent);
@@ -77,9 +110,9 @@ public:
     /// Stored queries that the panel shows one of; not owned, it may go first.
     TKQueryBase* QueryBase() const { return baseLink.QueryBase(); }
     /// EKQueryPanelError when the base is open and its current text can not be read.
-    void SetQueryBase(TKQueryBase* base) { baseLink.SetQueryBase(base); }
+    void SetQueryBase(TKQueryBase* base);
     TKQueryBaseLink& QueryBaseLink() { return baseLink; }
-    void BuildQuery() { query->BuildQuery(); }
+    void BuildQuery();
     void ClearAll() { query->ClearAll(); }
     bool Active() const { return query->Active(); }
     void SetActive(bool value) { query->SetActive(value); }
@@ -88,6 +121,10 @@ public:
     void LoadFromStrings(const TStrings& text);
     void SaveToFile(const QString& fileName);
     void LoadFromFile(const QString& fileName);
+    /// See TKQuery. ESQLParserError for a syntax error: ParseSQL leaves no rows then, ImportSQL the
+    /// query as it was; either is shown. What was not taken over is in Query().SQLReport().
+    void ParseSQL(const QString& sql);
+    void ImportSQL(const QString& sql);
 
     QString QueryName() const;
     void SetQueryName(const QString& value);
@@ -255,6 +292,8 @@ public:
     TRowDrag& RowDrag() const { return *rowDrag; }
     int TextHeight() const { return textHeight; }
     bool ReadsFromRight() const { return layoutDirection() == Qt::RightToLeft; }
+    /// Gives the focus to a control without making its row the current one or scrolling there.
+    void PassFocus(QWidget& control);
     /// Moves a widget to its place in content that is read from the left.
     void PutAt(QWidget& widget, int left, int top) const;
     /// The row's controls changed their sizes: place everything again, soon.
@@ -265,6 +304,7 @@ signals:
     void activated();
     void paramListChanged();
     void conditionChanged(tern7::TFilterCond* condition, int whatChanged);
+    /// When the event loop runs again.
     void currentRowChanged();
 
 protected:
@@ -281,10 +321,49 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    // properties as forms keep them
+    TSyntax FormSQLSyntax() const { return static_cast<TSyntax>(query->SQLSyntax()); }
+    void SetFormSQLSyntax(TSyntax value);
+    TOptions FormSQLOptions() const { return TOptions(SQLOptionsToInt(query->SQLOptions())); }
+    void SetFormSQLOptions(TOptions value) { query->SetSQLOptions(IntToSQLOptions(value)); }
+    QColor AppearanceActiveRowColor() const { return appearance->ActiveRowColor(); }
+    void SetAppearanceActiveRowColor(const QColor& color) { appearance->SetActiveRowColor(color); }
+    void ResetAppearanceActiveRowColor() {
+        appearance->SetActiveRowColor(TQPAppearance().ActiveRowColor());
+    }
+    QColor AppearanceControlBorderColor() const { return appearance->ControlBorderColor(); }
+    void SetAppearanceControlBorderColor(const QColor& color) {
+        appearance->SetControlBorderColor(color);
+    }
+    void ResetAppearanceControlBorderColor() {
+        appearance->SetControlBorderColor(TQPAppearance().ControlBorderColor());
+    }
+    QColor AppearanceFieldColor() const { return appearance->FieldColor(); }
+    void SetAppearanceFieldColor(const QColor& color) { appearance->SetFieldColor(color); }
+    void ResetAppearanceFieldColor() { appearance->SetFieldColor(TQPAppearance().FieldColor()); }
+    QColor AppearanceOperatorColor() const { return appearance->OperatorColor(); }
+    void SetAppearanceOperatorColor(const QColor& color) { appearance->SetOperatorColor(color); }
+    void ResetAppearanceOperatorColor() {
+        appearance->SetOperatorColor(TQPAppearance().OperatorColor());
+    }
+    QColor AppearanceValueColor() const { return appearance->ValueColor(); }
+    void SetAppearanceValueColor(const QColor& color) { appearance->SetValueColor(color); }
+    void ResetAppearanceValueColor() { appearance->SetValueColor(TQPAppearance().ValueColor()); }
+    QColor AppearanceBoolOpColor() const { return appearance->BoolOpColor(); }
+    void SetAppearanceBoolOpColor(const QColor& color) { appearance->SetBoolOpColor(color); }
+    void ResetAppearanceBoolOpColor() { appearance->SetBoolOpColor(TQPAppearance().BoolOpColor()); }
+    TQPAppearance::TQPAppearanceOptions AppearanceOptions() const { return appearance->Options(); }
+    void SetAppearanceOptions(TQPAppearance::TQPAppearanceOptions options) {
+        appearance->SetOptions(options);
+    }
+    TQPAppearance::TStyle AppearanceStyle() const { return appearance->FormStyle(); }
+    void SetAppearanceStyle(TQPAppearance::TStyle value) { appearance->SetFormStyle(value); }
+
     using TViews = std::unordered_map<const TFilterRow*, std::unique_ptr<TFilterRowView>>;
 
     void Init();
     void HookEvents();
+    void Read(const std::function<void(TKQuery& query)>& reading);
     void SetGeometryValue(int& member, int value);
 
     // what the query tells (query_panel_view.cpp)
@@ -325,6 +404,7 @@ private:
     // menus and focus
     void CreateMenus();
     void FocusChanged(QWidget* now);
+    void TellCurrentRow();
     void FocusAfterDelete(TFilterRow* next);
     void AddRowClicked();
     void FillServices();
@@ -351,7 +431,8 @@ private:
     TRowDrag* rowDrag;
     QPointer<TFilterRowView> waitingView; // where listMenu stands
     int waitingValue = 0;
-    TFilterRow* current = nullptr; // none: the root
+    TFilterRow* current = nullptr;             // none: the root
+    const TFilterCond* valueMenuRow = nullptr; // only compared
     int valueMenuNumber = 1;
     int textHeight = 1;
     int buttonWidth = 0;
@@ -369,5 +450,7 @@ private:
     bool laying = false;
     bool dropping = false; // controls go, and the focus with them
 };
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(TKQueryPanel::TOptions)
 
 } // namespace tern7

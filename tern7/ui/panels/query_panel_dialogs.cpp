@@ -1,5 +1,6 @@
 // What the panel asks others for: dialogs, lists from the database, help.
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
 
@@ -18,8 +19,7 @@ namespace tern7 {
 void TKQueryPanel::FillServices() {
     TKServices& services = query->Services;
     FillScreenServices(services);
-    const TKCustomDBStructure* structure = query->DbStruct();
-    if (structure && structure->Services.editSubQuery) return;
+    if (services.editSubQuery) return;
     const QPointer<TKQueryPanel> panel(this);
     services.editSubQuery = [panel](TFilterCond& condition) {
         return panel && panel->EditSubQuery(condition);
@@ -43,6 +43,7 @@ bool TKQueryPanel::EditTitles() {
 }
 
 bool TKQueryPanel::EditResultFields() {
+    DbStruct();
     query->RequireStruct();
     const auto edit = Dialogs.editResultFields;
     if (!edit) return false;
@@ -62,7 +63,9 @@ std::function<void()> TKQueryPanel::HelpCall(bool forResultFields) {
             if (panel) panel->OnRFEHelpClick(*panel);
         };
     if (helpFileName.isEmpty()) return {};
-    QUrl page = QUrl::fromUserInput(helpFileName, {}, QUrl::AssumeLocalFile);
+    // a file without a folder stands beside the program
+    QUrl page = QUrl::fromUserInput(helpFileName, QCoreApplication::applicationDirPath(),
+                                    QUrl::AssumeLocalFile);
     if (forResultFields && rfeHelpContext != 0) page.setFragment(QString::number(rfeHelpContext));
     return [page] { QDesktopServices::openUrl(page); };
 }
@@ -82,8 +85,9 @@ void TKQueryPanel::FillListMenu(const TDSField& field) {
     TMenuItem& again = items.Add(tr("&Read it again"));
     again.OnClick = [this](TMenuItem*) {
         if (!waitingView) return;
-        const TFilterCond* condition = waitingView->Row().AsCond();
-        listReader->Demand(*condition->Field());
+        const TDSField* listed = waitingView->Row().AsCond()->Field();
+        if (!listed) return;
+        listReader->Demand(*listed);
         PopupListState(*waitingView, waitingValue);
     };
 }

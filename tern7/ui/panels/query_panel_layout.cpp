@@ -206,9 +206,9 @@ void TKQueryPanel::ChainFocus() {
     for (const auto& [row, view] : views)
         ordered.emplace_back(lines.LineOf(*row), view.get());
     std::sort(ordered.begin(), ordered.end());
-    QWidget* before = nullptr;
+    QWidget* before = this; // else the rows come behind the rest of the form
     auto chain = [&](QWidget* widget) {
-        if (before) setTabOrder(before, widget);
+        setTabOrder(before, widget);
         before = widget;
     };
     for (const auto& [line, view] : ordered)
@@ -216,7 +216,7 @@ void TKQueryPanel::ChainFocus() {
             chain(widget);
     if (addRowLabel->isVisibleTo(viewport())) chain(addRowLabel);
     // with something inside to go to, the panel itself is no stop on the way
-    setFocusPolicy(before ? Qt::ClickFocus : Qt::StrongFocus);
+    setFocusPolicy(before != this ? Qt::ClickFocus : Qt::StrongFocus);
 }
 
 // --- asking
@@ -258,7 +258,7 @@ TFilterRow* TKQueryPanel::RowAt(const QPoint& inViewport) {
 }
 
 int TKQueryPanel::LinesInSight() const {
-    return std::max(viewport()->height() / (geometry.LineHeight + geometry.RowSpace), 1);
+    return std::max(viewport()->height() / std::max(geometry.LineHeight + geometry.RowSpace, 1), 1);
 }
 
 void TKQueryPanel::ScrollToLine(int line) {

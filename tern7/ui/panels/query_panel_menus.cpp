@@ -85,6 +85,7 @@ void TKQueryPanel::PopupRowMenu(TFilterRow& row, const QRect& anchor) {
 
 void TKQueryPanel::VPopup(TFilterCond& condition, int n, const QRect& anchor) {
     SetCurrentRow(condition);
+    valueMenuRow = &condition;
     valueMenuNumber = n;
     for (int i = 0; i < valueMenu->Items().Count(); ++i) {
         TMenuItem& item = valueMenu->Items().Items(i);
@@ -103,7 +104,7 @@ void TKQueryPanel::MenuItemClick(int command) {
         if (TFilterCond* added = InsertCondition()) OpenFieldMenu(*added);
         break;
     case pcDeleteRow:
-        DeleteRow(row);
+        if (row.Parent()) DeleteRow(row);
         break;
     case pcEnableDisable:
         Do([&](TKQueryEditor& e) { e.SetEnabled(row, !row.GetEnabled()); });
@@ -116,7 +117,7 @@ void TKQueryPanel::MenuItemClick(int command) {
 void TKQueryPanel::ValueMenuItemClick(int command) {
     TFilterCond* condition = CurrentRow().AsCond();
     if (!condition || (command != vcConstant && command != vcParameter)) return;
-    int n = valueMenuNumber;
+    int n = valueMenuRow == condition ? valueMenuNumber : 1;
     if (const TFilterRowView* view = ExistingView(*condition))
         if (const int focused = view->ValueNumberOf(view->GetCurrentControl())) n = focused;
     Do([&](TKQueryEditor& e) { e.SetParameter(*condition, n, command == vcParameter); });

@@ -40,14 +40,32 @@ void TKQueryPanel::SetDbStructName(const QString& name) {
     if (isVisible()) DbStruct();
 }
 
-void TKQueryPanel::LoadFromStrings(const TStrings& text) {
+void TKQueryPanel::BuildQuery() {
+    DbStruct();
+    query->BuildQuery();
+}
+
+void TKQueryPanel::SetQueryBase(TKQueryBase* base) {
+    DbStruct();
+    baseLink.SetQueryBase(base);
+}
+
+/// A query that could not be read is shown as it is.
+void TKQueryPanel::Read(const std::function<void(TKQuery& query)>& reading) {
+    DbStruct();
     CloseEdit(false);
+    const std::shared_ptr<TKQuery> held = query; // OnActive may delete the panel
+    const bool wasActive = held->Active();
     try {
-        query->LoadFromStrings(text);
+        reading(*held);
     } catch (...) {
-        query->SetActive(true);
+        held->SetActive(wasActive);
         throw;
     }
+}
+
+void TKQueryPanel::LoadFromStrings(const TStrings& text) {
+    Read([&](TKQuery& q) { q.LoadFromStrings(text); });
 }
 
 void TKQueryPanel::SaveToFile(const QString& fileName) {
@@ -55,13 +73,15 @@ void TKQueryPanel::SaveToFile(const QString& fileName) {
 }
 
 void TKQueryPanel::LoadFromFile(const QString& fileName) {
-    CloseEdit(false);
-    try {
-        query->LoadFromFile(FromQt(fileName));
-    } catch (...) {
-        query->SetActive(true);
-        throw;
-    }
+    Read([&](TKQuery& q) { q.LoadFromFile(FromQt(fileName)); });
+}
+
+void TKQueryPanel::ParseSQL(const QString& sql) {
+    Read([&](TKQuery& q) { q.ParseSQL(FromQt(sql)); });
+}
+
+void TKQueryPanel::ImportSQL(const QString& sql) {
+    Read([&](TKQuery& q) { q.ImportSQL(FromQt(sql)); });
 }
 
 QString TKQueryPanel::QueryName() const {
@@ -78,6 +98,10 @@ QString TKQueryPanel::MainTableName() const {
 
 void TKQueryPanel::SetMainTableName(const QString& value) {
     query->SetMainTableName(FromQt(value));
+}
+
+void TKQueryPanel::SetFormSQLSyntax(TSyntax value) {
+    if (value >= ssSQL1 && value <= ssOracle) SetSQLSyntax(static_cast<TSQLSyntax>(value));
 }
 
 void TKQueryPanel::SetCheckValues(bool value) {

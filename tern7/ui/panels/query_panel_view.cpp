@@ -41,8 +41,7 @@ void TKQueryPanel::DropViewsBelow(const TFilterRow& row) {
         view = IsWithin(view->second->Row(), row) ? DropView(view) : std::next(view);
     if (!current || !IsWithin(*current, row)) return;
     current = nullptr;
-    // told when the rows are gone
-    QMetaObject::invokeMethod(this, &TKQueryPanel::currentRowChanged, Qt::QueuedConnection);
+    TellCurrentRow();
 }
 
 /// The focus leaves the controls on the way; where it goes is no choice of the user.
@@ -55,8 +54,9 @@ TKQueryPanel::TViews::iterator TKQueryPanel::DropView(TViews::iterator view) {
     return next;
 }
 
+/// A layout that runs has asked for the numbers itself.
 void TKQueryPanel::RowsRenumbered() {
-    Invalidate();
+    if (!laying) Invalidate();
 }
 
 void TKQueryPanel::RowChanged(TFilterRow& row) {
@@ -83,6 +83,7 @@ void TKQueryPanel::EverythingChanged() {
     linesKnown = false;
     lines.Clear();
     viewsFresh = false;
+    FillServices(); // those of another structure
     ReadTitles();
     Invalidate();
 }

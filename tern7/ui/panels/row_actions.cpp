@@ -1,6 +1,9 @@
 // What the labels of a row do: their menus and lists are filled when they open, and what was chosen
 // becomes a change of the query. A change may end this view, so it always comes last.
 
+#include <string>
+#include <unordered_map>
+
 #include <QEvent>
 
 #include <tern7/core/structure/offered_fields.h>
@@ -90,14 +93,22 @@ void TFilterRowView::FillFields(TDropDownLabel* widget) {
     list.OnGetItemImageIndex = [this](const QString& group, const QString& item, int& index) {
         panel.OnGetItemImageIndex(group, item, index);
     };
-    if (const TKCustomDBStructure* structure = panel.DbStruct())
-        for (const TOfferedField& offered : OfferedFields(*structure, TFieldUse::Conditions)) {
+    if (const TKCustomDBStructure* structure = panel.DbStruct()) {
+        const std::vector<TOfferedField> fields = OfferedFields(*structure, TFieldUse::Conditions);
+        std::unordered_map<std::string, int> sharing; // in one group
+        const auto inGroup = [](const TOfferedField& offered) {
+            return std::string(offered.group) + '\n' + offered.field->DisplayName();
+        };
+        for (const TOfferedField& offered : fields)
+            ++sharing[inGroup(offered)];
+        for (const TOfferedField& offered : fields) {
             // below the name of its group a field needs no other
-            const std::string text = offered.group.empty()
-                                         ? panel.RowTexts().FieldText(*offered.field)
-                                         : offered.field->DisplayName();
+            const bool plain = !offered.group.empty() && sharing[inGroup(offered)] == 1;
+            const std::string text =
+                plain ? offered.field->DisplayName() : panel.RowTexts().FieldText(*offered.field);
             list.AddItem(ToQt(offered.group), ToQt(text), QString::number(offered.field->ID()));
         }
+    }
     EndFill(list);
 }
 
@@ -171,7 +182,8 @@ void TFilterRowView::WordChosen(const TFilterBracket& bracket, TRowLabelKind kin
 
 void TFilterRowView::LabelRightClick(TDropDownLabel* widget) {
     const int n = ValueNumberOf(widget);
-    if (n > 0) return ValueRightClick(n);
+    // a sub-query is neither constant nor parameter
+    if (n > 0 && !Condition()->IsSubQueryOperator()) return ValueRightClick(n);
     panel.SetCurrentRow(row);
     if (widget->focusPolicy() != Qt::NoFocus) widget->setFocus();
     panel.PopupRowMenu(row, OnScreen(*widget));

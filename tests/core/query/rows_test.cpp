@@ -98,6 +98,36 @@ TEST_F(TRows, HandlersMayChangeWhatIsStored) {
     EXPECT_EQ(row->Value(1), "bern");
 }
 
+TEST_F(TRows, HandlersMayRaiseAndMayEndWhatCallsThem) {
+    TFilterCond* row = Add("C.city", "Equal", "rome");
+    query.OnChange = [](TKQuery&) { throw EKTernError("no"); };
+    EXPECT_THROW(row->SwitchEnabled(false), EKTernError);
+    EXPECT_THROW(query.ClearAll(), EKTernError);
+    query.OnChange = nullptr;
+    EXPECT_EQ(query.Root().GetRowCount(), 0);
+
+    row = Add("C.city", "Equal", "rome");
+    const std::unique_ptr<TFilterRow> copy = row->Clone();
+    query.OnSetValue = [this](TFilterCond& told, std::string&, std::string&) {
+        EXPECT_EQ(told.Parent(), &query.Root()) << "nobody is told of rows outside of the tree";
+        query.Root().DeleteRow(&told);
+    };
+    copy->AsCond()->SetValue(1, "oslo");
+    row->EnterValue(1, "oslo");
+    EXPECT_EQ(query.Root().GetRowCount(), 0);
+
+    const auto endedBy = [this](const std::function<void(TKQuery&)>& reading) {
+        auto* other = new TKQuery(&structure);
+        other->OnActive = [](TKQuery& told) { delete &told; };
+        const std::weak_ptr<const char> life = other->Life();
+        reading(*other);
+        return life.expired();
+    };
+    EXPECT_TRUE(endedBy([this](TKQuery& q) { q.SetQueryString(query.GetQueryString()); }));
+    EXPECT_TRUE(endedBy([](TKQuery& q) { q.ParseSQL("select C.id from Customer C"); }));
+    EXPECT_TRUE(endedBy([](TKQuery& q) { q.ImportSQL("select C.id from Customer C"); }));
+}
+
 TEST_F(TRows, NumbersFollowTheStyle) {
     TFilterCond* first = query.Root().AddCond();
     TFilterBracket* bracket = query.Root().AddBracket();

@@ -126,4 +126,28 @@ TEST_F(TPanelSafetyTest, LoadingATextThatIsDamagedKeepsTheQuery) {
     EXPECT_EQ(Shown(1), "City is equal to Berlin");
 }
 
+TEST_F(TPanelSafetyTest, HandlersThatEndARowOrThePanelEndWhatIsToldOfThem) {
+    Add("C.city", "Equal", "Berlin");
+    int told = 0;
+    QObject::connect(panel, &TKQueryPanel::conditionChanged, panel, [&] { ++told; });
+    panel->OnConditionChange = [this](TFilterCond& row, int) { panel->Root().DeleteRow(&row); };
+    Cond(1).SetValue(1, "Rome");
+    EXPECT_EQ(told, 0);
+    TStrings text;
+    panel->SaveToStrings(text);
+    QPointer<TKQueryPanel> alive(panel);
+    panel->OnActive = [](TKQueryPanel& p) { delete &p; };
+    panel->LoadFromStrings(text);
+    EXPECT_FALSE(alive);
+}
+
+TEST_F(TPanelSafetyTest, UndoActionOfAPanelThatAHandlerDeletes) {
+    panel->InsertCondition();
+    QPointer<TKQueryPanel> alive(panel);
+    QAction* undo = panel->Editor().MakeUndoAction(&window);
+    panel->OnChange = [](TKQueryPanel& p) { delete &p; };
+    undo->trigger();
+    EXPECT_FALSE(alive);
+}
+
 } // namespace tern7

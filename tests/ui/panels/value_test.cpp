@@ -138,9 +138,13 @@ TEST_F(TPanelValueTest, WrongNumbersAreAcceptedAndMarked) {
 
 TEST_F(TPanelValueTest, ParametersThroughTheValueMenu) {
     AddRow("O.amount", "Between", "1").SetValue(2, "9");
+    AddRow("C.city", "Equal", "Rome");
+    panel->Root().GetRow(1)->SetEnabled(false);
     RightClick(Value(1, 2));
     Pick("Parameter");
     EXPECT_EQ(Shown(1), "Amount is between 1 and Parameter");
+    EXPECT_EQ(QApplication::focusWidget(), Value(1, 2)) << "not in the next row";
+    EXPECT_EQ(&panel->CurrentRow(), &Row(1));
     EXPECT_EQ(Condition(), "O.amount between 1 and :Param1");
     Click(Value(1, 2)); // opens the value menu too
     Pick("Constant value");
@@ -257,6 +261,12 @@ TEST_F(TPanelValueTest, SubQueryDialog) {
     among->SetValueType(TOpValueType::vtSubQuery);
     Field("C.id")->AddOperator(among);
     AddRow("C.id", "Among");
+    panel->Appearance().SetOptions(panel->Appearance().Options() & ~TQPAppearance::aoAllowParams);
+    panel->OnCustomEdit = [](TDSField&, std::string&) {};
+    int setRows = 0;
+    panel->OnSetValue = [&](TFilterCond& row, std::string&, std::string&) {
+        if (row.Query() == &panel->Query()) setRows += row.Parent() ? 1 : 100;
+    };
     EXPECT_EQ(Cond(1).Unfinished(), TUnfinished::NoSubQuery);
     bool refused = false;
     QTimer::singleShot(0, [&] {
@@ -268,10 +278,13 @@ TEST_F(TPanelValueTest, SubQueryDialog) {
         Pick("Order number");
         TFilterCond* inner = TShop::Add(dialog->Panel().Root(), "O.amount", "GreaterThan", "100");
         inner->SetValueIsParam(1, true);
+        EXPECT_EQ(dialog->Panel().ValueMenu().Items().Count(), 1) << "looks of the outer panel";
+        EXPECT_TRUE(dialog->Panel().OnCustomEdit) << "events too";
         dialog->accept();
     });
     Click(Value(1));
     EXPECT_TRUE(refused) << "a sub-query needs a field";
+    EXPECT_EQ(setRows, 1) << "not for the dialog's copy";
     EXPECT_EQ(Shown(1), "Customer number is among Sub-query");
     EXPECT_EQ(Cond(1).Unfinished(), TUnfinished::No);
     EXPECT_EQ(Condition(), "C.id in (SELECT O.id as Order_number FROM Orders O"

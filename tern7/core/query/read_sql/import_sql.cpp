@@ -62,9 +62,10 @@ const TSQLReport& TKQuery::ImportSQL(std::string_view sql) {
         ClearAll();
         StoreSQLReport(importer.Fill());
     }
-    SetActive(wasActive);
-    ParametersListChanged();
-    return SQLReport();
+    const std::weak_ptr<const char> alive = life;
+    ReadingDone(wasActive);
+    static const TSQLReport none;
+    return alive.expired() ? none : SQLReport();
 }
 
 TSQLImporter::TSQLImporter(TKQuery& owner, TSubSelectBudget& subSelectBudget, bool nested)

@@ -58,8 +58,7 @@ void TKQuery::ParseSQL(std::string_view sql) {
         TSubSelectBudget budget(sql.size());
         StoreSQLReport(TSQLReader(*this, budget).Read(sql));
     }
-    SetActive(wasActive);
-    ParametersListChanged();
+    ReadingDone(wasActive);
 }
 
 void TKQuery::StoreSQLReport(TSQLReport report) {
