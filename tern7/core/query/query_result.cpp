@@ -80,6 +80,7 @@ TSQLParam* TQueryResult::AddParameter(TFilterCond& condition, int valueNumber) {
 bool TQueryResult::RenameParameter(TSQLParam& param, std::string name) {
     if (SameText(param.name, name)) {
         param.name = std::move(name);
+        param.named = true;
         return true;
     }
     TParamNames& taken = *query.paramNames;
@@ -88,6 +89,7 @@ bool TQueryResult::RenameParameter(TSQLParam& param, std::string name) {
         taken.erase(former);
     taken.insert(LowerCase(name));
     param.name = std::move(name);
+    param.named = true;
     query.ParametersListChanged();
     return true;
 }

@@ -19,6 +19,7 @@ constexpr std::string_view valueKeys[] = {"Value1", "Value2"};
 constexpr std::string_view paramKeys[] = {"Param1", "Param2"};
 constexpr std::string_view formatKeys[] = {"VFormat1", "VFormat2"};
 constexpr std::string_view captionKeys[] = {"Caption1", "Caption2"};
+constexpr std::string_view nameKeys[] = {"ParamName1", "ParamName2"};
 
 bool IsRowSection(std::string_view name) {
     return name.size() > 3 && StartsText(name, "Row") &&
@@ -154,7 +155,10 @@ void TRowsParser::ParseValue(const TKIniSection& section, TRowText& row, int slo
         const bool isList = row.op && row.op->ValueType() == TOpValueType::vtList;
         value.text = LoadValue(query.Services, type, isList, value.text);
     }
-    if (value.isParam) value.format = section.Text(formatKeys[slot]);
+    if (value.isParam) {
+        value.format = section.Text(formatKeys[slot]);
+        value.name = section.Text(nameKeys[slot]);
+    }
     if (version < 2.1) return;
     value.caption = section.Text(captionKeys[slot]);
     value.hasCaption = !value.caption.empty() || section.Has(captionKeys[slot]);
@@ -184,6 +188,8 @@ void AddCondition(TFilterCond& condition, TRowText& row) {
             continue;
         }
         if (!value.format.empty()) param->SetValueFormat(std::move(value.format));
+        if (!value.name.empty()) // one that is taken leaves the number
+            condition.Query()->QResult().RenameParameter(*param, std::move(value.name));
         // one that says what is made of the field's anyway goes on following the field
         if (value.hasCaption && value.caption != param->Caption())
             param->SetCaption(std::move(value.caption));

@@ -16,6 +16,7 @@ class TKQuery;
 struct TRowText {
     struct TValue {
         std::string text, caption, format;
+        std::string name; ///< of a parameter that was given one
         bool isParam = false;
         bool hasCaption = false;
     };

@@ -95,6 +95,7 @@ void TRowsWriter::WriteValueDetails(const TFilterCond& condition, int n) {
         const TSQLParam* param = condition.Param(n);
         out.Text("VFormat" + number, param ? param->ValueFormat() : "@v");
         out.Text("Caption" + number, param ? param->Caption() : condition.ValueCaption(n));
+        if (param && param->IsNamed()) out.Text("ParamName" + number, param->Name());
     } else if (!condition.ValueCaption(n).empty() &&
                condition.ValueCaption(n) != condition.Value(n)) {
         // what the application's own editor showed; nobody could find it again when loading

@@ -28,6 +28,7 @@ std::unique_ptr<TSQLParam> TSQLParam::CopyFor(TFilterCond& other) const {
     copy->valueFormat = valueFormat;
     copy->given = given;
     copy->generated = generated;
+    copy->named = named;
     return copy;
 }
 

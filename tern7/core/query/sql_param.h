@@ -27,6 +27,8 @@ public:
 
     /// Unique over a query and the queries nested in it, ignoring case.
     const std::string& Name() const { return name; }
+    /// The name was given, and is kept with the query; else it is a number that may change.
+    bool IsNamed() const { return named; }
     const std::string& Caption() const { return caption; }
     /// A caption of the application's own; until then it is made of the field's.
     void SetCaption(std::string value) {
@@ -66,6 +68,7 @@ private:
     std::string valueFormat = "@v";
     std::optional<std::string> given;
     bool generated = true; // the caption follows the field
+    bool named = false;
 };
 
 /// The parameters of one query, in the order in which they were made.

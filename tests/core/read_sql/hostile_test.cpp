@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tern7/core/corekit/numbers.h>
 #include <tern7/core/parser/sql_parser.h>
 #include <tern7/core/query/read_sql/sql_report.h>
 
@@ -98,6 +99,16 @@ TEST_F(HostileSQL, NestingHasItsLimit) {
         EXPECT_EQ(IsRead([&] { query.ParseSQL(sql); }), isFine) << depth;
         EXPECT_EQ(IsRead([&] { query.ImportSQL(sql); }), isFine) << depth;
     }
+    // the line is that of the first condition that stands too deep
+    const std::string lines = nested(510, "C.id = 2\nor C.id = 3 and (", ")");
+    for (const bool complete : {false, true})
+        try {
+            complete ? static_cast<void>(query.ImportSQL(lines)) : query.ParseSQL(lines);
+            ADD_FAILURE();
+        } catch (const ESQLParserError& error) {
+            const int line = XStrToInt(std::string_view(error.what()).substr(26));
+            EXPECT_TRUE(line > 490 && line < 510) << error.what();
+        }
     query.SetActive(true);
     query.ParseSQL(nested(40, "C.id in (select C.id from Customer C where ", ")"));
     int depth = 0;

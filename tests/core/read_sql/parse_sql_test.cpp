@@ -1,7 +1,10 @@
 // Statements read back through ParseSQL.
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
+#include <tern7/core/query/query_text.h>
 #include <tern7/core/query/read_sql/sql_report.h>
 #include <tern7/core/structure/default_operators.h>
 
@@ -231,14 +234,36 @@ TEST_F(ParseSQL, ImportAsksNoHandler) {
     EXPECT_EQ(asked, 1);
 }
 
-/// Every default operator with every field type, as the writer writes it.
+TEST_F(ParseSQL, NamesOfParametersAreKeptInTheQueryText) {
+    query.ImportSQL("select c.name from customer c where c.city = :town and c.id in (select o.id "
+                    "from orders o where o.amount > :least) and c.id = :Param1");
+    const std::string sql = SQL();
+    EXPECT_NE(sql.find(":least"), std::string::npos);
+    TKQuery again(&structure);
+    again.SetSQLOptions({});
+    again.SetQueryString(query.GetQueryString());
+    again.BuildQuery();
+    EXPECT_EQ(again.QResult().GetSQL().Text(), sql);
+    // what is put in later does not take a name that is in use
+    InsertRowsFromText(again.Root(), 0, query.GetQueryString());
+    TStrings names;
+    for (const TSQLParam* param : again.AllParams())
+        names.push_back(LowerCase(param->Name()));
+    std::sort(names.begin(), names.end());
+    EXPECT_EQ(std::adjacent_find(names.begin(), names.end()), names.end());
+}
+
+/// Every default operator with every field type, as the writer writes it in any syntax.
 TEST_F(ParseSQL, EveryOperatorComesBackForEveryFieldType) {
     TDSField* field = Field("C.city");
+    int form = 0;
     for (int type = 0; type < FieldTypeCount; ++type) {
         field->SetFieldType(static_cast<TFieldType>(type));
         for (const TDefaultOperator& op : DefaultOperators) {
             for (const bool isParam : {false, true}) {
                 query.ClearAll();
+                query.SetSQLSyntax(static_cast<TSQLSyntax>(form % 3));
+                query.SetSQLOptions(IntToSQLOptions(form++ % 64));
                 Add("C.city", op.name, "5", "7");
                 Add("C.id", "Equal", "1");
                 TFilterCond& row = *query.Root().GetFirstCondition();
@@ -252,6 +277,12 @@ TEST_F(ParseSQL, EveryOperatorComesBackForEveryFieldType) {
                 }
                 query.SetMainTableName("C");
                 EXPECT_EQ(SQL(), sql) << op.name << " of type " << type;
+                // bare where the writer puts quotes, and in quotes where it does not
+                if (isParam || structure.IsQuotedType(field->FieldType())) continue;
+                query.ParseSQL(ReplaceStr(ReplaceStr(sql, "5", "'5'"), "7", "'7'"));
+                if (op.sqlTemplate.find('%') == std::string_view::npos) {
+                    EXPECT_EQ(Rows(query.Root()), rows) << op.name << " of type " << type;
+                }
             }
         }
     }

@@ -34,15 +34,29 @@ bool BeginsWithSelect(const TSQLCapture& capture) {
            (capture.raw.size() == 6 || !IsLetter(capture.raw[6]));
 }
 
-/// The items of a list as a statement writes it, none when they are not all literals.
-std::optional<TStrings> LiteralItems(std::string_view list) {
+/// What a bare word or number says of a column that holds true and false: the one form in quotes
+/// that every engine takes.
+std::optional<std::string> BooleanValue(std::string_view word) {
+    if (word == "1" || SameText(word, "true")) return "1";
+    if (word == "0" || SameText(word, "false")) return "0";
+    return std::nullopt;
+}
+
+/// The items of a list as a statement writes it, none when they are not all literals, or words that
+/// say true or false where those are allowed.
+std::optional<TStrings> ListItems(std::string_view list, bool booleans) {
     const TSQLOperand cut(list);
     TStrings items;
     for (size_t i = 0; i < cut.Count(); i += 2) {
         const std::string_view token = cut.Token(i);
-        if (cut.Type(i) != TKTokenType::Literal) return std::nullopt;
         if (i + 1 < cut.Count() && cut.Token(i + 1) != ",") return std::nullopt;
         if (i + 2 == cut.Count()) return std::nullopt; // ends with a comma
+        if (cut.Type(i) != TKTokenType::Literal) {
+            std::optional<std::string> boolean = BooleanValue(token);
+            if (!booleans || !boolean) return std::nullopt;
+            items.push_back(std::move(*boolean));
+            continue;
+        }
         items.push_back(UnquotedString(token));
         if (items.back().size() + 2 > token.size()) return std::nullopt; // not closed
     }
@@ -59,6 +73,7 @@ struct TConditionRecognition::TTry {
     TSQLOperand operand;
     TSQLCapture captures[2];
     bool bareValues; // the field's values stand without quotes
+    bool booleans;   // they say true or false, in quotes or not
 };
 
 TConditionRecognition::TConditionRecognition(const TKQuery& owner, bool completeReading)
@@ -78,10 +93,13 @@ TConditionRecognition::TConditionRecognition(const TKQuery& owner, bool complete
 }
 
 TRecognisedCondition TConditionRecognition::Recognise(const TSQLCondition& condition) const {
-    TTry attempt{condition, {}, TSQLOperand(condition.Value()), {}, false};
+    TTry attempt{condition, {}, TSQLOperand(condition.Value()), {}, false, false};
     TDSField* const field = structure.FieldBySQLExpr(condition.Field());
     attempt.found.field = field;
-    attempt.bareValues = !field || !structure.IsQuotedType(field->FieldType());
+    attempt.booleans = complete && field && field->Kind() == TKFieldKind::kfkData &&
+                       field->FieldType() == TFieldType::ftBoolean &&
+                       structure.IsQuotedType(field->FieldType());
+    attempt.bareValues = !field || !structure.IsQuotedType(field->FieldType()) || attempt.booleans;
     attempt.found.op = OperatorBySQLCond(attempt);
     return std::move(attempt.found);
 }
@@ -158,9 +176,13 @@ bool TConditionRecognition::TakeValue(TTry& attempt, const TDSOperator& op, int 
         value = capture.text;
         return true;
     }
-    return op.ValueType() == TOpValueType::vtList
-               ? TakeList(capture, op, *attempt.found.field, value)
-               : TakeScalar(capture, op, *attempt.found.field, n, value);
+    if (op.ValueType() == TOpValueType::vtList)
+        return TakeList(capture, op, *attempt.found.field, attempt.booleans, value);
+    if (!attempt.booleans || capture.form != TForm::Bare || op.Template().ValueIsBare(n))
+        return TakeScalar(capture, op, *attempt.found.field, n, value);
+    const std::optional<std::string> boolean = BooleanValue(capture.raw);
+    value = boolean.value_or(std::string());
+    return boolean.has_value();
 }
 
 bool TConditionRecognition::TakeScalar(const TSQLCapture& capture, const TDSOperator& op,
@@ -172,8 +194,9 @@ bool TConditionRecognition::TakeScalar(const TSQLCapture& capture, const TDSOper
 }
 
 bool TConditionRecognition::TakeList(const TSQLCapture& capture, const TDSOperator& op,
-                                     const TDSField& field, std::string& value) const {
-    std::optional<TStrings> items = LiteralItems(capture.raw);
+                                     const TDSField& field, bool booleans,
+                                     std::string& value) const {
+    std::optional<TStrings> items = ListItems(capture.raw, booleans);
     const bool isQuoted = structure.IsQuotedType(field.FieldType());
     if (isQuoted && !items) return false;
     if (!items) {

@@ -32,7 +32,8 @@ struct TRecognisedCondition {
 class TConditionRecognition {
 public:
     /// Complete: a value keeps its meaning or is not recognised at all, and "not" before a
-    /// comparison belongs to an operator only where the template says so.
+    /// comparison belongs to an operator only where the template says so. Boolean columns are also
+    /// compared with bare 1, 0, true and false.
     TConditionRecognition(const TKQuery& owner, bool completeReading);
 
     /// The field whose SQL expression is the condition's left-hand text is looked up.
@@ -52,7 +53,7 @@ private:
     bool TakeValues(TTry& attempt, TDSOperator& op) const;
     bool TakeValue(TTry& attempt, const TDSOperator& op, int n) const;
     bool TakeList(const TSQLCapture& capture, const TDSOperator& op, const TDSField& field,
-                  std::string& value) const;
+                  bool booleans, std::string& value) const;
     bool TakeScalar(const TSQLCapture& capture, const TDSOperator& op, const TDSField& field, int n,
                     std::string& value) const;
     bool TakeDate(TFieldType type, std::string& value) const;

@@ -1,6 +1,7 @@
 // What the query makes of an imported statement: its tables and joins beside those of the text.
 
 #include <algorithm>
+#include <unordered_map>
 #include <unordered_set>
 
 #include <tern7/core/query/query.h>
@@ -13,6 +14,7 @@ namespace {
 
 using TReport = TSQLReportKind;
 
+constexpr std::string_view keepsTable = "a condition keeps this table, which nothing else uses";
 constexpr std::string_view notUsed = "no column and no condition uses it";
 constexpr std::string_view addedTable = "the query needs a further table: ";
 constexpr std::string_view otherJoin = "the structure joins it in another way";
@@ -20,9 +22,8 @@ constexpr std::string_view otherOrder = "the query joins the tables in another o
 
 } // namespace
 
-void TSQLImporter::CheckTables() {
-    if (statement.tables.empty()) return;
-    const TTokenRange from{statement.tables.front().all.from, statement.tables.back().all.to};
+/// Builds the query; gives the reason why it can not be built.
+std::string TSQLImporter::Build() {
     // the application is not asked while a text is read
     const auto handler = std::exchange(query.OnBuildSQL, TEvent<TFilterCond&, std::string&>());
     std::string failure;
@@ -32,10 +33,67 @@ void TSQLImporter::CheckTables() {
         failure = error.what();
     }
     query.OnBuildSQL = handler;
-    if (!failure.empty())
-        Report(TReport::rkDropped, "statement", from, failure);
-    else
-        CheckJoins();
+    return failure;
+}
+
+bool TSQLImporter::IsBuiltInOrder() const {
+    const TRTableList& built = query.QResult().ResultTables();
+    size_t last = 0;
+    for (int i = 0; i < built.GetCount(); ++i) {
+        const size_t place = joins->Names().PlaceOf(*built[i].Table).value_or(last);
+        if (place < last) return false;
+        last = place;
+    }
+    return true;
+}
+
+/// The query that was built lacks tables of the statement, and can have them: true when it has to
+/// be built again.
+bool TSQLImporter::AskForTables() {
+    if (statement.tables.size() < 2) return false;
+    return statement.allFields ? AskForTablesOfAllFields() : AskForJoinedTables();
+}
+
+bool TSQLImporter::AskForTablesOfAllFields() {
+    const TRTableList& built = query.QResult().ResultTables();
+    std::unordered_map<const TDSTable*, size_t> wanted;
+    bool anyUnused = false;
+    for (size_t i = 1; i < statement.tables.size(); ++i)
+        if (const TDSTable* table = joins->Names().TableOf(i)) {
+            anyUnused = anyUnused || !built.Contains(table);
+            wanted.emplace(table, i);
+        }
+    if (!anyUnused && IsBuiltInOrder()) return false;
+    for (const auto& field : structure.Fields()) {
+        const auto found = wanted.find(field->Table());
+        if (found == wanted.end()) continue;
+        listed.push_back({field.get(), found->second, 0, false});
+        wanted.erase(found);
+    }
+    ListAllFields();
+    return true;
+}
+
+/// A table that only an inner join brings in comes with that join as a condition.
+bool TSQLImporter::AskForJoinedTables() {
+    if (statement.nestedJoins) return false; // what stands in brackets need not be joined to all
+    const TRTableList& built = query.QResult().ResultTables();
+    for (size_t i = 0; i < statement.tables.size(); ++i) {
+        const TDSTable* const table = joins->Names().TableOf(i);
+        if (!table || built.Contains(table)) continue;
+        std::string text = joins->InnerJoinText(*table);
+        if (text.empty()) continue;
+        heldJoins.push_back(std::move(text));
+        report.CutTo(toldBeforeRows);
+        Report(TReport::rkKeptAsText, "join", statement.tables[i].all, keepsTable);
+        toldBeforeRows = report.Count();
+    }
+    if (heldJoins.empty()) return false;
+    query.Root().ClearRows();
+    query.Root().SetLinkType(TFilterLinkType::fltAll);
+    paramNames.clear();
+    AddRows();
+    return true;
 }
 
 void TSQLImporter::CheckJoins() {
@@ -45,8 +103,6 @@ void TSQLImporter::CheckJoins() {
         said.insert(join.link);
 
     const TTokenRange from{statement.tables.front().all.from, statement.tables.back().all.to};
-    bool sameOrder = true;
-    size_t last = 0;
     for (int i = 0; i < built.GetCount(); ++i) {
         const TResultTable& entry = built[i];
         const std::optional<size_t> place = joins->Names().PlaceOf(*entry.Table);
@@ -55,8 +111,6 @@ void TSQLImporter::CheckJoins() {
                    std::string(addedTable) + entry.Table->TableAlias());
             continue;
         }
-        sameOrder = sameOrder && *place >= last;
-        last = *place;
         const TTokenRange all = statement.tables[*place].all;
         // outer joins are not written in this syntax
         const bool isWritten = !entry.Link || said.contains(entry.Link) ||
@@ -77,7 +131,7 @@ void TSQLImporter::CheckJoins() {
     const bool orderCounts = hasJoin({TImportJoin::Right, TImportJoin::Full});
     const bool nestedCounts =
         statement.nestedJoins && (orderCounts || hasJoin({TImportJoin::Left}));
-    if ((orderCounts && !sameOrder) || nestedCounts)
+    if (((orderCounts || statement.allFields) && !IsBuiltInOrder()) || nestedCounts)
         Report(TReport::rkDropped, "join", from, otherOrder);
 }
 

@@ -149,6 +149,7 @@ TImportNode* TImportParser::ReadComparison() {
         Error(messages::WrongSQL);
     const size_t end = At();
     Scanner().GotoBookmark(node.right.from);
+    node.isNot = node.op == "is" && Is(wNot) && node.right.to > node.right.from + 1;
     node.isSubQuery = !node.op.empty() && Take(wOpen) && Is(wSelect);
     Scanner().GotoBookmark(end);
     return &node;

@@ -169,7 +169,7 @@ bool TImportJoins::SameKind(const TImportedJoin& join, TSQLSyntax syntax) const 
 
 /// An inner join is as well said by a condition, unless a later join brings rows back.
 bool TImportJoins::CanBeRow(const TImportedJoin& join) const {
-    return !join.keeps1 && !join.keeps2 && !anyRightOrFull &&
+    return IsInner(join) &&
            std::all_of(join.pairs.begin(), join.pairs.end(),
                        [](const TColumnPair* pair) { return pair->node != nullptr; });
 }
@@ -214,6 +214,17 @@ void TImportJoins::DecideRest(size_t table, std::vector<TImportNode*>& rows, TSQ
     if (written.natural || (!written.columns.empty() && !isUsed()))
         report.Add(TSQLReportKind::rkDropped, "join", parser.Written(written.all),
                    OffsetOf(written.all), noLink);
+}
+
+std::string TImportJoins::InnerJoinText(const TDSTable& table) {
+    const auto found = std::find_if(joins.begin(), joins.end(), [&](const TImportedJoin& join) {
+        return (join.link->Table1() == &table || join.link->Table2() == &table) && IsInner(join);
+    });
+    if (found == joins.end()) return {};
+    const TColumnPair& pair = *found->pairs.front();
+    if (pair.node) return names.Rewrite(pair.node->body);
+    return names.ColumnText(*pair.leftTable, pair.left.name) + " = " +
+           names.ColumnText(*pair.rightTable, pair.right.name);
 }
 
 std::optional<bool> TImportJoins::BracketConditions() const {

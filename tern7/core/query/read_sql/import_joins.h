@@ -60,6 +60,9 @@ public:
     /// Decides which comparisons are joins, and says so in the report; the others stay conditions.
     /// Those of ON that must become rows are appended to the list.
     void Decide(TSQLSyntax syntax, std::vector<TImportNode*>& rows, TSQLReport& report);
+    /// A comparison that says the join of a table where it is inner; empty when there is none. With
+    /// it as a condition the query has the table, though nothing else asks for it.
+    std::string InnerJoinText(const TDSTable& table);
     /// Whether conditions stand in brackets, as far as the joins in WHERE show it.
     std::optional<bool> BracketConditions() const;
 
@@ -72,6 +75,9 @@ private:
                   const std::vector<const TColumnPair*>& candidates);
     void TakeKind(TImportedJoin& join) const;
     bool SameKind(const TImportedJoin& join, TSQLSyntax syntax) const;
+    bool IsInner(const TImportedJoin& join) const {
+        return !join.keeps1 && !join.keeps2 && !anyRightOrFull;
+    }
     bool CanBeRow(const TImportedJoin& join) const;
     void DecideJoin(const TImportedJoin& join, TSQLSyntax syntax, TSQLReport& report);
     void DecideRest(size_t table, std::vector<TImportNode*>& rows, TSQLReport& report);

@@ -27,6 +27,10 @@ TImportNames::TImportNames(const TKCustomDBStructure& owner, TImportParser& stat
         const TImportTable& table = written[i];
         if (!table.alias.empty()) {
             qualifiers.try_emplace(LowerCase(table.alias), i);
+            if (table.name.size() > 1) // SQLite takes the schema before the alias too
+                qualifiers.try_emplace(
+                    LowerCase(JoinedName(table.name, table.name.size() - 1) + "." + table.alias),
+                    i);
         } else if (!table.name.empty()) {
             qualifiers.try_emplace(LowerCase(table.name.back()), i);
             qualifiers.try_emplace(LowerCase(JoinedName(table.name, table.name.size())), i);
@@ -179,6 +183,12 @@ std::optional<TNamedColumn> TImportNames::ColumnAt(TTokenRange range) const {
         if (!column.mayMiss) return std::nullopt;
     }
     return tokens.GetBookmark() == range.to ? std::optional(column) : std::nullopt;
+}
+
+std::string TImportNames::ColumnText(const TDSTable& table, const std::string& column) const {
+    const std::string name = table.TableAlias() + "." + column;
+    const TDSField* const field = structure.FieldByName(false, name);
+    return field ? field->GetSQLExpr() : name;
 }
 
 std::string TImportNames::ChainText(const TChain& chain, const TAliases& inner, bool inSubSelect) {

@@ -51,6 +51,8 @@ public:
 
     /// The tokens when they name one column and nothing else.
     std::optional<TNamedColumn> ColumnAt(TTokenRange range) const;
+    /// A column that the structure may have as a field or not, as it stands in a statement.
+    std::string ColumnText(const TDSTable& table, const std::string& column) const;
     /// The text with the columns as the structure writes them; without comments.
     std::string Rewrite(TTokenRange range);
     /// True when a text that was rewritten since the last call held a name that no table of the

@@ -10,6 +10,22 @@ TImportParser::TImportParser(char openQuote, char closeQuote, bool isNested) : n
     if (openQuote != '\0' && openQuote != '\'') Scanner().AddNameQuotes(openQuote, closeQuote);
 }
 
+/// Names in square brackets, as other programs write them; nothing is in them when there is an
+/// array's index among them.
+void TImportParser::TakeBracketNames(std::string_view sql) {
+    bool any = false;
+    char before = ' ';
+    for (const char c : sql) {
+        const bool isIndex = IsLetter(before) || IsDigit(before) || before == '_' ||
+                             before == ')' || before == ']' || before == '"' ||
+                             static_cast<unsigned char>(before) > 127;
+        if (c == '[' && isIndex) return;
+        any = any || c == '[';
+        before = c;
+    }
+    if (any) Scanner().AddNameQuotes('[', ']');
+}
+
 // --- tokens
 
 bool TImportParser::IsText(std::string_view word) const {

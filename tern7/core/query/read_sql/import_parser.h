@@ -15,6 +15,8 @@ public:
     /// In a nested statement, which is written on one line, a blank stands for a line break.
     TImportParser(char openQuote, char closeQuote, bool isNested);
 
+    /// To be called before the text is set.
+    void TakeBracketNames(std::string_view sql);
     TImportStatement& Statement() { return statement; }
     TKScanner& Tokens() { return Scanner(); }
     /// The text of tokens as it is written.

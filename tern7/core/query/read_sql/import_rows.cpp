@@ -49,22 +49,27 @@ std::string_view MirroredOperator(std::string_view op) {
 
 } // namespace
 
+void TSQLImporter::FindRows() {
+    rows = statement.where ? WithoutJoins(*statement.where) : nullptr;
+    if (rowsOfJoins.empty()) return;
+    TImportNode& all = statement.NewNode(TNodeKind::And);
+    all.nodes = rowsOfJoins;
+    if (rows && rows->kind == TNodeKind::And && !rows->negated)
+        all.nodes.insert(all.nodes.end(), rows->nodes.begin(), rows->nodes.end());
+    else if (rows)
+        all.nodes.push_back(rows);
+    rows = &all;
+}
+
 void TSQLImporter::AddRows() {
-    TImportNode* where = statement.where ? WithoutJoins(*statement.where) : nullptr;
-    if (!rowsOfJoins.empty()) {
-        TImportNode& all = statement.NewNode(TNodeKind::And);
-        all.nodes = rowsOfJoins;
-        if (where && where->kind == TNodeKind::And && !where->negated)
-            all.nodes.insert(all.nodes.end(), where->nodes.begin(), where->nodes.end());
-        else if (where)
-            all.nodes.push_back(where);
-        where = &all;
-    }
-    if (!where) return;
-    if (where->IsGroup())
-        FillBracket(query.Root(), *where);
+    for (const std::string& text : heldJoins)
+        AddText(query.Root(), text);
+    if (!rows) return;
+    const bool isAll = rows->kind == TNodeKind::And && !rows->negated;
+    if (rows->IsGroup() && (isAll || heldJoins.empty()))
+        FillBracket(query.Root(), *rows);
     else
-        AddCondition(query.Root(), *where);
+        AddNode(query.Root(), *rows);
 }
 
 void TSQLImporter::FillBracket(TFilterBracket& bracket, const TImportNode& group) {
@@ -84,14 +89,26 @@ void TSQLImporter::AddCondition(TFilterBracket& bracket, const TImportNode& node
     const bool asTemplate = node.notBefore && node.notBrackets > 0 && !node.notInside;
     if (!node.notBefore || asTemplate)
         if (AddRecognised(bracket, node, node.notInside || asTemplate)) return;
-    if (node.notBefore) {
-        // any other "not" stands before a bracket
-        TFilterBracket& none = *bracket.AddBracket();
-        none.SetLinkType(TFilterLinkType::fltNone);
-        if (AddRecognised(none, node, node.notInside)) return;
-        bracket.DeleteRow(&none);
+    // any other "not" stands before a bracket
+    if (node.notBefore && AddToNone(bracket, node, node.notInside)) return;
+    if (node.notInside || node.isNot) {
+        TImportNode positive = node;
+        positive.notInside = positive.isNot = false;
+        if (node.isNot) ++positive.right.from;
+        if (node.notBefore ? AddRecognised(bracket, positive, false)
+                           : AddToNone(bracket, positive, false))
+            return;
     }
-    AddText(bracket, node);
+    AddTextOf(bracket, node);
+}
+
+/// The condition in a bracket of kind "none" of its own.
+bool TSQLImporter::AddToNone(TFilterBracket& bracket, const TImportNode& node, bool negated) {
+    TFilterBracket& none = *bracket.AddBracket();
+    none.SetLinkType(TFilterLinkType::fltNone);
+    if (AddRecognised(none, node, negated)) return true;
+    bracket.DeleteRow(&none);
+    return false;
 }
 
 /// The operand of a comparison; a name in double quotes that no column has is a text.
@@ -103,6 +120,29 @@ std::string TSQLImporter::ValueText(const TImportNode& node) {
         if (column && !joins->Names().FindTable(*column)) return QuotedString(column->name);
     }
     return Rewrite(node.right);
+}
+
+/// date '2024-01-01' says the same as '2024-01-01' where the structure has a form for dates.
+void TSQLImporter::DropTypeWords(TSQLCondition& condition) {
+    const TDSField* const field = structure.FieldBySQLExpr(condition.Field());
+    if (!field || !IsDateOrTime(field->FieldType())) return;
+    const TSQLFormats& formats = structure.SQLFormats();
+    const bool isTime = field->FieldType() == TFieldType::ftTime;
+    if ((isTime ? formats.Time() : formats.Date()).empty()) return;
+    const TSQLOperand cut(condition.Value());
+    std::string text;
+    const char* from = condition.Value().data();
+    for (size_t i = 0; i + 1 < cut.Count(); ++i) {
+        const std::string_view token = cut.Token(i);
+        const bool isTypeWord =
+            SameText(token, isTime ? "time" : "date") || (!isTime && SameText(token, "timestamp"));
+        if (!isTypeWord || cut.Type(i + 1) != TKTokenType::Literal) continue;
+        text.append(from, token.data());
+        from = cut.Token(i + 1).data();
+    }
+    if (text.empty() && from == condition.Value().data()) return;
+    text.append(from, condition.Value().data() + condition.Value().size());
+    condition.SetValue(parser.Result().KeepText(text));
 }
 
 TSQLCondition& TSQLImporter::MakeCondition(const TImportNode& node, bool negated) {
@@ -122,6 +162,11 @@ TSQLCondition& TSQLImporter::MakeCondition(const TImportNode& node, bool negated
         condition.SetValue(value);
         condition.SetOperator(mirrored);
     }
+    const std::string_view value = condition.Value();
+    const bool isMoreThanLiteral =
+        node.left.to + node.right.to > node.left.from + node.right.from + 2;
+    if (isMoreThanLiteral && !node.isSubQuery && value.find('\'') != std::string_view::npos)
+        DropTypeWords(condition);
     return condition;
 }
 
@@ -145,9 +190,10 @@ bool TSQLImporter::AddRecognised(TFilterBracket& bracket, const TImportNode& nod
 void TSQLImporter::NameParam(const TFilterCond& row, int n, const std::string& name,
                              const TImportNode& node) {
     if (!row.Param(n)) return;
-    if (!query.QResult().RenameParameter(*row.Param(n), name))
+    if (paramNames.contains(LowerCase(name)) ||
+        !query.QResult().RenameParameter(*row.Param(n), name))
         Report(TReport::rkDropped, "parameter", node.body, nameInUse);
-    paramNames.push_back(row.Param(n)->Name());
+    paramNames.insert(LowerCase(row.Param(n)->Name()));
 }
 
 bool TSQLImporter::ImportSubQuery(const TRecognisedCondition& found, const TImportNode& node,
@@ -166,6 +212,8 @@ bool TSQLImporter::ImportSubQuery(const TRecognisedCondition& found, const TImpo
     // nested statements are written in the syntax of the whole
     const TSyntaxes common = syntaxes & importer->Syntaxes();
     if (importer->HasUnknownNames() || part.AnyDropped() || common.IsEmpty()) return false;
+    for (const std::string& name : importer->ParamNames())
+        if (paramNames.contains(name)) return false;
     syntaxes = common;
     nested->SaveMainTable = true;
     std::string text = nested->GetQueryString();
@@ -173,35 +221,25 @@ bool TSQLImporter::ImportSubQuery(const TRecognisedCondition& found, const TImpo
     report.Append(std::move(part),
                   source->OffsetOf(parser.Written({node.right.from + 1, node.right.to})));
     row.SetSubQuery(std::move(text), nested->SQLOptions());
-    const TStrings names = importer->ParamNames();
     nested.reset(); // its names are free again
-    // a query that is read again names its parameters itself: the text would name others
-    if (names.empty())
+    // names can come to be taken: a text that holds them would name others
+    if (importer->ParamNames().empty())
         row.SetValue(1, std::string(found.subSelect));
-    else if (!query.Outer()) // once for all levels
-        NameNestedParams(row, names);
-    paramNames.insert(paramNames.end(), names.begin(), names.end());
+    else if (!query.Outer())            // once for all levels
+        row.NestedQuery()->AllParams(); // takes the names
+    paramNames.merge(importer->paramNames);
     return true;
 }
 
-/// The row's own nested query takes the names that the statement gives.
-void TSQLImporter::NameNestedParams(const TFilterCond& row, const TStrings& names) {
-    TKQuery& nested = *row.NestedQuery();
-    const std::vector<TSQLParam*> params = nested.AllParams();
-    const size_t count = std::min(params.size(), names.size());
-    // by way of names that nobody has, since the new ones may be those of others
-    for (size_t i = 0; i < count; ++i)
-        params[i]->Condition()->Query()->QResult().RenameParameter(*params[i],
-                                                                   "\x01" + std::to_string(i));
-    for (size_t i = 0; i < count; ++i)
-        params[i]->Condition()->Query()->QResult().RenameParameter(*params[i], names[i]);
-}
-
-void TSQLImporter::AddText(TFilterBracket& bracket, const TImportNode& node) {
+void TSQLImporter::AddText(TFilterBracket& bracket, std::string text) {
     TFilterCond& row = *bracket.AddCond();
     row.SetField(structure.PlaceholderField());
     row.SetOperator(structure.PlaceholderOperator());
-    row.SetSQLText(Rewrite(node.body));
+    row.SetSQLText(std::move(text));
+}
+
+void TSQLImporter::AddTextOf(TFilterBracket& bracket, const TImportNode& node) {
+    AddText(bracket, Rewrite(node.body));
     hasUnknownNames = joins->Names().TakeUnknown() || hasUnknownNames;
     Report(TReport::rkKeptAsText, "condition", node.body, notRecognised);
 }

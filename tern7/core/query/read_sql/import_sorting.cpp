@@ -96,7 +96,10 @@ std::vector<size_t> TImportSorter::Sort(const std::vector<TItem>& items) {
 
 void TSQLImporter::AddSorting() {
     if (statement.sorting.empty()) return;
-    if (statement.allFields) return SortAllFields();
+    if (statement.allFields) {
+        SortAllFields();
+        return ListAllFields();
+    }
     std::vector<TImportSorter::TItem> items;
     for (const TImportSorting& sorting : statement.sorting) {
         TImportSorter::TItem item;
@@ -129,31 +132,31 @@ size_t TSQLImporter::LastTableOf(const TDSField& field) const {
     return last;
 }
 
-/// The columns of "select *" only say how to sort. Their order is free: a table is joined right
-/// behind the one that it hangs on, so that the last tables have to be asked for first.
 void TSQLImporter::SortAllFields() {
-    struct TSorted {
-        TDSField* field;
-        size_t table;
-        int rank;
-        bool descending;
-    };
-    std::vector<TSorted> sorted;
     for (const TImportSorting& sorting : statement.sorting) {
         TDSField* const field = structure.FieldBySQLExpr(Rewrite(sorting.expression));
         Report(field ? TReport::rkRecognised : TReport::rkDropped, "sorting", sorting.expression,
                field ? std::string_view() : noColumn);
-        const int rank = static_cast<int>(sorted.size()) + 1;
-        if (field) sorted.push_back({field, LastTableOf(*field), rank, sorting.descending});
+        const int rank = static_cast<int>(listed.size()) + 1;
+        if (field) listed.push_back({field, LastTableOf(*field), rank, sorting.descending});
     }
     joins->Names().TakeUnknown();
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [](const TSorted& a, const TSorted& b) { return a.table > b.table; });
+}
+
+/// The columns of "select *" only say how to sort, and which tables there are. Their order is free:
+/// a table is joined right behind the one that it hangs on, so that the last tables have to be
+/// asked for first.
+void TSQLImporter::ListAllFields() {
+    std::stable_sort(
+        listed.begin(), listed.end(),
+        [](const TListedField& a, const TListedField& b) { return a.table > b.table; });
     TRFieldList& fields = query.QResult().ResultFields();
+    fields.Clear();
     fields.SetJustSorting(true);
-    for (const TSorted& each : sorted) {
+    for (const TListedField& each : listed) {
         TResultField& added =
             *fields.AddBySQLExpr({}, TSortingType::stNoSort, each.field->GetSQLExpr());
+        if (each.rank == 0) continue;
         added.SetSortOrder(each.rank);
         added.SetSorting(each.descending ? TSortingType::stDescending : TSortingType::stAscending);
     }
@@ -172,6 +175,9 @@ void TSQLImporter::CheckGrouping() {
             wanted.insert(ComparableText(used->GetSQLExpr()));
     }
     if (!anyAggregate) wanted.clear();
+    std::unordered_set<std::string> columns;
+    for (const auto& field : fields)
+        columns.insert(ComparableText(field->GetSQLExpr()));
     for (const TTokenRange& item : statement.grouping) {
         const int number = NumberOf(parser.Written(item));
         const bool isColumn = number > 0 && number <= fields.GetCount();
@@ -179,6 +185,13 @@ void TSQLImporter::CheckGrouping() {
     }
     joins->Names().TakeUnknown();
     if (statement.grouping.empty() && wanted.empty()) return;
+    if (!anyAggregate && given == columns) {
+        // groups of all that is shown say that no row comes twice
+        TSQLOptions options = query.SQLOptions();
+        options.Include(TSQLOption::soSelectDistinct);
+        query.SetSQLOptions(options);
+        wanted = given;
+    }
     const TTokenRange all =
         statement.grouping.empty()
             ? statement.tables.front().all

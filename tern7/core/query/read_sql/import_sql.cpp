@@ -35,12 +35,13 @@ struct TLeafCount {
     }
 };
 
-/// Brackets that the rows of a condition need.
-int RowLevels(const TImportNode& node) {
-    int levels = 0;
+/// The first condition that needs more brackets around it than rows can stand in; none mostly.
+const TImportNode* FirstTooDeep(const TImportNode& node, int level = 0) {
+    if (node.NeedsBracket()) ++level;
+    if (!node.IsGroup()) return level < MaxRowLevel ? nullptr : &node;
     for (const TImportNode* each : node.nodes)
-        levels = std::max(levels, RowLevels(*each));
-    return levels + (node.IsGroup() || node.notBefore ? 1 : 0);
+        if (const TImportNode* deep = FirstTooDeep(*each, level)) return deep;
+    return nullptr;
 }
 
 } // namespace
@@ -75,12 +76,14 @@ TSQLImporter::TSQLImporter(TKQuery& owner, TSubSelectBudget& subSelectBudget, bo
       statement(parser.Statement()) {}
 
 void TSQLImporter::Parse(std::string_view sql) {
+    parser.TakeBracketNames(sql);
     parser.SetText(std::string(sql));
     parser.Parse();
     source = parser.Result().Source();
     const auto refuseDeep = [this](const TImportNode* condition) {
-        if (!condition || RowLevels(*condition) < MaxRowLevel) return;
-        parser.Tokens().GotoBookmark(condition->all.from);
+        const TImportNode* const deep = condition ? FirstTooDeep(*condition) : nullptr;
+        if (!deep) return;
+        parser.Tokens().GotoBookmark(deep->body.from);
         RaiseSQLError(messages::WrongSQL, parser.Tokens().GetTokLine());
     };
     refuseDeep(statement.where);
@@ -97,15 +100,23 @@ TSQLReport TSQLImporter::Fill() {
     AddTables();
     AddColumns();
     AddSorting();
+    FindRows();
+    toldBeforeRows = report.Count();
     AddRows();
     query.SetSQLSyntax(syntaxes.Choose(query.SQLSyntax()));
+    std::string failure = statement.tables.empty() ? std::string() : Build();
+    if (failure.empty() && AskForTables()) failure = Build();
     for (const TImportLoss& loss : statement.losses)
         Report(TReport::rkDropped, loss.what, loss.all, notSaid);
     const TSQLRest& rest = parser.Result().Rest;
     if (!rest.text.empty())
         report.Add(TReport::rkDropped, "rest", rest.text, source->OffsetOf(rest.text), notSaid);
     CheckGrouping();
-    CheckTables();
+    if (failure.empty())
+        CheckJoins();
+    else
+        Report(TReport::rkDropped, "statement",
+               {statement.tables.front().all.from, statement.tables.back().all.to}, failure);
     report.Place(*source);
     return std::move(report);
 }

@@ -25,8 +25,8 @@ public:
     TSQLReport Fill();
     /// True when the statement names tables that it does not have: those of one around it.
     bool HasUnknownNames() const { return hasUnknownNames; }
-    /// Names of the parameters in the order of the rows, those of sub-selects included.
-    const TStrings& ParamNames() const { return paramNames; }
+    /// Names of the parameters in lower case, those of sub-selects included.
+    const TParamNames& ParamNames() const { return paramNames; }
     /// The syntaxes in which the query gives the statement.
     TSyntaxes Syntaxes() const { return syntaxes; }
 
@@ -38,25 +38,33 @@ private:
     void AddColumns();
     void AddColumn(const TImportColumn& column);
     // rows
+    void FindRows();
     void AddRows();
     void FillBracket(TFilterBracket& bracket, const TImportNode& group);
     void AddNode(TFilterBracket& bracket, const TImportNode& node);
     void AddCondition(TFilterBracket& bracket, const TImportNode& node);
     bool AddRecognised(TFilterBracket& bracket, const TImportNode& node, bool negated);
+    bool AddToNone(TFilterBracket& bracket, const TImportNode& node, bool negated);
     bool ImportSubQuery(const TRecognisedCondition& found, const TImportNode& node,
                         TFilterCond& row);
-    void AddText(TFilterBracket& bracket, const TImportNode& node);
+    void AddText(TFilterBracket& bracket, std::string text);
+    void AddTextOf(TFilterBracket& bracket, const TImportNode& node);
     void NameParam(const TFilterCond& row, int n, const std::string& name, const TImportNode& node);
-    void NameNestedParams(const TFilterCond& row, const TStrings& names);
     TSQLCondition& MakeCondition(const TImportNode& node, bool negated);
+    void DropTypeWords(TSQLCondition& condition);
     std::string ValueText(const TImportNode& node);
     // sorting and grouping
     void AddSorting();
     void SortAllFields();
+    void ListAllFields();
     size_t LastTableOf(const TDSField& field) const;
     void CheckGrouping();
     // what the query makes of it
-    void CheckTables();
+    std::string Build();
+    bool AskForTables();
+    bool AskForTablesOfAllFields();
+    bool AskForJoinedTables();
+    bool IsBuiltInOrder() const;
     void CheckJoins();
 
     void Report(TSQLReportKind kind, std::string_view what, TTokenRange range,
@@ -69,11 +77,21 @@ private:
     TConditionRecognition recognition;
     TImportParser parser;
     TImportStatement& statement;
+    struct TListedField {
+        TDSField* field;
+        size_t table; // its place in FROM
+        int rank;     // 0 when it is not sorted
+        bool descending;
+    };
     std::unique_ptr<TImportJoins> joins;
     std::vector<TImportNode*> rowsOfJoins;
+    std::vector<std::string> heldJoins; // conditions for the sake of a table alone
+    TImportNode* rows = nullptr;        // of WHERE, without the joins
+    size_t toldBeforeRows = 0;
+    std::vector<TListedField> listed; // of "select *"
     std::shared_ptr<const TKSourceText> source;
     TSQLReport report;
-    TStrings paramNames;
+    TParamNames paramNames;
     TSyntaxes syntaxes = TSyntaxes::All();
     bool hasUnknownNames = false;
 };

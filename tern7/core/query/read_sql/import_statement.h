@@ -30,6 +30,7 @@ struct TImportNode {
     TTokenRange left, right; ///< right is empty when there is no comparison in it
     std::string op;          ///< in lower case
     bool notInside = false;  ///< a not like b
+    bool isNot = false;      ///< a is not null: the right-hand text begins with "not"
     bool notBefore = false;  ///< not a = b, not (a = b)
     int notBrackets = 0;     ///< brackets between that "not" and the comparison
     int brackets = 0;        ///< brackets on its line around all of it
@@ -37,6 +38,8 @@ struct TImportNode {
     bool isJoin = false; ///< joins tables and is no row
 
     bool IsGroup() const { return kind != TKind::Condition; }
+    /// It can become a bracket of rows, by itself or for its negation.
+    bool NeedsBracket() const { return IsGroup() || notBefore || notInside || isNot; }
 };
 
 enum class TImportJoin : uint8_t { Comma, Inner, Left, Right, Full };

@@ -1,7 +1,5 @@
 #include <tern7/core/query/read_sql/parse_sql.h>
 
-#include <algorithm>
-
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_state.h>
@@ -26,12 +24,16 @@ bool ValuesHoldPlaceholder(const TRecognisedCondition& found) {
            (!found.params[1].empty() && holds(1, "@p2"));
 }
 
-int BracketLevels(const TSQLBracket& bracket) {
-    int levels = 0;
-    for (const TSQLConditionNode* node : bracket.Nodes())
-        if (const TSQLBracket* inner = node->AsBracket())
-            levels = std::max(levels, 1 + BracketLevels(*inner));
-    return levels;
+/// The first condition that more brackets enclose than rows can stand in; none mostly.
+const TSQLCondition* FirstTooDeep(const TSQLBracket& bracket, int level = 0) {
+    for (const TSQLConditionNode* node : bracket.Nodes()) {
+        if (const TSQLCondition* condition = node->AsCondition()) {
+            if (level > MaxRowLevel) return condition;
+        } else if (const TSQLCondition* deep = FirstTooDeep(*node->AsBracket(), level + 1)) {
+            return deep;
+        }
+    }
+    return nullptr;
 }
 
 TFilterLinkType LinkTypeOf(const TSQLBracket& bracket) {
@@ -77,7 +79,8 @@ TSQLReport TSQLReader::Read(std::string_view sql) {
     parser.SetText(std::string(sql));
     parser.Parse();
     source = parser.Result().Source();
-    if (BracketLevels(parser.Result().Where()) > MaxRowLevel) RaiseSQLError(messages::WrongSQL, 1);
+    if (const TSQLCondition* deep = FirstTooDeep(parser.Result().Where()))
+        RaiseSQLError(messages::WrongSQL, parser.Result().PositionOf(deep->Source()).line);
     AddResultFields();
     ProcessSQLBracket(query.Root(), parser.Result().Where());
     const TSQLRest& rest = parser.Result().Rest;

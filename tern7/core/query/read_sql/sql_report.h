@@ -36,6 +36,9 @@ public:
     bool Has(TSQLReportKind kind) const;
 
     void Clear() { entries.clear(); }
+    size_t Count() const { return entries.size(); }
+    /// Takes back all but the first entries.
+    void CutTo(size_t count) { entries.resize(count); }
     void Add(TSQLReportKind kind, std::string_view what, std::string_view text, size_t offset,
              std::string_view reason = {});
     /// Takes the entries over a part of the statement that begins at the offset.
