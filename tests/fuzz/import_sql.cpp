@@ -25,6 +25,7 @@ public:
         AddLink("O", "C2")->AddPair("id", "id");
         AddData(customer, "city", TFieldType::ftString);
         AddData(order, "amount", TFieldType::ftFloat);
+        AddData(order, "paid", TFieldType::ftBoolean);
         AddData(order, "placed on", TFieldType::ftDate)->SetQuoted(true);
         AddData(TableByName(true, "C2"), "id", TFieldType::ftInteger);
         TDSOperator* inQuery = AddOperator("InQuery");
@@ -88,6 +89,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (complete.SQLReport().Has(TSQLReportKind::rkDropped)) return 0;
     const std::optional<std::string> statement = Statement(complete);
     if (!statement || complete.SQLReport().Has(TSQLReportKind::rkKeptAsText)) return 0;
+    TKQuery saved(&structure);
+    saved.SetSQLSyntax(complete.SQLSyntax());
+    saved.SetSQLOptions(complete.SQLOptions());
+    saved.SaveMainTable = true;
+    complete.SaveMainTable = true;
+    saved.SetQueryString(complete.GetQueryString());
+    Require(Statement(saved) == statement);
     TKQuery again(&structure);
     again.ImportSQL(*statement);
     Require(Statement(again) == statement);

@@ -101,8 +101,9 @@ bool TImportParser::EndsOperand(size_t start) {
     // a name behind a point, and a function, are none of these words
     Scanner().GotoBookmark(At() - 1);
     const bool isColumn = Is(wPoint);
+    const bool isBehindDistinct = Is(wDistinct); // "is distinct from"
     Step();
-    if (isColumn) return Scanner().EOS();
+    if (isColumn || (isBehindDistinct && Is(wFrom))) return Scanner().EOS();
     if (AtClauseEnd()) return true;
     if (!inOn || !AtJoin()) return false;
     Step();

@@ -170,6 +170,10 @@ TImportNames::TChain TImportNames::ReadChain() {
 std::optional<TNamedColumn> TImportNames::ColumnAt(TTokenRange range) const {
     auto& self = const_cast<TImportNames&>(*this);
     tokens.GotoBookmark(range.from);
+    while (range.from + 2 < range.to && Is("(") && parser.CloseOf(range.from) == range.to - 1) {
+        tokens.GotoBookmark(++range.from);
+        --range.to;
+    }
     if (range.IsEmpty() || !IsName()) return std::nullopt;
     const TChain chain = self.ReadChain();
     if (chain.names.back().empty()) return std::nullopt;

@@ -49,7 +49,7 @@ public:
     /// The table of the statement that a column belongs to.
     std::optional<size_t> FindTable(const TNamedColumn& column);
 
-    /// The tokens when they name one column and nothing else.
+    /// The tokens when they name one column and nothing else, brackets around it aside.
     std::optional<TNamedColumn> ColumnAt(TTokenRange range) const;
     /// A column that the structure may have as a field or not, as it stands in a statement.
     std::string ColumnText(const TDSTable& table, const std::string& column) const;

@@ -162,6 +162,20 @@ void TSQLImporter::ListAllFields() {
     }
 }
 
+/// What a group is made by: an expression, or a column by its number or by its alias, which counts
+/// when no table has a column of that name.
+std::string TSQLImporter::GroupText(TTokenRange item, const TColumnsByAlias& byAlias) {
+    const TRFieldList& fields = query.QResult().ResultFields();
+    const int number = NumberOf(parser.Written(item));
+    if (number > 0 && number <= fields.GetCount()) return fields[number - 1]->GetSQLExpr();
+    const auto name = joins->Names().ColumnAt(item);
+    if (name && name->qualifier.empty() && !joins->Names().FindTable(*name)) {
+        const auto found = byAlias.find(LowerCase(name->name));
+        if (found != byAlias.end()) return found->second->GetSQLExpr();
+    }
+    return Rewrite(item);
+}
+
 void TSQLImporter::CheckGrouping() {
     const TRFieldList& fields = query.QResult().ResultFields();
     std::unordered_set<std::string> wanted, given;
@@ -176,16 +190,16 @@ void TSQLImporter::CheckGrouping() {
     }
     if (!anyAggregate) wanted.clear();
     std::unordered_set<std::string> columns;
-    for (const auto& field : fields)
+    TColumnsByAlias byAlias;
+    for (const auto& field : fields) {
         columns.insert(ComparableText(field->GetSQLExpr()));
-    for (const TTokenRange& item : statement.grouping) {
-        const int number = NumberOf(parser.Written(item));
-        const bool isColumn = number > 0 && number <= fields.GetCount();
-        given.insert(ComparableText(isColumn ? fields[number - 1]->GetSQLExpr() : Rewrite(item)));
+        byAlias.try_emplace(LowerCase(field->Alias()), field.get());
     }
+    for (const TTokenRange& item : statement.grouping)
+        given.insert(ComparableText(GroupText(item, byAlias)));
     joins->Names().TakeUnknown();
     if (statement.grouping.empty() && wanted.empty()) return;
-    if (!anyAggregate && given == columns) {
+    if (!anyAggregate && !statement.allFields && given == columns) {
         // groups of all that is shown say that no row comes twice
         TSQLOptions options = query.SQLOptions();
         options.Include(TSQLOption::soSelectDistinct);

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include <tern7/core/query/filter_row.h>
@@ -58,6 +59,8 @@ private:
     void SortAllFields();
     void ListAllFields();
     size_t LastTableOf(const TDSField& field) const;
+    using TColumnsByAlias = std::unordered_map<std::string, const TResultField*>;
+    std::string GroupText(TTokenRange item, const TColumnsByAlias& byAlias);
     void CheckGrouping();
     // what the query makes of it
     std::string Build();
