@@ -196,38 +196,48 @@ void TSQLImporter::NameParam(const TFilterCond& row, int n, const std::string& n
     paramNames.insert(LowerCase(row.Param(n)->Name()));
 }
 
-bool TSQLImporter::ImportSubQuery(const TRecognisedCondition& found, const TImportNode& node,
-                                  TFilterCond& row) {
-    if (!budget.TakeStatement(found.subSelect.size())) return false;
-    std::unique_ptr<TKQuery> nested = query.NewNested();
+/// The sub-select of a condition as a query text. It is read once, however often its row is made.
+const TImportedSubSelect& TSQLImporter::ReadSubSelect(std::string_view sql,
+                                                      const TImportNode& node) {
+    const auto [place, isNew] = subSelects.try_emplace(node.right.from);
+    TImportedSubSelect& read = place->second;
+    if (!isNew || !budget.TakeStatement(sql.size())) return read;
+    const std::unique_ptr<TKQuery> nested = query.NewNested();
     const auto importer = std::make_unique<TSQLImporter>(*nested, budget, true);
-    TSQLReport part;
     try {
         const TBuilderStateScope loading(*nested, TKBuilderState::stLoading);
-        importer->Parse(found.subSelect);
-        part = importer->Fill();
+        importer->Parse(sql);
+        read.report = importer->Fill();
     } catch (const ESQLParserError&) {
-        return false;
+        return read;
     }
     // nested statements are written in the syntax of the whole
     const TSyntaxes common = syntaxes & importer->Syntaxes();
-    if (importer->HasUnknownNames() || part.AnyDropped() || common.IsEmpty()) return false;
-    for (const std::string& name : importer->ParamNames())
-        if (paramNames.contains(name)) return false;
+    if (importer->HasUnknownNames() || read.report.AnyDropped() || common.IsEmpty()) return read;
     syntaxes = common;
     nested->SaveMainTable = true;
-    std::string text = nested->GetQueryString();
-    if (!budget.TakeQueryText(text.size())) return false;
-    report.Append(std::move(part),
+    read.text = nested->GetQueryString();
+    read.options = nested->SQLOptions();
+    read.paramNames = importer->paramNames;
+    read.isWhole = budget.TakeQueryText(read.text.size());
+    return read;
+}
+
+bool TSQLImporter::ImportSubQuery(const TRecognisedCondition& found, const TImportNode& node,
+                                  TFilterCond& row) {
+    const TImportedSubSelect& read = ReadSubSelect(found.subSelect, node);
+    const auto isTaken = [this](const std::string& name) { return paramNames.contains(name); };
+    if (!read.isWhole || std::any_of(read.paramNames.begin(), read.paramNames.end(), isTaken))
+        return false;
+    report.Append(read.report,
                   source->OffsetOf(parser.Written({node.right.from + 1, node.right.to})));
-    row.SetSubQuery(std::move(text), nested->SQLOptions());
-    nested.reset(); // its names are free again
+    row.SetSubQuery(read.text, read.options);
     // names can come to be taken: a text that holds them would name others
-    if (importer->ParamNames().empty())
+    if (read.paramNames.empty())
         row.SetValue(1, std::string(found.subSelect));
     else if (!query.Outer())            // once for all levels
         row.NestedQuery()->AllParams(); // takes the names
-    paramNames.merge(importer->paramNames);
+    paramNames.insert(read.paramNames.begin(), read.paramNames.end());
     return true;
 }
 

@@ -14,6 +14,15 @@
 
 namespace tern7 {
 
+/// A sub-select as a query text, when it could be read whole.
+struct TImportedSubSelect {
+    bool isWhole = false;
+    std::string text;
+    TSQLOptions options;
+    TParamNames paramNames; // in lower case
+    TSQLReport report;
+};
+
 /// Makes a query of a whole statement, so that the statement built from it gives the same rows, and
 /// reports what is recognised, kept as text or dropped.
 class TSQLImporter {
@@ -26,8 +35,6 @@ public:
     TSQLReport Fill();
     /// True when the statement names tables that it does not have: those of one around it.
     bool HasUnknownNames() const { return hasUnknownNames; }
-    /// Names of the parameters in lower case, those of sub-selects included.
-    const TParamNames& ParamNames() const { return paramNames; }
     /// The syntaxes in which the query gives the statement.
     TSyntaxes Syntaxes() const { return syntaxes; }
 
@@ -46,6 +53,7 @@ private:
     void AddCondition(TFilterBracket& bracket, const TImportNode& node);
     bool AddRecognised(TFilterBracket& bracket, const TImportNode& node, bool negated);
     bool AddToNone(TFilterBracket& bracket, const TImportNode& node, bool negated);
+    const TImportedSubSelect& ReadSubSelect(std::string_view sql, const TImportNode& node);
     bool ImportSubQuery(const TRecognisedCondition& found, const TImportNode& node,
                         TFilterCond& row);
     void AddText(TFilterBracket& bracket, std::string text);
@@ -94,7 +102,8 @@ private:
     std::vector<TListedField> listed; // of "select *"
     std::shared_ptr<const TKSourceText> source;
     TSQLReport report;
-    TParamNames paramNames;
+    TParamNames paramNames; // in lower case, those of sub-selects included
+    std::unordered_map<size_t, TImportedSubSelect> subSelects; // by bookmark of their "("
     TSyntaxes syntaxes = TSyntaxes::All();
     bool hasUnknownNames = false;
 };
