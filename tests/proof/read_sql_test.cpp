@@ -70,7 +70,7 @@ int CheckSeeds(TReading read, bool (*canNot)(const TKQuery&)) {
     return checked;
 }
 
-/// "select *" names no column: tables that only its columns ask for can not come back.
+/// "select *" names no column: ParseSQL does not see tables that only its columns ask for.
 bool IsOnlySorted(const TKQuery& query) {
     return query.QResult().ResultFields().JustSorting();
 }
@@ -78,9 +78,9 @@ bool IsOnlySorted(const TKQuery& query) {
 } // namespace
 
 TEST(ReadSQL, ImportedStatementsGiveTheSameRows) {
-    EXPECT_GT(CheckSeeds([](TKQuery& query, const std::string& sql) { query.ImportSQL(sql); },
-                         IsOnlySorted),
-              270);
+    EXPECT_EQ(CheckSeeds([](TKQuery& query, const std::string& sql) { query.ImportSQL(sql); },
+                         [](const TKQuery&) { return false; }),
+              300);
 }
 
 /// Joins and grouping are not read: the structure gives them again, where it gave them before. A

@@ -11,6 +11,7 @@
 #include <tern7/core/query/read_sql/import_joins.h>
 #include <tern7/core/query/read_sql/parse_sql.h>
 #include <tern7/core/query/result_field.h>
+#include <tern7/core/query/sql_param.h>
 
 namespace tern7 {
 
