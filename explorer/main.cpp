@@ -14,7 +14,7 @@
 #include <tern7/ui/support/text.h>
 
 #include "data/language.h"
-#include "run/query_runner.h"
+#include "run/abandoned.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -117,6 +117,6 @@ int main(int argc, char** argv) {
                                           : QApplication::exec();
     }
     // Statements that were given up still wait for their servers, and nobody waits for them.
-    if (TQueryRunner::AnyAbandoned()) std::_Exit(result);
+    if (TAbandoned::Any()) std::_Exit(result);
     return result;
 }

@@ -1,33 +1,33 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include <tern7/core/structure/structure.h>
-#include <tern7/sql/bde_info.h>
-#include <tern7/sql/connection.h>
-#include <tern7/sql/database_url.h>
+
+#include "operator_captions.h"
+#include "session_info.h"
 
 namespace tern7 {
 
-/// An open database and the structure that queries over it are made of.
+/// A database that was opened and the structure that queries over it are made of.
 class TDatabaseSession {
 public:
-    /// Opens the database and imports its structure, or loads it from a file when one is given.
-    /// EKDBInfoError, EKDBStructError.
-    TDatabaseSession(const TKDatabaseURL& address, const std::string& structureFile);
+    TDatabaseSession(const TKDatabaseURL& address,
+                     std::unique_ptr<TKCustomDBStructure> itsStructure);
     ~TDatabaseSession();
     TDatabaseSession(const TDatabaseSession&) = delete;
     TDatabaseSession& operator=(const TDatabaseSession&) = delete;
 
     const TKDatabaseURL& Url() const { return url; }
-    TKCustomDBStructure& Structure() { return structure; }
+    TKCustomDBStructure& Structure() { return *structure; }
+    /// The operators in the program's present language.
+    void TranslateOperators() { operatorCaptions.Translate(*structure); }
 
 private:
     TKDatabaseURL url;
-    TKConnection connection;
-    TKBDEInfo info;
-    TKCustomDBStructure structure;
+    TSessionInfo info;
+    std::unique_ptr<TKCustomDBStructure> structure;
+    TOperatorCaptions operatorCaptions;
 };
 
 } // namespace tern7

@@ -12,6 +12,7 @@
 #include <tern7/sql/connection.h>
 #include <tern7/ui/support/text.h>
 
+#include "abandoned.h"
 #include "interrupt.h"
 
 namespace tern7 {
@@ -22,8 +23,6 @@ constexpr size_t rowsAtOnce = 500;
 constexpr int showAfter = 100;     // milliseconds after which rows are shown, however few
 constexpr int interruptEvery = 20; // an interrupt before the statement has begun is lost
 constexpr int interruptTries = 7;  // then the statement is abandoned
-
-std::atomic<int> abandonedCount = 0;
 
 } // namespace
 
@@ -64,8 +63,7 @@ public:
         runner = nullptr;
         stopped = true;
         if (busy) {
-            ++abandonedCount;
-            isAbandoned = true;
+            abandoned.emplace();
             if (interrupt) interrupt();
         }
         wake.notify_one();
@@ -101,7 +99,7 @@ private:
             interrupt = nullptr;
         }
         connection.reset();
-        if (isAbandoned) --abandonedCount;
+        abandoned.reset();
     }
 
     std::unique_ptr<TKConnection> Connect() {
@@ -193,7 +191,7 @@ private:
     std::function<void()> interrupt;
     bool connected = false;
     bool stopped = false;
-    std::atomic<bool> isAbandoned = false;
+    std::optional<TAbandoned> abandoned;
     std::atomic<bool> cancelled = false;
 };
 
@@ -206,10 +204,6 @@ TQueryRunner::TQueryRunner(QObject* parent) : QObject(parent) {
 
 TQueryRunner::~TQueryRunner() {
     if (worker) worker->Leave(running);
-}
-
-bool TQueryRunner::AnyAbandoned() {
-    return abandonedCount > 0;
 }
 
 void TQueryRunner::SetDatabase(const TKDatabaseURL& newUrl) {

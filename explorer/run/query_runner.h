@@ -47,9 +47,6 @@ public:
     void Cancel();
     bool IsRunning() const { return running; }
 
-    /// Whether abandoned statements still wait for their servers.
-    static bool AnyAbandoned();
-
 signals:
     void started();
     void columnsRead(const std::vector<TKResultColumn>& columns);

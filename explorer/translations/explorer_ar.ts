@@ -37,6 +37,65 @@
     </message>
 </context>
 <context>
+    <name>operators</name>
+    <message>
+        <source>is equal to</source>
+        <translation>يساوي</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>لا يساوي</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>أصغر من</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>أصغر من أو يساوي</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>أكبر من</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>أكبر من أو يساوي</translation>
+    </message>
+    <message>
+        <source>is null</source>
+        <translation>فارغ</translation>
+    </message>
+    <message>
+        <source>is in list</source>
+        <translation>ضمن القائمة</translation>
+    </message>
+    <message>
+        <source>starts with</source>
+        <translation>يبدأ بـ</translation>
+    </message>
+    <message>
+        <source>does not start with</source>
+        <translation>لا يبدأ بـ</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>يحتوي على</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>لا يحتوي على</translation>
+    </message>
+    <message>
+        <source>is between</source>
+        <translation>بين</translation>
+    </message>
+    <message>
+        <source>and</source>
+        <translation>و</translation>
+    </message>
+</context>
+<context>
     <name>tern7::TConnectionDialog</name>
     <message>
         <source>Open database</source>
@@ -421,6 +480,14 @@
     <message>
         <source>&amp;Normal size</source>
         <translation>الحجم ال&amp;عادي</translation>
+    </message>
+    <message>
+        <source>Waiting for the database...</source>
+        <translation>في انتظار قاعدة البيانات...</translation>
+    </message>
+    <message>
+        <source>Reading table %1 of %2...</source>
+        <translation>قراءة الجدول %1 من %2...</translation>
     </message>
 </context>
 <context>

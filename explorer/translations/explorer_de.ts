@@ -37,6 +37,65 @@
     </message>
 </context>
 <context>
+    <name>operators</name>
+    <message>
+        <source>is equal to</source>
+        <translation>ist gleich</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>ist nicht gleich</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>ist kleiner als</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>ist kleiner oder gleich</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>ist größer als</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>ist größer oder gleich</translation>
+    </message>
+    <message>
+        <source>is null</source>
+        <translation>ist leer</translation>
+    </message>
+    <message>
+        <source>is in list</source>
+        <translation>ist in der Liste</translation>
+    </message>
+    <message>
+        <source>starts with</source>
+        <translation>beginnt mit</translation>
+    </message>
+    <message>
+        <source>does not start with</source>
+        <translation>beginnt nicht mit</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>enthält</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>enthält nicht</translation>
+    </message>
+    <message>
+        <source>is between</source>
+        <translation>liegt zwischen</translation>
+    </message>
+    <message>
+        <source>and</source>
+        <translation>und</translation>
+    </message>
+</context>
+<context>
     <name>tern7::TConnectionDialog</name>
     <message>
         <source>Open database</source>
@@ -413,6 +472,14 @@
     <message>
         <source>&amp;Normal size</source>
         <translation>&amp;Normale Größe</translation>
+    </message>
+    <message>
+        <source>Waiting for the database...</source>
+        <translation>Warten auf die Datenbank ...</translation>
+    </message>
+    <message>
+        <source>Reading table %1 of %2...</source>
+        <translation>Tabelle %1 von %2 wird gelesen ...</translation>
     </message>
 </context>
 <context>

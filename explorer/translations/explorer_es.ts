@@ -37,6 +37,65 @@
     </message>
 </context>
 <context>
+    <name>operators</name>
+    <message>
+        <source>is equal to</source>
+        <translation>es igual a</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>no es igual a</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>es menor que</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>es menor o igual que</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>es mayor que</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>es mayor o igual que</translation>
+    </message>
+    <message>
+        <source>is null</source>
+        <translation>está vacío</translation>
+    </message>
+    <message>
+        <source>is in list</source>
+        <translation>está en la lista</translation>
+    </message>
+    <message>
+        <source>starts with</source>
+        <translation>empieza por</translation>
+    </message>
+    <message>
+        <source>does not start with</source>
+        <translation>no empieza por</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contiene</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>no contiene</translation>
+    </message>
+    <message>
+        <source>is between</source>
+        <translation>está entre</translation>
+    </message>
+    <message>
+        <source>and</source>
+        <translation>y</translation>
+    </message>
+</context>
+<context>
     <name>tern7::TConnectionDialog</name>
     <message>
         <source>Open database</source>
@@ -413,6 +472,14 @@
     <message>
         <source>&amp;Normal size</source>
         <translation>Tamaño &amp;normal</translation>
+    </message>
+    <message>
+        <source>Waiting for the database...</source>
+        <translation>Esperando a la base de datos...</translation>
+    </message>
+    <message>
+        <source>Reading table %1 of %2...</source>
+        <translation>Leyendo la tabla %1 de %2...</translation>
     </message>
 </context>
 <context>

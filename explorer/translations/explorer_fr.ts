@@ -37,6 +37,65 @@
     </message>
 </context>
 <context>
+    <name>operators</name>
+    <message>
+        <source>is equal to</source>
+        <translation>est égal à</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>n’est pas égal à</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>est inférieur à</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>est inférieur ou égal à</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>est supérieur à</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>est supérieur ou égal à</translation>
+    </message>
+    <message>
+        <source>is null</source>
+        <translation>est vide</translation>
+    </message>
+    <message>
+        <source>is in list</source>
+        <translation>est dans la liste</translation>
+    </message>
+    <message>
+        <source>starts with</source>
+        <translation>commence par</translation>
+    </message>
+    <message>
+        <source>does not start with</source>
+        <translation>ne commence pas par</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>contient</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>ne contient pas</translation>
+    </message>
+    <message>
+        <source>is between</source>
+        <translation>est entre</translation>
+    </message>
+    <message>
+        <source>and</source>
+        <translation>et</translation>
+    </message>
+</context>
+<context>
     <name>tern7::TConnectionDialog</name>
     <message>
         <source>Open database</source>
@@ -413,6 +472,14 @@
     <message>
         <source>&amp;Normal size</source>
         <translation>Taille &amp;normale</translation>
+    </message>
+    <message>
+        <source>Waiting for the database...</source>
+        <translation>En attente de la base de données...</translation>
+    </message>
+    <message>
+        <source>Reading table %1 of %2...</source>
+        <translation>Lecture de la table %1 sur %2...</translation>
     </message>
 </context>
 <context>

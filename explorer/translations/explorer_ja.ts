@@ -37,6 +37,65 @@
     </message>
 </context>
 <context>
+    <name>operators</name>
+    <message>
+        <source>is equal to</source>
+        <translation>が次と等しい</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>が次と等しくない</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>が次より小さい</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>が次以下</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>が次より大きい</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>が次以上</translation>
+    </message>
+    <message>
+        <source>is null</source>
+        <translation>が空</translation>
+    </message>
+    <message>
+        <source>is in list</source>
+        <translation>が次のどれか</translation>
+    </message>
+    <message>
+        <source>starts with</source>
+        <translation>が次で始まる</translation>
+    </message>
+    <message>
+        <source>does not start with</source>
+        <translation>が次で始まらない</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>が次を含む</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>が次を含まない</translation>
+    </message>
+    <message>
+        <source>is between</source>
+        <translation>が次の間</translation>
+    </message>
+    <message>
+        <source>and</source>
+        <translation>と</translation>
+    </message>
+</context>
+<context>
     <name>tern7::TConnectionDialog</name>
     <message>
         <source>Open database</source>
@@ -411,6 +470,14 @@
     <message>
         <source>&amp;Normal size</source>
         <translation>標準の大きさ(&amp;N)</translation>
+    </message>
+    <message>
+        <source>Waiting for the database...</source>
+        <translation>データベースを待っています...</translation>
+    </message>
+    <message>
+        <source>Reading table %1 of %2...</source>
+        <translation>テーブル %1 / %2 を読み込み中...</translation>
     </message>
 </context>
 <context>

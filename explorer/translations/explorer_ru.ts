@@ -37,6 +37,65 @@
     </message>
 </context>
 <context>
+    <name>operators</name>
+    <message>
+        <source>is equal to</source>
+        <translation>равно</translation>
+    </message>
+    <message>
+        <source>is not equal to</source>
+        <translation>не равно</translation>
+    </message>
+    <message>
+        <source>is less than</source>
+        <translation>меньше</translation>
+    </message>
+    <message>
+        <source>is less than or equal to</source>
+        <translation>меньше или равно</translation>
+    </message>
+    <message>
+        <source>is greater than</source>
+        <translation>больше</translation>
+    </message>
+    <message>
+        <source>is greater than or equal to</source>
+        <translation>больше или равно</translation>
+    </message>
+    <message>
+        <source>is null</source>
+        <translation>пусто</translation>
+    </message>
+    <message>
+        <source>is in list</source>
+        <translation>входит в список</translation>
+    </message>
+    <message>
+        <source>starts with</source>
+        <translation>начинается с</translation>
+    </message>
+    <message>
+        <source>does not start with</source>
+        <translation>не начинается с</translation>
+    </message>
+    <message>
+        <source>contains</source>
+        <translation>содержит</translation>
+    </message>
+    <message>
+        <source>does not contain</source>
+        <translation>не содержит</translation>
+    </message>
+    <message>
+        <source>is between</source>
+        <translation>между</translation>
+    </message>
+    <message>
+        <source>and</source>
+        <translation>и</translation>
+    </message>
+</context>
+<context>
     <name>tern7::TConnectionDialog</name>
     <message>
         <source>Open database</source>
@@ -415,6 +474,14 @@
     <message>
         <source>&amp;Normal size</source>
         <translation>&amp;Обычный размер</translation>
+    </message>
+    <message>
+        <source>Waiting for the database...</source>
+        <translation>Ожидание базы данных...</translation>
+    </message>
+    <message>
+        <source>Reading table %1 of %2...</source>
+        <translation>Чтение таблицы %1 из %2...</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 
 #include "../data/database_session.h"
 #include "../data/recent_list.h"
+#include "../run/database_opener.h"
 #include "../run/query_runner.h"
 
 class QAction;
@@ -109,6 +110,7 @@ private:
     void ShowSteps();
 
     // main_window_files.cpp
+    bool WaitForDatabase(TDatabaseOpener& running);
     void AskForDatabase(const TKDatabaseURL* preset = nullptr, const QString& error = {});
     void OpenRecentDatabase(const QString& address);
     void FillRecentMenus();
@@ -158,6 +160,7 @@ private:
     TKResultFieldsPanel* columns;
     TResultView* results;
     TQueryRunner runner;
+    TDatabaseOpener* opener = nullptr; // that is waited for
     QWidget* sqlPart = nullptr;
     QPlainTextEdit* sqlText = nullptr;
     QLabel* grouping = nullptr;

@@ -2,10 +2,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
+#include <QProgressDialog>
 
 #include <tern7/core/global/errors.h>
 #include <tern7/ui/panels/query_panel.h>
@@ -30,6 +32,8 @@ public:
     TBusy& operator=(const TBusy&) = delete;
 };
 
+constexpr int shortWait = 150; // milliseconds that nobody takes for a standstill
+
 QString QueryFilter() {
     return TMainWindow::tr("Queries (*.qry);;All files (*)");
 }
@@ -39,10 +43,12 @@ QString QueryFilter() {
 // --- databases
 
 bool TMainWindow::OpenDatabase(const TKDatabaseURL& url, const QString& structureFile) {
+    if (opener) return false; // one at a time
     std::unique_ptr<TDatabaseSession> opened;
     try {
-        const TBusy busy;
-        opened = std::make_unique<TDatabaseSession>(url, FromQt(structureFile));
+        TDatabaseOpener running(url, FromQt(structureFile));
+        if (!WaitForDatabase(running)) return false;
+        opened = std::make_unique<TDatabaseSession>(url, running.Take());
     } catch (const std::exception& error) {
         AskForDatabase(&url, ToQt(error.what()));
         return false;
@@ -57,11 +63,41 @@ bool TMainWindow::OpenDatabase(const TKDatabaseURL& url, const QString& structur
     return true;
 }
 
+/// Waits with a dialog that can be cancelled. False when it was.
+bool TMainWindow::WaitForDatabase(TDatabaseOpener& running) {
+    {
+        const TBusy busy;
+        if (running.WaitFor(shortWait)) return true;
+    }
+    opener = &running;
+    QProgressDialog progress(this);
+    progress.setWindowTitle(tr("Open database"));
+    progress.setWindowModality(Qt::ApplicationModal);
+    progress.setMinimumDuration(0);
+    progress.setAutoReset(false);
+    progress.setRange(0, 0);
+    progress.setLabelText(tr("Waiting for the database..."));
+    connect(&running, &TDatabaseOpener::tablesRead, &progress, [&progress](int count, int all) {
+        progress.setRange(0, all);
+        progress.setValue(count);
+        progress.setLabelText(tr("Reading table %1 of %2...").arg(count).arg(all));
+    });
+    QEventLoop loop;
+    connect(&running, &TDatabaseOpener::finished, &loop, &QEventLoop::quit);
+    connect(&progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
+    progress.show();
+    if (!running.IsFinished()) loop.exec();
+    opener = nullptr;
+    return running.IsFinished() && !progress.wasCanceled();
+}
+
 bool TMainWindow::OpenSample() {
     try {
-        const TBusy busy;
         TKDatabaseURL url;
-        url.database = FromQt(SampleDatabase());
+        {
+            const TBusy busy;
+            url.database = FromQt(SampleDatabase());
+        }
         return OpenDatabase(url);
     } catch (const std::exception& error) {
         QMessageBox::warning(this, tr("Sample database"), ToQt(error.what()));

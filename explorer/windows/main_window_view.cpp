@@ -118,6 +118,7 @@ void TMainWindow::SetLanguage(const QString& code) {
     for (QAction* action : languageActions->actions())
         action->setChecked(action->data().toString() == language);
     InstallLanguage(language);
+    if (session) session->TranslateOperators();
     ShowTitles();
     QEvent event(QEvent::LanguageChange); // not only when the windows get to it
     QCoreApplication::sendEvent(this, &event);

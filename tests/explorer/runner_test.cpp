@@ -6,6 +6,7 @@
 #include <QTest>
 
 #include <explorer/data/sample_database.h>
+#include <explorer/run/abandoned.h>
 #include <explorer/run/query_runner.h>
 #include <tern7/ui/support/text.h>
 
@@ -87,7 +88,7 @@ TEST_F(TRunnerTest, AnotherRunTakesOver) {
     EXPECT_EQ(rowCount, 1);
     EXPECT_EQ(cancelled.count(), 1);
     // The thread of the first ends by itself.
-    EXPECT_TRUE(QTest::qWaitFor([] { return !TQueryRunner::AnyAbandoned(); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return !TAbandoned::Any(); }));
 }
 
 TEST_F(TRunnerTest, RefusedStatementNamesItsTrial) {
