@@ -15,6 +15,9 @@ class TAccessibleRow : public QAccessibleInterface, public QAccessibleActionInte
 public:
     TAccessibleRow(TKPopupMenu* owner, int rowIndex) : menu(owner), row(rowIndex) {}
 
+    const TKPopupMenu* Menu() const { return menu; }
+    int Row() const { return row; }
+
     bool isValid() const override { return menu && row < menu->RowCount(); }
     QObject* object() const override { return nullptr; }
     QAccessibleInterface* parent() const override {
@@ -107,15 +110,15 @@ public:
     int indexOfChild(const QAccessibleInterface* wanted) const override {
         if (Menu().SearchField() && wanted->object() == Menu().SearchField())
             return Menu().RowCount();
-        for (auto row = rows.cbegin(); row != rows.cend(); ++row)
-            if (QAccessible::accessibleInterface(row.value()) == wanted) return row.key();
-        return -1;
+        const auto* row = dynamic_cast<const TAccessibleRow*>(wanted);
+        return row && row->Menu() == &Menu() ? row->Row() : -1;
     }
 
     QAccessibleInterface* childAt(int x, int y) const override {
-        for (int i = 0; i < childCount(); ++i)
-            if (child(i)->rect().contains(x, y)) return child(i);
-        return nullptr;
+        const QPoint at = Menu().mapFromGlobal(QPoint(x, y));
+        if (const int row = Menu().RowAt(at); row >= 0) return child(row);
+        const QLineEdit* search = Menu().SearchField();
+        return search && search->geometry().contains(at) ? child(Menu().RowCount()) : nullptr;
     }
 
     QAccessibleInterface* focusChild() const override { return child(Menu().CurrentRow()); }

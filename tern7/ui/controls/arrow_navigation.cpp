@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include <QKeyEvent>
 #include <QWidget>
 
 namespace tern7 {
@@ -48,6 +49,16 @@ bool FocusNeighbour(const QWidget& from, int arrowKey) {
     }
     if (nearest) nearest->setFocus(Qt::TabFocusReason);
     return nearest != nullptr;
+}
+
+bool FocusNeighbour(const QWidget& from, const QKeyEvent& key) {
+    const bool plain = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    return plain && IsArrow(key) && FocusNeighbour(from, key.key());
+}
+
+bool IsArrow(const QKeyEvent& key) {
+    return key.key() == Qt::Key_Left || key.key() == Qt::Key_Right || key.key() == Qt::Key_Up ||
+           key.key() == Qt::Key_Down;
 }
 
 } // namespace tern7

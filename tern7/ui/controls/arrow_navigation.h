@@ -1,5 +1,6 @@
 #pragma once
 
+class QKeyEvent;
 class QWidget;
 
 namespace tern7 {
@@ -8,5 +9,9 @@ namespace tern7 {
 /// arrow key (`Qt::Key_Left` ...). False when there is none that way. Left and right stay on the
 /// line.
 bool FocusNeighbour(const QWidget& from, int arrowKey);
+/// The same for a key that was pressed; false for a key with modifiers or one that is no arrow.
+bool FocusNeighbour(const QWidget& from, const QKeyEvent& key);
+
+bool IsArrow(const QKeyEvent& key);
 
 } // namespace tern7

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <tern7/ui/support/guarded.h>
+
 namespace tern7 {
 
 TKCheckListBox::TKCheckListBox(QWidget* parent) : QListView(parent) {
@@ -36,16 +38,17 @@ void TKCheckListBox::Toggle(const QModelIndex& index) {
     const bool on = !itemModel.Checked(itemModel.ItemOf(index.row()));
     QModelIndexList changed = selectionModel()->selectedIndexes();
     if (!changed.contains(index)) changed = {index};
+    const QPointer<TKCheckListBox> alive(this);
     for (const QModelIndex& row : changed)
-        itemModel.SetChecked(itemModel.ItemOf(row.row()), on);
-    OnClickCheck(this);
+        if (alive) itemModel.SetChecked(itemModel.ItemOf(row.row()), on);
+    if (alive) OnClickCheck(this);
 }
 
 void TKCheckListBox::keyPressEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Space || event->modifiers() != Qt::NoModifier)
         return QListView::keyPressEvent(event);
     event->accept();
-    Toggle(currentIndex());
+    Guarded(this, [this] { Toggle(currentIndex()); });
 }
 
 // The base class would switch the mark when the small box itself is hit, too: it only selects here.
@@ -56,7 +59,7 @@ void TKCheckListBox::mousePressEvent(QMouseEvent* event) {
     const bool selecting =
         multiSelect && (event->modifiers() & (Qt::ShiftModifier | Qt::ControlModifier));
     selectionModel()->setCurrentIndex(index, selectionCommand(index, event));
-    if (!selecting) Toggle(index);
+    if (!selecting) Guarded(this, [&] { Toggle(index); });
 }
 
 void TKCheckListBox::mouseReleaseEvent(QMouseEvent* event) {

@@ -27,6 +27,7 @@ public:
 
     const QStringList& Items() const { return itemModel.Items(); }
     void SetItems(const QStringList& lines) { itemModel.SetItems(lines, false); }
+    /// Both raise EDDLabelError when there is no such item.
     bool Checked(int item) const { return itemModel.Checked(item); }
     void SetChecked(int item, bool on) { itemModel.SetChecked(item, on); }
     TItemListModel& Model() { return itemModel; }

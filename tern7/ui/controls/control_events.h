@@ -9,10 +9,13 @@ namespace tern7 {
 
 class TDropDownLabel;
 
-/// What the drop-down controls raise.
+/// What the drop-down controls raise, and its texts.
 class EDDLabelError : public EKTernError {
 public:
     using EKTernError::EKTernError;
+
+    static constexpr const char* indexOutOfBounds = "Index out of bounds";
+    static constexpr const char* menuIndexOutOfRange = "Menu index out of range";
 };
 
 using TNotifyEvent = TEvent<TDropDownLabel*>;

@@ -19,6 +19,13 @@ void TDateTimeControl::SetBorderColor(const QColor& color) {
     update();
 }
 
+void TDateTimeControl::UseWholeHeight() {
+    QRect place = lineEdit()->geometry();
+    place.setTop(1);
+    place.setHeight(height() - 2);
+    lineEdit()->setGeometry(place);
+}
+
 bool TDateTimeControl::event(QEvent* event) {
     const bool pressed = event->type() == QEvent::KeyPress;
     if (!pressed && event->type() != QEvent::ShortcutOverride) return QDateTimeEdit::event(event);
@@ -40,6 +47,11 @@ void TDateTimeControl::focusOutEvent(QFocusEvent* event) {
     const bool leaves = LeavesControl(*event);
     QDateTimeEdit::focusOutEvent(event);
     if (leaves) Guarded(this, [this] { Events.OnExit(this); });
+}
+
+void TDateTimeControl::hideEvent(QHideEvent* event) {
+    QDateTimeEdit::hideEvent(event);
+    if (!event->spontaneous()) Guarded(this, [this] { Events.OnExit(this); });
 }
 
 void TDateTimeControl::paintEvent(QPaintEvent* event) {

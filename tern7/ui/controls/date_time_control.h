@@ -14,6 +14,9 @@ public:
     explicit TDateTimeControl(QWidget* parent = nullptr);
 
     void SetBorderColor(const QColor& color);
+    /// Styles leave room for a frame, which this has none of: in the height of a line the text
+    /// would be cut.
+    void UseWholeHeight();
 
     TEditorEvents Events;
 
@@ -21,6 +24,7 @@ protected:
     bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

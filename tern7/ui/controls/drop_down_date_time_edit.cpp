@@ -37,23 +37,28 @@ QWidget* TDropDownDateTimeEdit::EditControl() const {
 void TDropDownDateTimeEdit::ShowEditControl() {
     const bool isDate = kind == TDateTimeEditKind::ekDate;
     picker->setLocale(locale());
+    // Qt would turn the order of the parts round for reading from the right; the label does not.
+    picker->setLayoutDirection(Qt::LeftToRight);
     picker->setDisplayFormat(isDate ? LocalDateFormat(locale()) : LocalTimeFormat(locale()));
+    picker->setLayoutDirection(layoutDirection());
     picker->setCalendarPopup(isDate);
     picker->setButtonSymbols(isDate ? QAbstractSpinBox::UpDownArrows : QAbstractSpinBox::NoButtons);
     picker->SetBorderColor(BorderColor());
-    LoadText(Value());
+    if (!LoadText(Value())) picker->setDateTime(QDateTime::currentDateTime());
     edited = false;
     picker->show();
 }
 
-void TDropDownDateTimeEdit::LoadText(const QString& text) {
+/// False, and nothing is changed, for a text that can not be read.
+bool TDropDownDateTimeEdit::LoadText(const QString& text) {
     if (kind == TDateTimeEditKind::ekDate) {
         const QDate date = ReadLocalDate(text, locale());
-        picker->setDate(date.isValid() ? date : QDate::currentDate());
-    } else {
-        const QTime time = ReadLocalTime(text, locale());
-        picker->setTime(time.isValid() ? time : QTime::currentTime());
+        if (date.isValid()) picker->setDate(date);
+        return date.isValid();
     }
+    const QTime time = ReadLocalTime(text, locale());
+    if (time.isValid()) picker->setTime(time);
+    return time.isValid();
 }
 
 void TDropDownDateTimeEdit::AcceptInput() {
@@ -65,6 +70,7 @@ void TDropDownDateTimeEdit::AcceptInput() {
 void TDropDownDateTimeEdit::AdjustSizes() {
     TDropDownCustomEdit::AdjustSizes();
     picker->resize(std::max(picker->width(), picker->sizeHint().width()), picker->height());
+    picker->UseWholeHeight();
 }
 
 QString TDropDownDateTimeEdit::GetEditText() const {
@@ -75,7 +81,7 @@ QString TDropDownDateTimeEdit::GetEditText() const {
 }
 
 void TDropDownDateTimeEdit::SetEditText(const QString& text) {
-    if (picker) LoadText(text);
+    if (picker && text != GetEditText() && LoadText(text)) edited = true;
 }
 
 } // namespace tern7

@@ -33,7 +33,7 @@ protected:
     void SetEditText(const QString& text) override;
 
 private:
-    void LoadText(const QString& text);
+    bool LoadText(const QString& text);
 
     TDateTimeEditKind kind = TDateTimeEditKind::ekDate;
     bool edited = false;

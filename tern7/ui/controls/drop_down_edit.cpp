@@ -1,6 +1,7 @@
 #include <tern7/ui/controls/drop_down_edit.h>
 
 #include <algorithm>
+#include <typeinfo>
 
 #include <QLocale>
 
@@ -12,9 +13,18 @@ namespace tern7 {
 TDropDownCustomEdit::TDropDownCustomEdit(QWidget* parent) : TDropDownLabel(parent) {}
 
 void TDropDownCustomEdit::Listen(TEditorEvents& events) {
-    events.OnExit = [this](QWidget*) { EditExit(); };
+    events.OnExit = [this](QWidget*) {
+        if (!IsWindowDestroyed()) EditExit();
+    };
     events.OnKeyPress = [this](QWidget* sender, QChar& key) { EditKeyPress(sender, key); };
     events.OnDblClick = [this](QWidget*) { EditDblClick(); };
+}
+
+/// A window hides in its destructor too. It is a plain widget then, and what handlers refer to is
+/// gone: they are not asked any more.
+bool TDropDownCustomEdit::IsWindowDestroyed() const {
+    const QWidget& now = *window();
+    return !openIn || *openIn != typeid(now);
 }
 
 void TDropDownCustomEdit::ValueChanged() {
@@ -40,6 +50,8 @@ void TDropDownCustomEdit::ShowControl() {
     const QPointer<QWidget> editor = EditControl();
     if (!editor) return DropUp(false);
     const QPointer<TDropDownLabel> alive(this);
+    const QWidget& opener = *window();
+    openIn = &typeid(opener);
     editor->setFont(font());
     editor->setAccessibleName(accessibleName());
     editor->setLayoutDirection(layoutDirection());
@@ -169,7 +181,7 @@ QString TDropDownLineEdit::GetEditText() const {
 }
 
 void TDropDownLineEdit::SetEditText(const QString& text) {
-    if (!edit) return;
+    if (!edit || text == GetEditText()) return;
     edit->setText(text);
     edit->setModified(true);
 }

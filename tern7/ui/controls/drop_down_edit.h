@@ -1,5 +1,7 @@
 #pragma once
 
+#include <typeinfo>
+
 #include <tern7/ui/controls/drop_down_label.h>
 #include <tern7/ui/controls/silent_edit.h>
 
@@ -62,12 +64,14 @@ protected:
     void Listen(TEditorEvents& events);
 
 private:
+    bool IsWindowDestroyed() const;
     bool TakesKey(QChar key) const;
     void KeepInSight(QWidget& editor) const;
 
     TValueType valueType = TValueType::vtString;
     int options = 0;
     QColor borderColor;
+    const std::type_info* openIn = nullptr; // the class of the window at that time
 };
 
 using TValueType = TDropDownCustomEdit::TValueType;

@@ -138,7 +138,10 @@ void TDropDownLabel::FinishDropUp(bool accepted) {
 
 /// After a handler raised an error: idle again, and no further event.
 void TDropDownLabel::AbortDropDown() {
+    const QPointer<TDropDownLabel> alive(this);
+    droppingUp = true;
     HideControl();
+    if (!alive) return;
     editValue.clear();
     dropped = false;
     droppingUp = false;
@@ -251,15 +254,13 @@ void TDropDownLabel::keyPressEvent(QKeyEvent* event) {
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     const bool plainOpen = enter || key == Qt::Key_Space || key == Qt::Key_Select ||
                            key == Qt::Key_F2 || key == Qt::Key_F4;
-    const bool arrow =
-        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
     event->accept();
     if (enter && modifiers == Qt::ControlModifier) {
         Guarded(this, [this] { AltClick(); });
     } else if (!fixed && ((plainOpen && modifiers == Qt::NoModifier) ||
                           (key == Qt::Key_Down && modifiers == Qt::AltModifier))) {
         Guarded(this, [this] { Click(Qt::NoModifier); });
-    } else if (!arrow || modifiers != Qt::NoModifier || !arrowKeys || !FocusNeighbour(*this, key)) {
+    } else if (!arrowKeys || !FocusNeighbour(*this, *event)) {
         event->ignore();
     }
 }

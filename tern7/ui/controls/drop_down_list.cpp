@@ -12,26 +12,27 @@ void TDropDownList::SetItems(const QStringList& lines) {
 
 void TDropDownList::SetItemIndex(int index) {
     if (index == itemIndex) return;
-    if (index < -1 || index > values.size()) throw EDDLabelError("Index out of bounds");
+    if (index < -1 || index > values.size()) throw EDDLabelError(EDDLabelError::indexOutOfBounds);
     // The value just behind the last passes the test above and is missed here. That is meant:
     // callers tell the two messages apart.
     if (index == values.size() || index >= items.size())
         throw EDDLabelError("List index out of bounds (" + std::to_string(index) + ")");
     const QPointer<TDropDownList> alive(this);
     itemIndex = index;
-    settingIndex = true;
     SetValue(index < 0 ? QString() : values[index]);
-    if (!alive) return;
-    settingIndex = false;
-    SetCaption(index < 0 ? QString() : ItemText(index));
+    // The value was the same, if its items are two; and a handler may have set another index.
+    if (alive && itemIndex == index) SetCaption(ItemText(index));
 }
 
+/// An index that stands for the value already is kept: several items may have one value.
 void TDropDownList::ValueChanged() {
-    if (settingIndex) return;
-    const bool known = itemIndex >= 0 && itemIndex < values.size();
-    if (!Value().isEmpty() && known && values[itemIndex] == Value()) return;
-    itemIndex = Value().isEmpty() ? -1 : static_cast<int>(values.indexOf(Value()));
-    SetCaption(itemIndex >= 0 && itemIndex < items.size() ? items[itemIndex] : Value());
+    if (values.value(itemIndex) != Value() || itemIndex >= values.size())
+        itemIndex = Value().isEmpty() ? -1 : static_cast<int>(values.indexOf(Value()));
+    SetCaption(ValueCaption());
+}
+
+QString TDropDownList::ValueCaption() const {
+    return itemIndex >= 0 && itemIndex < items.size() ? items[itemIndex] : Value();
 }
 
 void TDropDownList::AddItem(const QString& groupName, const QString& item,
@@ -49,13 +50,15 @@ void TDropDownList::AddItem(const QString& groupName, const QString& item,
 
 void TDropDownList::AddItems(const QString& groupName, const QStringList& itemList,
                              const QStringList& valueList) {
-    if (itemList.size() < valueList.size()) throw EDDLabelError("Index out of bounds");
+    if (itemList.size() < valueList.size()) throw EDDLabelError(EDDLabelError::indexOutOfBounds);
     for (qsizetype i = 0; i < valueList.size(); ++i)
         AddItem(groupName, itemList[i], valueList[i]);
 }
 
 void TDropDownList::ClearAll() {
+    const QPointer<TDropDownList> alive(this);
     SetItemIndex(-1);
+    if (!alive) return;
     groups.Clear();
     ownGroup = false;
     items.clear();

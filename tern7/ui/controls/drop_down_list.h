@@ -48,8 +48,10 @@ public:
 protected:
     void ShowControl() override;
     void ValueChanged() override;
+    /// What is shown for the value: its item's text, else the value itself.
+    virtual QString ValueCaption() const;
 
-    /// The item's text; the value itself for an index without one.
+    /// Empty for an index without an item.
     QString ItemText(int index) const { return items.value(index); }
 
 private:
@@ -62,7 +64,6 @@ private:
     int itemIndex = -1;
     bool sortList = false;
     bool ownGroup = false; // the only group was made here, because nobody made one
-    bool settingIndex = false;
 };
 
 } // namespace tern7

@@ -51,7 +51,7 @@ TListPopup* TDropDownListBox::CreateDesktop(QListView& list, TItemListModel& lis
 }
 
 QRect TDropDownListBox::ClientToDesktop() const {
-    return {parentWidget()->mapToGlobal(pos()), size()};
+    return {mapToGlobal(QPoint()), size()};
 }
 
 QWidget* TDropDownListBox::EditControl() const {
@@ -74,7 +74,9 @@ void TDropDownListBox::ShowControl() {
     desktop->setFont(font());
     desktop->List().setAccessibleName(accessibleName());
     FillList();
-    desktop->Open(ClientToDesktop(), GetLBWidth(), GetListItemHeight());
+    const QPointer<TDropDownListBox> alive(this);
+    const int rowHeight = GetListItemHeight(); // asks for an image
+    if (alive) desktop->Open(ClientToDesktop(), GetLBWidth(), rowHeight);
 }
 
 void TDropDownListBox::HideControl() {
@@ -93,16 +95,17 @@ QIcon TDropDownListBox::ItemImage(int item) const {
     for (int g = 0; g < Groups().Count(); ++g) {
         const TItemGroup& group = Groups().Items(g);
         if (!std::binary_search(group.Indices().begin(), group.Indices().end(), item)) continue;
+        const QList<QIcon> icons = Images(); // the handler may delete this label
         int image = -1;
         DoGetItemImageIndex(group.Name(), ItemText(item), image);
-        return Images().value(image);
+        return icons.value(image);
     }
     return {};
 }
 
 /// A search that was only begun chooses nothing.
 void TDropDownListBox::AcceptInput() {
-    const QModelIndex row = desktop->List().currentIndex();
+    const QModelIndex row = desktop->SelectedRow();
     if (row.isValid() && desktop->Chosen())
         SetItemIndex(row.data(TItemListModel::itemIndexRole).toInt());
 }
@@ -123,8 +126,8 @@ int TDropDownListBox::GetLBWidth() const {
 }
 
 int TDropDownListBox::GetListItemHeight() const {
-    const int styled = desktop->List().sizeHintForRow(0);
-    return std::max(styled, ternTextHeight(QStringLiteral("W"), font()));
+    const int text = ternTextHeight(QStringLiteral("W"), font());
+    return std::max(desktop->List().sizeHintForRow(0), text);
 }
 
 // --- TDropDownCheckListBox
@@ -158,7 +161,7 @@ void TDropDownCheckListBox::AcceptInput() {
     SetValue(ToQt(ComposeCommaText(chosen)));
 }
 
-void TDropDownCheckListBox::ValueChanged() {
+QString TDropDownCheckListBox::ValueCaption() const {
     QHash<QString, int> indexOf;
     for (int i = static_cast<int>(std::min(Items().size(), Values().size())); i-- > 0;)
         indexOf.insert(Values()[i], i);
@@ -168,7 +171,7 @@ void TDropDownCheckListBox::ValueChanged() {
         const auto found = indexOf.constFind(single);
         texts << (found == indexOf.constEnd() ? single : Items()[*found]);
     }
-    SetCaption(texts.join(QStringLiteral(", ")));
+    return texts.join(QStringLiteral(", "));
 }
 
 } // namespace tern7

@@ -62,7 +62,7 @@ protected:
     QListView* CreateList(TItemListModel*& listModel) override;
     void FillList() override;
     void AcceptInput() override;
-    void ValueChanged() override;
+    QString ValueCaption() const override;
 
 private:
     bool changed = false;

@@ -15,7 +15,9 @@ QString MenuCaption(QString text) {
 TDropDownPopup::TDropDownPopup(QWidget* parent) : TDropDownList(parent) {}
 
 TDropDownPopup::~TDropDownPopup() {
-    if (menu) disconnect(menu, nullptr, this, nullptr);
+    if (!menu) return;
+    disconnect(menu, nullptr, this, nullptr);
+    menu->Items().Clear(); // they call this label
     DiscardEditor(menu);
 }
 
@@ -50,10 +52,10 @@ void TDropDownPopup::BiDiModeChanged() {
 void TDropDownPopup::ShowControl() {
     TDropDownList::ShowControl();
     if (!menu) return DropUp(false);
-    FillMenu();
+    if (!FillMenu()) return;
     menu->setAccessibleName(accessibleName());
     if (maxItemCount > 0) menu->SetFitToScreen(false);
-    const QRect place(parentWidget()->mapToGlobal(pos()), size());
+    const QRect place(mapToGlobal(QPoint()), size());
     menu->SetQuietArea(place);
     menu->PopupAt(place);
 }
@@ -62,39 +64,54 @@ void TDropDownPopup::HideControl() {
     if (menu && menu->isVisible()) menu->hide();
 }
 
-void TDropDownPopup::FillMenu() {
+/// False when a handler that was asked for an image deleted the label.
+bool TDropDownPopup::FillMenu() {
     TMenuItem& root = menu->Items();
     root.Clear();
-    menu->SetCurrentItem(nullptr);
     menu->SetImages(Images());
     int groupCount = 0;
     for (int g = 0; g < Groups().Count(); ++g) {
         const TItemGroup& group = Groups().Items(g);
-        TMenuItem& into = group.Name().isEmpty() ? root : AddGroupItem(group.Name(), groupCount);
+        const QString name = group.Name();
+        TMenuItem* into = name.isEmpty() ? &root : AddGroupItem(name, groupCount);
+        if (!into) return false;
         int count = 0;
         for (const int index : group.Indices()) {
             if (index >= Items().size()) continue;
-            const TMenuItem& item = AddMenuItem(into, group.Name(), index, count);
-            if (index == ItemIndex()) menu->SetCurrentItem(&item);
+            const TMenuItem* item = AddMenuItem(*into, name, index, count);
+            if (!item) return false;
+            if (index == ItemIndex()) menu->SetCurrentItem(item);
         }
     }
+    return true;
 }
 
-TMenuItem& TDropDownPopup::AddGroupItem(const QString& name, int& count) {
+TMenuItem* TDropDownPopup::AddGroupItem(const QString& name, int& count) {
     TMenuItem& item = menu->Items().Add(MenuCaption(name));
-    if (!item.IsSeparator()) DoGetGroupImageIndex(name, item.ImageIndex);
     CountItem(item, count);
-    return item;
+    return AskForImage(item, [&](int& image) { DoGetGroupImageIndex(name, image); });
 }
 
-TMenuItem& TDropDownPopup::AddMenuItem(TMenuItem& into, const QString& group, int index,
+TMenuItem* TDropDownPopup::AddMenuItem(TMenuItem& into, const QString& group, int index,
                                        int& count) {
-    TMenuItem& item = into.Add(MenuCaption(Items()[index]));
-    if (!item.IsSeparator()) DoGetItemImageIndex(group, Items()[index], item.ImageIndex);
+    const QString text = Items()[index];
+    TMenuItem& item = into.Add(MenuCaption(text));
     item.Tag = index;
     item.OnClick = [this](TMenuItem* clicked) { MenuClick(clicked); };
     CountItem(item, count);
-    return item;
+    return AskForImage(item, [&](int& image) { DoGetItemImageIndex(group, text, image); });
+}
+
+/// Null when the handler deleted the label, and the menu's items with it.
+template <class Ask>
+TMenuItem* TDropDownPopup::AskForImage(TMenuItem& item, const Ask& ask) {
+    if (item.IsSeparator()) return &item;
+    const QPointer<TDropDownPopup> alive(this);
+    int image = -1;
+    ask(image);
+    if (!alive) return nullptr;
+    item.ImageIndex = image;
+    return &item;
 }
 
 /// With a limit, the item behind a full column begins the next one.
@@ -108,20 +125,25 @@ void TDropDownPopup::CountItem(TMenuItem& item, int& count) const {
 /// The value is set before the label drops up, so that a handler sees it; a veto takes it back.
 void TDropDownPopup::MenuClick(TMenuItem* item) {
     const QPointer<TDropDownPopup> alive(this);
-    const int oldIndex = ItemIndex();
-    const QString oldValue = Value(), oldCaption = Caption();
-    bool accepted = true;
+    before = {ItemIndex(), Value(), Caption()};
     SetItemIndex(item->Tag);
-    if (!alive) return;
-    const auto listening = connect(this, &TDropDownLabel::droppedUp, this,
-                                   [&accepted](bool answer) { accepted = answer; });
-    DropUp(true);
-    if (!alive) return;
-    disconnect(listening);
-    if (accepted) return;
-    SetItemIndex(oldIndex);
-    SetValue(oldValue);
-    SetCaption(oldCaption);
+    if (alive) DropUp(true);
+    if (alive) before.reset();
+}
+
+void TDropDownPopup::DoBeforeDropUp(bool& accept) {
+    const QPointer<TDropDownPopup> alive(this);
+    TDropDownList::DoBeforeDropUp(accept);
+    if (!alive || accept || !before) return;
+    TakeBack(*std::exchange(before, std::nullopt));
+}
+
+/// Nobody ever sees an empty value in between.
+void TDropDownPopup::TakeBack(const TChoice& choice) {
+    const QPointer<TDropDownPopup> alive(this);
+    SetValue(choice.value);
+    if (alive && choice.index >= 0) SetItemIndex(choice.index);
+    if (alive) SetCaption(choice.caption);
 }
 
 } // namespace tern7

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <tern7/ui/controls/drop_down_list.h>
 #include <tern7/ui/controls/popup_menu.h>
 
@@ -27,17 +29,27 @@ protected:
     void HideControl() override;
     void AcceptInput() override {}
     void BiDiModeChanged() override;
+    void DoBeforeDropUp(bool& accept) override;
 
     virtual void MenuClick(TMenuItem* item);
 
 private:
-    void FillMenu();
-    TMenuItem& AddGroupItem(const QString& name, int& count);
-    TMenuItem& AddMenuItem(TMenuItem& into, const QString& group, int index, int& count);
+    struct TChoice {
+        int index;
+        QString value, caption;
+    };
+
+    bool FillMenu();
+    void TakeBack(const TChoice& choice);
+    TMenuItem* AddGroupItem(const QString& name, int& count);
+    TMenuItem* AddMenuItem(TMenuItem& into, const QString& group, int index, int& count);
+    template <class Ask>
+    TMenuItem* AskForImage(TMenuItem& item, const Ask& ask);
     void CountItem(TMenuItem& item, int& count) const;
 
     QPointer<TKPopupMenu> menu;
     int maxItemCount = 0;
+    std::optional<TChoice> before; // a choice that is being made
 };
 
 } // namespace tern7

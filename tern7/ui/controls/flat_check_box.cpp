@@ -33,12 +33,9 @@ QSize TFlatCheckBox::sizeHint() const {
 }
 
 void TFlatCheckBox::keyPressEvent(QKeyEvent* event) {
-    const int key = event->key();
-    const bool arrow =
-        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
-    if (!arrow)
+    if (!IsArrow(*event))
         QCheckBox::keyPressEvent(event);
-    else if (!FocusNeighbour(*this, key))
+    else if (!FocusNeighbour(*this, *event))
         event->ignore();
 }
 

@@ -7,7 +7,8 @@ namespace tern7 {
 namespace {
 
 size_t Checked(int i, size_t count) {
-    if (i < 0 || static_cast<size_t>(i) >= count) throw EDDLabelError("Index out of bounds");
+    if (i < 0 || static_cast<size_t>(i) >= count)
+        throw EDDLabelError(EDDLabelError::indexOutOfBounds);
     return static_cast<size_t>(i);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QCollator>
 
+#include <tern7/ui/controls/control_events.h>
 #include <tern7/ui/controls/text_search.h>
 
 namespace tern7 {
@@ -35,6 +36,11 @@ void TItemListModel::Show(std::vector<int> wanted) {
     rows.assign(checks.size(), -1);
     for (size_t row = 0; row < shown.size(); ++row)
         rows[static_cast<size_t>(shown[row])] = static_cast<int>(row);
+}
+
+bool TItemListModel::Checked(int item) const {
+    if (item < 0 || item >= items.size()) throw EDDLabelError(EDDLabelError::indexOutOfBounds);
+    return checks[static_cast<size_t>(item)];
 }
 
 void TItemListModel::SetChecked(int item, bool on) {
@@ -68,7 +74,7 @@ QVariant TItemListModel::data(const QModelIndex& index, int role) const {
     case Qt::CheckStateRole:
         return checkable ? QVariant(Checked(item) ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::DecorationRole:
-        return Image ? QVariant(Image(item)) : QVariant();
+        return Image ? QVariant(std::function(Image)(item)) : QVariant(); // it may be taken away
     case itemIndexRole:
         return item;
     default:

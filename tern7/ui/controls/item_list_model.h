@@ -24,7 +24,8 @@ public:
     const QStringList& Items() const { return items; }
     bool Checkable() const { return checkable; }
     void SetCheckable(bool on) { checkable = on; }
-    bool Checked(int item) const { return checks[static_cast<size_t>(item)]; }
+    /// Both raise EDDLabelError when there is no such item.
+    bool Checked(int item) const;
     void SetChecked(int item, bool on);
     /// All items in display order, hidden by a search or not.
     const std::vector<int>& Order() const { return order; }

@@ -2,17 +2,18 @@
 
 #include <algorithm>
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
 #include <QMouseEvent>
-#include <QScreen>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <tern7/ui/controls/item_list_model.h>
+#include <tern7/ui/controls/popup_place.h>
 #include <tern7/ui/controls/text_search.h>
+#include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/guarded.h>
 
 namespace tern7 {
@@ -27,6 +28,14 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
+    }
+
+protected:
+    /// Styles draw the frame of a check mark darker than the window; on dark ground nobody sees it.
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (IsDark(option->palette))
+            option->palette.setColor(QPalette::Window, option->palette.color(QPalette::Text));
     }
 };
 
@@ -47,6 +56,7 @@ TListPopup::TListPopup(QListView& listView, TItemListModel& listModel, QWidget* 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(1, 1, 1, 1);
     column->setSpacing(0);
+    column->setSizeConstraint(QLayout::SetNoConstraint); // three rows are as high as three rows
     column->addWidget(search);
     column->addWidget(&list);
     search->installEventFilter(this);
@@ -77,20 +87,18 @@ void TListPopup::Open(const QRect& at, int width, int rowHeight) {
 }
 
 void TListPopup::Place(int width, int rowHeight) {
-    const QScreen* at = QGuiApplication::screenAt(anchor.topLeft());
-    const QRect room = (at ? at : screen())->availableGeometry();
+    const QRect room = ScreenRoom(*this, anchor.topLeft());
     const int rows = std::clamp(static_cast<int>(model.Items().size()), 1, mostRows);
     const int above = search->isHidden() ? 0 : search->sizeHint().height();
     const QSize size(std::min(width, room.width()),
                      std::min(rows * rowHeight + above + 2 * frameWidth() + 2, room.height()));
     const bool fromRight = layoutDirection() == Qt::RightToLeft;
-    int x = fromRight ? anchor.right() + 1 - size.width() : anchor.left();
-    int y = anchor.bottom() + 1;
-    if (y + size.height() > room.bottom() + 1 && anchor.top() - size.height() >= room.top())
-        y = anchor.top() - size.height();
-    x = std::clamp(x, room.left(), std::max(room.left(), room.right() + 1 - size.width()));
-    y = std::clamp(y, room.top(), std::max(room.top(), room.bottom() + 1 - size.height()));
-    setGeometry(QRect(QPoint(x, y), size));
+    setGeometry(MovedInto(room, PlaceBelow(anchor, size, room, fromRight), size));
+}
+
+QModelIndex TListPopup::SelectedRow() const {
+    const QModelIndex current = list.currentIndex();
+    return list.selectionModel()->isSelected(current) ? current : QModelIndex();
 }
 
 void TListPopup::SelectRow(int row) {
@@ -139,14 +147,22 @@ bool TListPopup::KeyPressed(QKeyEvent& event, bool inSearch) {
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
         chosen = true;
+        if (!SelectedRow().isValid()) {
+            // Qt makes the first row current without selecting it: there the keys begin.
+            SelectRow(0);
+            return true;
+        }
         if (!inSearch) return false;
         list.setFocus();
         QCoreApplication::sendEvent(&list, &event);
         return true;
     case Qt::Key_Home:
     case Qt::Key_End:
-        chosen = chosen || !inSearch;
-        return false;
+        if (inSearch) return false;
+        chosen = true;
+        if (SelectedRow().isValid()) return false;
+        SelectRow(event.key() == Qt::Key_Home ? 0 : model.rowCount() - 1);
+        return true;
     default:
         break;
     }
@@ -162,8 +178,10 @@ bool TListPopup::KeyPressed(QKeyEvent& event, bool inSearch) {
     return true;
 }
 
-/// In a check list that is searched, Enter checks the hit and the search begins anew.
+/// In a check list that is searched, Enter checks the hit and the search begins anew. A search that
+/// found nothing stays.
 void TListPopup::Enter() {
+    if (model.rowCount() == 0 && !search->text().isEmpty()) return;
     if (model.Checkable() && !search->text().isEmpty()) {
         const QVariant item = list.currentIndex().data(TItemListModel::itemIndexRole);
         if (item.isValid()) model.SetChecked(item.toInt(), true);
@@ -196,7 +214,11 @@ void TListPopup::hideEvent(QHideEvent* event) {
     QFrame::hideEvent(event);
     if (!open) return;
     QMetaObject::invokeMethod(
-        this, [this] { Leave(OnExit); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            if (!isVisible()) Leave(OnExit);
+        },
+        Qt::QueuedConnection);
 }
 
 } // namespace tern7

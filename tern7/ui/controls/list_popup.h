@@ -24,6 +24,8 @@ public:
     void Open(const QRect& anchor, int width, int rowHeight);
     QListView& List() const { return list; }
     QLineEdit& Search() const { return *search; }
+    /// Invalid when no row is selected.
+    QModelIndex SelectedRow() const;
     /// Whether the selected row was chosen by the user: by arrows, a click, or Enter.
     bool Chosen() const { return chosen; }
 

@@ -5,26 +5,26 @@
 namespace tern7 {
 
 TMenuItem& TMenuItem::Items(int i) const {
-    if (i < 0 || i >= Count()) throw EDDLabelError("Menu index out of range");
+    if (i < 0 || i >= Count()) throw EDDLabelError(EDDLabelError::menuIndexOutOfRange);
     return *items[static_cast<size_t>(i)];
 }
 
 TMenuItem& TMenuItem::Add(const QString& caption) {
-    Announce();
+    Announce(false);
     items.push_back(std::make_unique<TMenuItem>(caption, this));
     return *items.back();
 }
 
 void TMenuItem::Clear() {
-    Announce();
+    Announce(true);
     items.clear();
 }
 
-void TMenuItem::Announce() {
+void TMenuItem::Announce(bool removing) {
     TMenuItem* outermost = this;
     while (outermost->parent)
         outermost = outermost->parent;
-    if (outermost->BeforeChange) outermost->BeforeChange();
+    if (outermost->BeforeChange) outermost->BeforeChange(removing);
 }
 
 QString TMenuItem::PlainCaption() const {

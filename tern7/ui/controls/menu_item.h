@@ -44,11 +44,11 @@ public:
     /// The key that is marked in the caption, in lower case, or a null character.
     QChar Mnemonic() const;
 
-    /// Called at the outermost item before anything below it changes.
-    std::function<void()> BeforeChange;
+    /// Called at the outermost item before an item is added below it, or before some are removed.
+    std::function<void(bool removing)> BeforeChange;
 
 private:
-    void Announce();
+    void Announce(bool removing);
 
     TMenuItem* parent;
     std::vector<std::unique_ptr<TMenuItem>> items;

@@ -18,7 +18,7 @@ std::vector<int> ColumnBreaks(int count, int limit, TKPopupSplitType type) {
         if (at < count)
             breaks.push_back(at);
         else if (fillFirst)
-            throw EDDLabelError("Menu index out of range");
+            throw EDDLabelError(EDDLabelError::menuIndexOutOfRange);
     }
     return breaks;
 }

@@ -3,13 +3,12 @@
 #include <algorithm>
 
 #include <QAccessible>
-#include <QGuiApplication>
 #include <QLineEdit>
-#include <QScreen>
 #include <QStyle>
 
 #include <tern7/ui/controls/accessible_label.h>
 #include <tern7/ui/controls/editor_events.h>
+#include <tern7/ui/controls/popup_place.h>
 #include <tern7/ui/controls/text_search.h>
 #include <tern7/ui/support/system_metrics.h>
 #include <tern7/ui/support/text_size.h>
@@ -47,8 +46,9 @@ void ForEachLeaf(TMenuItem& menu, const Visit& visit) {
 
 TKPopupMenu::TKPopupMenu(QWidget* parent)
     : QWidget(parent, Qt::Popup), ownRoot(std::make_unique<TMenuItem>()), root(ownRoot.get()) {
-    root->BeforeChange = [this] {
+    root->BeforeChange = [this](bool removing) {
         if (isVisible()) CloseAll();
+        if (removing) first = nullptr;
     };
     Init();
 }
@@ -102,7 +102,7 @@ void TKPopupMenu::PopupAt(const QRect& at) {
 
 /// Frame and search field don't count: a menu that just does not fit because of them scrolls.
 void TKPopupMenu::SplitIntoColumns() {
-    const int limit = ScreenRoom().height() / RowHeight();
+    const int limit = ScreenRoom(*this, anchor.topLeft()).height() / RowHeight();
     ForgetBreaks(*root);
     Split(*root, std::max(limit, 1), splitType, breakType);
 }
@@ -160,6 +160,8 @@ void TKPopupMenu::Lay() {
     rows.reserve(shown.size());
     const QFontMetrics metrics(font());
     groupWidth = 0;
+    checkable = std::any_of(shown.begin(), shown.end(),
+                            [](const TMenuItem* item) { return item->Checked || item->RadioItem; });
     for (int i = 0; i < RowCount(); ++i)
         groupWidth = std::max(groupWidth, metrics.horizontalAdvance(GroupText(i)));
     const int besideText = groupWidth > 0 ? groupWidth + 2 * metrics.averageCharWidth() : 0;
@@ -203,37 +205,21 @@ QRect TKPopupMenu::ViewRect() const {
     return rect().adjusted(frame, frame + top, -frame, -frame);
 }
 
-QRect TKPopupMenu::ScreenRoom() const {
-    const QScreen* at = QGuiApplication::screenAt(anchor.topLeft());
-    return (at ? at : screen())->availableGeometry();
-}
-
 QSize TKPopupMenu::WindowSize() const {
     const int frame = 2 * FrameWidth();
     QSize size = layout.size.expandedTo({0, RowHeight()}) + QSize(frame, frame);
     if (search) size.rheight() += search->sizeHint().height();
-    return size.boundedTo(ScreenRoom().size());
+    return size.boundedTo(ScreenRoom(*this, anchor.topLeft()).size());
 }
 
 void TKPopupMenu::Place() {
     const QSize size = WindowSize();
-    const QRect room = ScreenRoom();
-    QPoint at = opener ? PlaceBeside(size, room) : PlaceBelow(size, room);
-    at.setX(
-        std::clamp(at.x(), room.left(), std::max(room.left(), room.right() + 1 - size.width())));
-    at.setY(
-        std::clamp(at.y(), room.top(), std::max(room.top(), room.bottom() + 1 - size.height())));
-    setGeometry(QRect(at, size));
+    const QRect room = ScreenRoom(*this, anchor.topLeft());
+    const bool fromRight = layoutDirection() == Qt::RightToLeft;
+    const QPoint at = opener ? PlaceBeside(size, room) : PlaceBelow(anchor, size, room, fromRight);
+    setGeometry(MovedInto(room, at, size));
     ScrollBy({0, 0});
     if (current >= 0) ScrollTo(current);
-}
-
-QPoint TKPopupMenu::PlaceBelow(QSize size, const QRect& room) const {
-    const bool fromRight = layoutDirection() == Qt::RightToLeft;
-    const int x = fromRight ? anchor.right() + 1 - size.width() : anchor.left();
-    const bool fitsBelow = anchor.bottom() + 1 + size.height() <= room.bottom() + 1;
-    const bool fitsAbove = anchor.top() - size.height() >= room.top();
-    return {x, fitsBelow || !fitsAbove ? anchor.bottom() + 1 : anchor.top() - size.height()};
 }
 
 QPoint TKPopupMenu::PlaceBeside(QSize size, const QRect& room) const {
@@ -292,10 +278,13 @@ void TKPopupMenu::CloseAll() {
     outermost.hide();
 }
 
+/// A menu that is closed shows nothing, also not to screen readers: its items may be gone.
 void TKPopupMenu::hideEvent(QHideEvent* event) {
     QWidget::hideEvent(event);
     CloseSub();
     scrollTimer.stop();
+    shown.clear();
+    current = -1;
     if (!opener && !triggering) emit closed();
 }
 
@@ -312,13 +301,21 @@ void TKPopupMenu::Activate(int row) {
 void TKPopupMenu::Trigger(TMenuItem& item) {
     const QPointer<TKPopupMenu> outermost = &Outermost();
     const TEvent<TMenuItem*> onClick = item.OnClick;
+    const auto finish = [&outermost] {
+        if (!outermost) return;
+        outermost->triggering = false;
+        // A handler may have opened the menu again.
+        if (!outermost->isVisible()) emit outermost->closed();
+    };
     outermost->triggering = true;
     CloseAll();
-    onClick(&item);
-    if (!outermost) return;
-    outermost->triggering = false;
-    // A handler may have opened the menu again.
-    if (!outermost->isVisible()) emit outermost->closed();
+    try {
+        onClick(&item);
+    } catch (...) {
+        finish();
+        throw;
+    }
+    finish();
 }
 
 } // namespace tern7

@@ -25,6 +25,8 @@ namespace tern7 {
 /// called after that, and may delete the menu.
 class TKPopupMenu : public QWidget {
     Q_OBJECT
+    Q_PROPERTY(TMenuBreak BreakType READ BreakType WRITE SetBreakType)
+    Q_PROPERTY(TKPopupSplitType PopupSplitType READ PopupSplitType WRITE SetPopupSplitType)
     Q_PROPERTY(bool FitToScreen READ FitToScreen WRITE SetFitToScreen)
 
 public:
@@ -56,11 +58,15 @@ public:
     /// A press there just closes the menu and is not passed on.
     void SetQuietArea(const QRect& area) { quietArea = area; }
 
-    // What is shown now: the items, or the hits of a search.
+    // What is shown now: the items, or the hits of a search. A closed menu shows nothing.
     int RowCount() const { return static_cast<int>(shown.size()); }
-    TMenuItem* Row(int i) const { return shown[static_cast<size_t>(i)]; }
+    /// Both raise EDDLabelError when there is no such row.
+    TMenuItem* Row(int i) const;
     QRect RowRect(int i) const;
+    /// The row at a point of the menu, or -1.
+    int RowAt(QPoint at) const;
     int CurrentRow() const { return current; }
+    /// -1 for none; nothing happens when there is no such row.
     void SetCurrentRow(int row);
     /// Opens the sub menu of a row or takes it.
     void Activate(int row);
@@ -97,8 +103,6 @@ private:
     void Lay();
     void Place();
     QPoint PlaceBeside(QSize size, const QRect& room) const;
-    QPoint PlaceBelow(QSize size, const QRect& room) const;
-    QRect ScreenRoom() const;
     TMenuMetrics Metrics() const;
     int RowHeight() const;
     int FrameWidth() const;
@@ -112,6 +116,7 @@ private:
     void DrawScrollers(QPainter& painter) const;
 
     // moving about
+    void MarkRow(int row);
     void ScrollBy(QPoint step);
     void ScrollTo(int row);
     QPoint ScrollZone(QPoint at) const;
@@ -132,6 +137,8 @@ private:
     void Hover(QPoint global);
     void Trigger(TMenuItem& item);
 
+    static constexpr int scrollerSize = 14; // of the strips with arrows at the edges
+
     std::unique_ptr<TMenuItem> ownRoot; // none in a sub menu
     TMenuItem* root;
     QPointer<TKPopupMenu> opener;
@@ -146,7 +153,8 @@ private:
     std::vector<TMenuItem*> shown;
     bool showsHits = false;
     TMenuLayout layout;
-    int groupWidth = 0; // of the widest group beside a hit
+    int groupWidth = 0;     // of the widest group beside a hit
+    bool checkable = false; // there is a row with a check mark
     QPoint scroll;
     QRect anchor;
     QRect quietArea;

@@ -12,6 +12,7 @@
 #include <QTimerEvent>
 #include <QWheelEvent>
 
+#include <tern7/ui/controls/control_events.h>
 #include <tern7/ui/support/guarded.h>
 
 namespace tern7 {
@@ -22,20 +23,37 @@ bool TKPopupMenu::Selectable(int row) const {
     return row >= 0 && row < RowCount() && Row(row)->Enabled && !Row(row)->IsSeparator();
 }
 
+TMenuItem* TKPopupMenu::Row(int i) const {
+    if (i < 0 || i >= RowCount()) throw EDDLabelError(EDDLabelError::menuIndexOutOfRange);
+    return shown[static_cast<size_t>(i)];
+}
+
 QRect TKPopupMenu::RowRect(int i) const {
+    if (i < 0 || i >= RowCount()) throw EDDLabelError(EDDLabelError::menuIndexOutOfRange);
     return layout.rows[static_cast<size_t>(i)].translated(ViewRect().topLeft() - scroll);
 }
 
+int TKPopupMenu::RowAt(QPoint at) const {
+    const QRect view = ViewRect();
+    const int row = view.contains(at) ? layout.RowAt(at - view.topLeft() + scroll) : -1;
+    return row < RowCount() ? row : -1;
+}
+
 void TKPopupMenu::SetCurrentRow(int row) {
-    if (row == current) return;
-    if (current >= 0 && current < RowCount()) update(RowRect(current));
-    current = row;
-    if (row < 0) return;
-    ScrollTo(row);
-    update(RowRect(row));
+    if (row == current || row >= RowCount()) return;
+    MarkRow(row);
+    if (row >= 0) ScrollTo(row);
+}
+
+/// Without scrolling: below the mouse the rows stay where they are.
+void TKPopupMenu::MarkRow(int row) {
+    if (current >= 0) update(RowRect(current));
+    current = std::max(row, -1);
+    if (current < 0) return;
+    update(RowRect(current));
     if (!QAccessible::isActive()) return;
     QAccessibleEvent focus(this, QAccessible::Focus);
-    focus.setChild(row);
+    focus.setChild(current);
     QAccessible::updateAccessibility(&focus);
 }
 
@@ -87,9 +105,13 @@ void TKPopupMenu::ScrollBy(QPoint step) {
     update();
 }
 
+/// The strips with arrows leave the row free.
 void TKPopupMenu::ScrollTo(int row) {
     const QRect view = ViewRect();
-    const QRect place = RowRect(row);
+    const QRect content(view.topLeft() - scroll, layout.size);
+    const QRect place =
+        RowRect(row).marginsAdded({scrollerSize, scrollerSize, scrollerSize, scrollerSize}) &
+        content;
     const auto step = [](int begin, int end, int from, int to) {
         return begin < from ? begin - from : end > to ? std::min(end - to, begin - from) : 0;
     };
@@ -137,9 +159,9 @@ void TKPopupMenu::Hover(QPoint global) {
         if (!scrollTimer.isActive()) scrollTimer.start(60, this);
         return;
     }
-    const int row = layout.RowAt(at - ViewRect().topLeft() + scroll);
+    const int row = RowAt(at);
     if (row == current || !ViewRect().contains(at)) return;
-    SetCurrentRow(Selectable(row) ? row : -1);
+    MarkRow(Selectable(row) ? row : -1);
     const int delay = style()->styleHint(QStyle::SH_Menu_SubMenuPopupDelay, nullptr, this);
     hoverTimer.start(std::max(delay, 0), this);
 }
@@ -168,8 +190,7 @@ void TKPopupMenu::mousePressEvent(QMouseEvent* event) {
     }
     outermost.mouseUsed = true;
     menu->Hover(global);
-    const int row =
-        menu->layout.RowAt(menu->mapFromGlobal(global) - menu->ViewRect().topLeft() + menu->scroll);
+    const int row = menu->RowAt(menu->mapFromGlobal(global));
     if (row >= 0 && menu->Selectable(row) && menu->Row(row)->HasSubMenu())
         menu->OpenSub(row, false);
     else
@@ -182,8 +203,8 @@ void TKPopupMenu::mouseReleaseEvent(QMouseEvent* event) {
     TKPopupMenu* menu = MenuAt(global);
     if (!menu || !Outermost().mouseUsed) return;
     const QPoint at = menu->mapFromGlobal(global);
-    if (!menu->ViewRect().contains(at) || !menu->ScrollZone(at).isNull()) return;
-    const int row = menu->layout.RowAt(at - menu->ViewRect().topLeft() + menu->scroll);
+    if (!menu->ScrollZone(at).isNull()) return;
+    const int row = menu->RowAt(at);
     if (menu->Selectable(row) && !menu->Row(row)->HasSubMenu())
         Guarded(menu, [&] { menu->Activate(row); });
 }

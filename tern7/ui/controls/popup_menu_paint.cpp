@@ -1,7 +1,5 @@
 #include <tern7/ui/controls/popup_menu.h>
 
-#include <algorithm>
-
 #include <QPaintEvent>
 #include <QPainter>
 #include <QStyle>
@@ -9,12 +7,6 @@
 #include <QStyleOptionMenuItem>
 
 namespace tern7 {
-
-namespace {
-
-constexpr int scrollerSize = 14; // of the strips with arrows at the edges
-
-} // namespace
 
 TMenuMetrics TKPopupMenu::Metrics() const {
     QStyleOptionMenuItem option;
@@ -38,9 +30,7 @@ void TKPopupMenu::InitOption(QStyleOptionMenuItem& option, int row) const {
     option.state &= ~(QStyle::State_MouseOver | QStyle::State_HasFocus);
     option.font = font();
     option.menuRect = rect();
-    option.menuHasCheckableItems = std::any_of(shown.begin(), shown.end(), [](TMenuItem* item) {
-        return item->Checked || item->RadioItem;
-    });
+    option.menuHasCheckableItems = checkable;
     if (!images.isEmpty())
         option.maxIconWidth = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) + 4;
     if (row < 0) {

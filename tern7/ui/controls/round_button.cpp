@@ -74,14 +74,11 @@ void TKRndBtn::changeEvent(QEvent* event) {
 
 void TKRndBtn::keyPressEvent(QKeyEvent* event) {
     const int key = event->key();
-    const bool arrow =
-        key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
-    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
     if (key == Qt::Key_Return || key == Qt::Key_Enter)
         click();
-    else if (!arrow)
+    else if (!IsArrow(*event))
         QPushButton::keyPressEvent(event);
-    else if (!plain || !FocusNeighbour(*this, key))
+    else if (!FocusNeighbour(*this, *event))
         event->ignore();
 }
 

@@ -63,6 +63,12 @@ void TSilentEdit::focusOutEvent(QFocusEvent* event) {
     if (leaves) Guarded(this, [this] { Events.OnExit(this); });
 }
 
+/// A window that is closed by a key takes the focus from nobody, but what was typed counts.
+void TSilentEdit::hideEvent(QHideEvent* event) {
+    QLineEdit::hideEvent(event);
+    if (!event->spontaneous()) Guarded(this, [this] { Events.OnExit(this); });
+}
+
 void TSilentEdit::mouseDoubleClickEvent(QMouseEvent* event) {
     QLineEdit::mouseDoubleClickEvent(event);
     Guarded(this, [this] { Events.OnDblClick(this); });

@@ -169,6 +169,27 @@ TEST(Edit, FocusThatStays) {
     EXPECT_EQ(label->Value(), "abc");
 }
 
+TEST(Edit, TypedTextCountsWhenTheWindowCloses) {
+    for (const bool destroyed : {false, true}) {
+        auto form = std::make_unique<TControlForm>();
+        QPointer<TDropDownEdit> label = form->Add<TDropDownEdit>();
+        QStringList log;
+        Record(*label, log);
+        ASSERT_TRUE(form->Open());
+        label->DropDown();
+        Type("new");
+        if (destroyed) {
+            // What the handlers refer to may be gone: they are not called.
+            form.reset();
+            EXPECT_EQ(log, (QStringList{"before down", "after down"}));
+            continue;
+        }
+        form->close();
+        EXPECT_EQ(label->Value(), "new");
+        EXPECT_EQ(log.last(), "after up 1");
+    }
+}
+
 TEST(Edit, TabGoesOnBehindTheLabel) {
     TControlForm form;
     auto* first = form.Add<TDropDownEdit>(20, 20);

@@ -80,22 +80,28 @@ TEST(ListBox, ChosenByMouseThroughSorting) {
 
 TEST(ListBox, ChosenByKeys) {
     const struct {
+        QString before;
         std::initializer_list<Qt::Key> keys;
         QString value;
         bool accepted;
     } cases[] = {
-        {{Qt::Key_Down, Qt::Key_Return}, "cherry", true},
-        {{Qt::Key_Return}, "apple", true},
-        {{Qt::Key_End, Qt::Key_Enter}, "banana", true},
-        {{Qt::Key_C, Qt::Key_Return}, "cherry", true},
-        {{Qt::Key_Down, Qt::Key_Escape}, "apple", false},
-        {{Qt::Key_Down, Qt::Key_Tab}, "cherry", true}, // leaving accepts
+        {"apple", {Qt::Key_Down, Qt::Key_Return}, "cherry", true},
+        {"apple", {Qt::Key_Return}, "apple", true},
+        {"apple", {Qt::Key_End, Qt::Key_Enter}, "banana", true},
+        {"apple", {Qt::Key_C, Qt::Key_Return}, "cherry", true},
+        {"apple", {Qt::Key_Down, Qt::Key_Escape}, "apple", false},
+        {"apple", {Qt::Key_Down, Qt::Key_Tab}, "cherry", true}, // leaving accepts
+        // no row is selected: none is taken
+        {"melon", {Qt::Key_Return}, "melon", true},
+        {"melon", {Qt::Key_Z, Qt::Key_Tab}, "melon", true},
+        {"melon", {Qt::Key_Down, Qt::Key_Return}, "pear", true},
+        {"melon", {Qt::Key_End, Qt::Key_Return}, "banana", true},
     };
     for (const auto& c : cases) {
         TOpenList<TDropDownListBox> t(fruits);
-        t.label->SetValue("apple");
+        t.label->SetValue(c.before);
         ASSERT_TRUE(t.Open());
-        EXPECT_EQ(ListOf(t.label)->currentIndex().row(), 1);
+        EXPECT_EQ(ListOf(t.label)->selectionModel()->isRowSelected(1), c.before == "apple");
         Press(c.keys);
         EXPECT_EQ(t.label->Value(), c.value);
         EXPECT_EQ(t.log.last(), QString("after up %1").arg(c.accepted));
@@ -140,6 +146,11 @@ TEST(ListBox, SearchInTenThousandItems) {
     Type("99");
     Press({Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(t.label->Value(), "item 199");
+
+    t.label->DropDown();
+    Type("nowhere");
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(t.label->Dropped());
 }
 
 TEST(CheckList, ValueIsCommaText) {
@@ -154,6 +165,9 @@ TEST(CheckList, ValueIsCommaText) {
     Press({Qt::Key_End, Qt::Key_Space, Qt::Key_Return});
     EXPECT_EQ(t.label->Value(), "\"a, b\",\"new york\"");
     EXPECT_EQ(t.label->Caption(), "a, b, New York");
+    EXPECT_EQ(t.label->ItemIndex(), -1);
+    t.label->SetValue("rome");
+    EXPECT_EQ(t.label->ItemIndex(), 2);
 }
 
 TEST(CheckList, WhatClosesIt) {
@@ -211,15 +225,25 @@ TEST(CheckListBox, MarksAndSelection) {
     ClickAt(box->viewport(), box->visualRect(box->model()->index(1, 0)).center());
     EXPECT_FALSE(box->Checked(1));
     EXPECT_EQ(clicks, 2);
+    EXPECT_THROW(box->Checked(4), EDDLabelError);
+    EXPECT_THROW(box->SetChecked(-1, true), EDDLabelError);
+    QObject::connect(box, &TKCheckListBox::checkChanged, [&] { delete box; });
+    const QPointer<TKCheckListBox> alive(box);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Press(Qt::Key_Space);
+    EXPECT_FALSE(alive);
 }
 
 TEST(ListBox, DestroyedWhileOpen) {
     for (const QString event :
-         {"outside", "form", "after down", "before up", "value", "after up", "cleared"}) {
+         {"outside", "form", "image", "after down", "before up", "value", "after up", "cleared"}) {
         SCOPED_TRACE(event.toStdString());
         auto t = std::make_unique<TOpenList<TDropDownListBox>>(fruits);
         const QPointer<TDropDownListBox> label = t->label;
         const auto die = [label] { delete label; };
+        label->SetImages({QIcon()});
+        if (event == "image")
+            label->OnGetItemImageIndex = [=](const QString&, const QString&, int&) { die(); };
         if (event == "after down") label->AfterDropDown = [=](TDropDownLabel*) { die(); };
         if (event == "before up")
             label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };

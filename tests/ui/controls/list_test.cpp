@@ -95,13 +95,33 @@ TEST(List, GroupsAndClearing) {
     EXPECT_EQ(list.ItemIndex(), -1);
 }
 
-TEST(List, HandlerDeletesListWhileIndexIsSet) {
-    auto* list = new TDropDownList;
-    AddOrders(*list);
-    QObject::connect(list, &TDropDownLabel::valueChanged, [&] { delete list; });
-    QSignalSpy destroyed(list, &QObject::destroyed);
-    list->SetItemIndex(1);
-    EXPECT_EQ(destroyed.count(), 1);
+TEST(List, HandlerSeesTheCaptionAndMayChooseAnother) {
+    TDropDownList list;
+    AddOrders(list);
+    QStringList seen;
+    QObject::connect(&list, &TDropDownLabel::valueChanged, [&](const QString& value) {
+        seen << value + ' ' + list.Caption();
+        if (value == "1") list.SetItemIndex(2);
+    });
+    list.SetItemIndex(1);
+    EXPECT_EQ(seen, (QStringList{"1 Ascending", "2 Descending"}));
+    EXPECT_EQ(list.ItemIndex(), 2);
+    EXPECT_EQ(list.Caption(), "Descending");
+}
+
+TEST(List, HandlerDeletesList) {
+    for (const bool clear : {false, true}) {
+        auto* list = new TDropDownList;
+        AddOrders(*list);
+        if (clear) list->SetItemIndex(1);
+        QObject::connect(list, &TDropDownLabel::valueChanged, [&] { delete list; });
+        QSignalSpy destroyed(list, &QObject::destroyed);
+        if (clear)
+            list->ClearAll();
+        else
+            list->SetItemIndex(1);
+        EXPECT_EQ(destroyed.count(), 1);
+    }
 }
 
 } // namespace tern7

@@ -128,6 +128,49 @@ TEST(DateTimeEdit, Values) {
     QLocale::setDefault(QLocale::c());
 }
 
+TEST(DateTimeEdit, TextIsWholeAndKeepsItsOrder) {
+    TControlForm form;
+    auto* label = form.Add<TDropDownDateTimeEdit>(200, 20);
+    label->SetValue("2024-01-02");
+    label->SetBiDiMode(Qt::RightToLeft);
+    ASSERT_TRUE(form.Open());
+    label->DropDown();
+    const auto* text = label->EditControl()->findChild<QLineEdit*>();
+    EXPECT_EQ(text->text(), "2 Jan 2024");
+    EXPECT_EQ(text->height(), label->height() - 2);
+    EXPECT_EQ(label->EditControl()->geometry().right(), label->geometry().right());
+}
+
+TEST(Editors, DoubleClickHandlerChangesTextOrNothing) {
+    const struct {
+        bool mask;
+        QString answer, result;
+    } cases[] = {
+        {true, "", "does not fit"},          {true, "0811", "0811"},
+        {false, "", "does not fit"},         {false, "no date", "does not fit"},
+        {false, "2021-03-03", "3 Mar 2021"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.answer.toStdString());
+        TControlForm form;
+        auto* mask = form.Add<TDropDownMaskEdit>();
+        mask->SetEditMask("99/99");
+        TDropDownCustomEdit* label = mask;
+        if (!c.mask) label = form.Add<TDropDownDateTimeEdit>();
+        label->OnEditDblClick = [&](TDropDownLabel*, QString& text) {
+            if (!c.answer.isEmpty()) text = c.answer;
+        };
+        label->SetValue("does not fit");
+        ASSERT_TRUE(form.Open());
+        label->DropDown();
+        QWidget* editor = label->EditControl();
+        if (!c.mask) editor = editor->findChild<QLineEdit*>();
+        QTest::mouseDClick(editor, Qt::LeftButton);
+        ClickAt(form.neighbour, {5, 5});
+        EXPECT_EQ(label->Value(), c.result);
+    }
+}
+
 TEST(DateTimeEdit, DestroyedWhileOpen) {
     TControlForm form;
     QPointer<TDropDownDateTimeEdit> label = form.Add<TDropDownDateTimeEdit>();

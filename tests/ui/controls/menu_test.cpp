@@ -123,11 +123,15 @@ TEST(PopupMenu, SplitsEveryLevel) {
     TControlForm form;
     ASSERT_TRUE(form.Open());
     TKPopupMenu menu(&form);
+    EXPECT_TRUE(menu.FitToScreen());
+    EXPECT_EQ(menu.PopupSplitType(), pstBalanced);
     TMenuItem& deep = menu.Items().Add("deep");
     for (int i = 0; i < 200; ++i)
         deep.Add("x").Break = TMenuBreak::mbBreak;
-    menu.SetBreakType(TMenuBreak::mbBarBreak);
     menu.Popup(10, 10);
+    EXPECT_THROW(menu.Row(1), EDDLabelError);
+    menu.SetCurrentRow(1);
+    EXPECT_EQ(menu.CurrentRow(), -1);
     int breaks = 0, plain = 0;
     for (int i = 0; i < deep.Count(); ++i) {
         breaks += deep.Items(i).Break == TMenuBreak::mbBarBreak;
@@ -140,8 +144,29 @@ TEST(PopupMenu, SplitsEveryLevel) {
     EXPECT_FALSE(menu.isVisible() && menu.RowCount() == 0);
     menu.Popup(10, 10);
     EXPECT_EQ(deep.Items(7).Break, TMenuBreak::mbBreak);
+    menu.SetCurrentItem(&deep.Items(7));
     deep.Clear(); // under an open menu
     EXPECT_FALSE(menu.isVisible());
+    EXPECT_EQ(menu.RowCount(), 0);
+    menu.Popup(10, 10);
+    EXPECT_EQ(menu.RowCount(), 1);
+}
+
+TEST(PopupMenu, ArrowStripsLeaveTheRowFree) {
+    TControlForm form;
+    ASSERT_TRUE(form.Open());
+    TKPopupMenu menu(&form);
+    for (int i = 0; i < 200; ++i)
+        menu.Items().Add("x");
+    menu.SetFitToScreen(false);
+    menu.Popup(10, 10);
+    const int strip = 14;
+    const QRect free = menu.rect().adjusted(0, menu.SearchField()->height() + strip, 0, -strip);
+    for (const int row : {100, 199, 50, 0}) {
+        menu.SetCurrentRow(row);
+        const bool atAnEnd = row == 0 || row == 199;
+        EXPECT_TRUE((atAnEnd ? menu.rect() : free).contains(menu.RowRect(row))) << row;
+    }
 }
 
 TEST(Popup, ChosenByMouse) {
@@ -240,7 +265,15 @@ TEST(Popup, SeparatorsAndDisabledItemsAreNotChosen) {
     t.label->AddItem("", "off", "b");
     t.label->AddItem("-", "never seen", "c");
     t.label->AddItem("", "on", "d");
+    QStringList asked;
+    t.label->OnGetGroupImageIndex = [&](const QString& group, int&) { asked << group; };
+    t.label->OnGetItemImageIndex = [&](const QString& group, const QString& item, int& image) {
+        asked << group + '/' + item;
+        image = 4;
+    };
     ASSERT_TRUE(t.Open());
+    EXPECT_EQ(asked, (QStringList{"/off", "/on", "-/never seen"}));
+    EXPECT_EQ(t.label->Menu()->Row(1)->ImageIndex, 4);
     TKPopupMenu* menu = t.label->Menu();
     EXPECT_EQ(Rows(menu), (QStringList{"-", "off", "on", "-"}));
     menu->Items().Items(1).Enabled = false;
@@ -347,16 +380,39 @@ TEST(Popup, Veto) {
     t.label->SetItemIndex(1);
     QString seen;
     t.label->BeforeDropUp = [&](TDropDownLabel* sender, const QString&, bool& accept) {
-        seen = sender->Value();
+        seen += sender->Value();
         accept = false;
+    };
+    t.label->AfterDropUp = [&](TDropDownLabel* sender, bool accepted) {
+        seen += ' ' + sender->Value() + ' ' + QString::number(accepted);
     };
     ASSERT_TRUE(t.Open());
     Press({Qt::Key_Down, Qt::Key_Return});
-    EXPECT_EQ(seen, "i2");
+    EXPECT_EQ(seen, "i2 i1 0");
     EXPECT_EQ(t.label->Value(), "i1");
     EXPECT_EQ(t.label->ItemIndex(), 1);
     EXPECT_EQ(t.label->Caption(), "Item 1");
-    EXPECT_EQ(t.log.last(), "after up 0");
+}
+
+TEST(Popup, ErrorInAChoiceLeavesTheLabelIdle) {
+    TOpenPopup t;
+    t.label->SetValues({"i0"}); // two items without a value
+    ASSERT_TRUE(t.Open());
+    Press({Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(t.WaitForEnd().last(), "after up 0");
+    t.label->DropDown();
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(t.WaitForEnd().size(), 8);
+    EXPECT_EQ(t.label->Value(), "");
+}
+
+TEST(Popup, WorksOffItsParent) {
+    TOpenPopup t;
+    ASSERT_TRUE(t.label->Menu());
+    t.label->setParent(nullptr);
+    t.label->DropDown();
+    EXPECT_TRUE(t.label->Menu()->isVisible());
+    delete t.label;
 }
 
 TEST(Popup, WrongSplitIsReportedAndLeavesTheLabelIdle) {
@@ -383,12 +439,15 @@ TEST(Popup, WrongSplitIsReportedAndLeavesTheLabelIdle) {
 }
 
 TEST(Popup, DestroyedWhileOpen) {
-    for (const QString event : {"outside", "form", "after down", "before up", "value", "after up",
-                                "dismissed", "cleared"}) {
+    for (const QString event : {"outside", "form", "group", "item", "after down", "before up",
+                                "value", "after up", "dismissed", "cleared"}) {
         SCOPED_TRACE(event.toStdString());
         auto t = std::make_unique<TOpenPopup>();
         const QPointer<TDropDownPopup> label = t->label;
         const auto die = [label] { delete label; };
+        if (event == "group") label->OnGetGroupImageIndex = [=](const QString&, int&) { die(); };
+        if (event == "item")
+            label->OnGetItemImageIndex = [=](const QString&, const QString&, int&) { die(); };
         if (event == "after down") label->AfterDropDown = [=](TDropDownLabel*) { die(); };
         if (event == "before up")
             label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };
