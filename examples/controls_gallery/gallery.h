@@ -19,14 +19,19 @@ public:
         AddEdits();
         AddLists();
         AddButtons();
+        AddMenus();
     }
 
     tern7::TDropDownEdit* edit = nullptr;
+    tern7::TDropDownMaskEdit* mask = nullptr;
     tern7::TDropDownDateTimeEdit* date = nullptr;
     tern7::TDropDownPopup* popup = nullptr;
     tern7::TDropDownPopup* longPopup = nullptr;
     tern7::TDropDownListBox* listBox = nullptr;
     tern7::TDropDownCheckListBox* checkList = nullptr;
+    tern7::TKPopupMenu* menu = nullptr; ///< rows of every kind
+    tern7::TKPopupMenu* scrolled = nullptr;
+    tern7::TKRndBtn* button = nullptr;
 
 private:
     template <class Control>
@@ -61,7 +66,7 @@ private:
         auto* upper = Add<TDropDownEdit>("Upper case");
         upper->SetAutoUpperCase(true);
         upper->SetValue("abc");
-        auto* mask = Add<TDropDownMaskEdit>("Telephone", "(030) 123-4567");
+        mask = Add<TDropDownMaskEdit>("Telephone", "(030) 123-4567");
         mask->SetEditMask("(000) 000-0000");
         mask->SetUseFormattedValue(true);
         date = Add<TDropDownDateTimeEdit>("Date", "2024-01-02");
@@ -94,11 +99,39 @@ private:
         checkList->SetItems({"Paid", "Open", "Sent back"});
         checkList->SetValues({"P", "O", "S"});
         checkList->SetValue("P,S");
+        auto* box = Add<TKCheckListBox>("Check list box");
+        box->SetItems({"Monday", "Tuesday", "Wednesday"});
+        box->SetChecked(1, true);
+        box->setFixedHeight(3 * box->sizeHintForRow(0) + 2 * box->frameWidth());
+    }
+
+    void AddMenus() {
+        using namespace tern7;
+        menu = new TKPopupMenu(this);
+        menu->setAccessibleName("Menu");
+        menu->Items().Add("&Copy");
+        menu->Items().Add("Off").Enabled = false;
+        menu->Items().Add("-");
+        menu->Items().Add("Checked").Checked = true;
+        for (const bool on : {true, false}) {
+            TMenuItem& item = menu->Items().Add(on ? "This one" : "Or this one");
+            item.RadioItem = true;
+            item.Checked = on;
+        }
+        for (const char* text : {"Right", "Left"})
+            menu->Items().Add(text).Break = TMenuBreak::mbBarBreak;
+        menu->SetFitToScreen(false); // the breaks above count
+        scrolled = new TKPopupMenu(this);
+        scrolled->SetFitToScreen(false);
+        for (int i = 1; i <= 100; ++i)
+            scrolled->Items().Add(QString("Item %1").arg(i));
+        scrolled->SetCurrentItem(&scrolled->Items().Items(69));
     }
 
     void AddButtons() {
         using namespace tern7;
-        Add<TKRndBtn>("Round button")->SetCaption("1");
+        button = Add<TKRndBtn>("Round button");
+        button->SetCaption("1");
         auto* square = Add<TKRndBtn>("Square button");
         square->SetCaption("Columns");
         square->SetRoundCorners(false);
@@ -116,6 +149,9 @@ private:
         auto* checked = Add<TFlatCheckBox>("Checked box");
         checked->setText("Row is on");
         checked->setChecked(true);
+        auto* partly = Add<TFlatCheckBox>("Partly checked box");
+        partly->setText("Rows are on");
+        partly->setCheckState(Qt::PartiallyChecked);
         auto* disabled = Add<TFlatCheckBox>("Disabled check box");
         disabled->setText("Row is on");
         disabled->setChecked(true);

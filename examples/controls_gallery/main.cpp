@@ -32,12 +32,17 @@ void SavePictures(const QDir& folder, const QString& look) {
         QCoreApplication::processEvents();
     };
     save("closed");
+    gallery.button->setFocus();
+    save("focus");
     gallery.edit->DropDown();
     save("edit");
     discard(gallery.edit);
     gallery.date->DropDown();
     save("date");
     discard(gallery.date);
+    gallery.mask->DropDown();
+    save("mask");
+    discard(gallery.mask);
     gallery.popup->DropDown();
     Key(Qt::Key_End);
     Key(gallery.layoutDirection() == Qt::RightToLeft ? Qt::Key_Left : Qt::Key_Right);
@@ -54,6 +59,12 @@ void SavePictures(const QDir& folder, const QString& look) {
     gallery.checkList->DropDown();
     save("check-list");
     discard(gallery.checkList);
+    const QPoint at = gallery.mapToGlobal(QPoint(gallery.width() / 2, 60));
+    for (tern7::TKPopupMenu* menu : {gallery.menu, gallery.scrolled}) {
+        menu->Popup(at.x(), at.y());
+        save(menu == gallery.menu ? "menu" : "scrolled-menu");
+        menu->hide();
+    }
 }
 
 } // namespace

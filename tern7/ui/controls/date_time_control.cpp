@@ -43,6 +43,12 @@ bool TDateTimeControl::eventFilter(QObject* watched, QEvent* event) {
     return QDateTimeEdit::eventFilter(watched, event);
 }
 
+/// Typing begins with the first part, also where Qt would begin from the right.
+void TDateTimeControl::focusInEvent(QFocusEvent* event) {
+    QDateTimeEdit::focusInEvent(event);
+    if (event->reason() == Qt::OtherFocusReason) setSelectedSection(sectionAt(0));
+}
+
 void TDateTimeControl::focusOutEvent(QFocusEvent* event) {
     const bool leaves = LeavesControl(*event);
     QDateTimeEdit::focusOutEvent(event);

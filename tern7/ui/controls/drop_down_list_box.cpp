@@ -72,6 +72,7 @@ void TDropDownListBox::ShowControl() {
     TDropDownList::ShowControl();
     if (!desktop) return DropUp(false);
     desktop->setFont(font());
+    desktop->setAccessibleName(accessibleName());
     desktop->List().setAccessibleName(accessibleName());
     FillList();
     const QPointer<TDropDownListBox> alive(this);

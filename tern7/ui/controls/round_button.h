@@ -7,7 +7,7 @@ namespace tern7 {
 
 /// A small push button: square or with round corners, with or without a body of its own ("flat"),
 /// with colours for the mouse above it and for being pressed. Colours that are not set come from
-/// the palette. Space and the mouse press it.
+/// the palette. Space, Enter and the mouse press it.
 class TKRndBtn : public QPushButton {
     Q_OBJECT
     Q_PROPERTY(QString Caption READ Caption WRITE SetCaption)

@@ -57,6 +57,22 @@ TEST(Gallery, AccessibleTree) {
     text += "--- search in the long popup menu\n" + Tree(*gallery.longPopup->Menu());
     gallery.longPopup->DropUp(false);
 
+    gallery.menu->Popup(10, 10);
+    text += "--- menu with rows of every kind\n" + Tree(*gallery.menu);
+    gallery.menu->hide();
+    for (TDropDownLabel* label :
+         std::initializer_list<TDropDownLabel*>{gallery.listBox, gallery.checkList}) {
+        label->DropDown();
+        text += "--- open list\n" + Tree(*label->EditControl()->window());
+        label->DropUp(false);
+    }
+    for (TDropDownLabel* label :
+         std::initializer_list<TDropDownLabel*>{gallery.edit, gallery.mask, gallery.date}) {
+        label->DropDown();
+        text += "--- open editor\n" + Tree(*label->EditControl());
+        label->DropUp(false);
+    }
+
     QFile file(QFile::decodeName(TERN7_TESTS_DIR) + "/ui/controls/gallery_tree.txt");
     if (qEnvironmentVariableIsSet("TERN7_RENEW")) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -139,6 +139,9 @@ TEST(DateTimeEdit, TextIsWholeAndKeepsItsOrder) {
     EXPECT_EQ(text->text(), "2 Jan 2024");
     EXPECT_EQ(text->height(), label->height() - 2);
     EXPECT_EQ(label->EditControl()->geometry().right(), label->geometry().right());
+    Type("7");
+    Press(Qt::Key_Return);
+    EXPECT_EQ(label->Value(), "7 Jan 2024");
 }
 
 TEST(Editors, DoubleClickHandlerChangesTextOrNothing) {
