@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/guarded.h>
 
 namespace tern7 {
@@ -42,6 +43,13 @@ void TKCheckListBox::Toggle(const QModelIndex& index) {
     for (const QModelIndex& row : changed)
         if (alive) itemModel.SetChecked(itemModel.ItemOf(row.row()), on);
     if (alive) OnClickCheck(this);
+}
+
+/// Styles draw the frame of a check mark darker than the window; on dark ground nobody sees it.
+void TKCheckListBox::initViewItemOption(QStyleOptionViewItem* option) const {
+    QListView::initViewItemOption(option);
+    if (IsDark(option->palette))
+        option->palette.setColor(QPalette::Window, option->palette.color(QPalette::Text));
 }
 
 void TKCheckListBox::keyPressEvent(QKeyEvent* event) {

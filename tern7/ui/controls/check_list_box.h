@@ -38,6 +38,7 @@ signals:
     void checkChanged(int item);
 
 protected:
+    void initViewItemOption(QStyleOptionViewItem* option) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;

@@ -13,7 +13,6 @@
 #include <tern7/ui/controls/item_list_model.h>
 #include <tern7/ui/controls/popup_place.h>
 #include <tern7/ui/controls/text_search.h>
-#include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/guarded.h>
 
 namespace tern7 {
@@ -28,14 +27,6 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 4);
-    }
-
-protected:
-    /// Styles draw the frame of a check mark darker than the window; on dark ground nobody sees it.
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (IsDark(option->palette))
-            option->palette.setColor(QPalette::Window, option->palette.color(QPalette::Text));
     }
 };
 

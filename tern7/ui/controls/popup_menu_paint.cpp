@@ -40,6 +40,7 @@ void TKPopupMenu::InitOption(QStyleOptionMenuItem& option, int row) const {
     const TMenuItem& item = *Row(row);
     option.rect = layout.rows[static_cast<size_t>(row)];
     option.state.setFlag(QStyle::State_Enabled, item.Enabled);
+    if (!item.Enabled) option.palette.setCurrentColorGroup(QPalette::Disabled);
     option.state.setFlag(QStyle::State_Selected, row == current);
     option.menuItemType = item.IsSeparator()  ? QStyleOptionMenuItem::Separator
                           : item.HasSubMenu() ? QStyleOptionMenuItem::SubMenu
@@ -80,8 +81,10 @@ void TKPopupMenu::DrawRows(QPainter& painter, const QRect& clip) const {
     painter.setClipRect(view & clip);
     painter.translate(view.topLeft() - scroll);
     const QRect seen = (view & clip).translated(scroll - view.topLeft());
+    QColor line = palette().color(QPalette::WindowText); // seen on light and dark ground
+    line.setAlpha(70);
     for (const QRect& bar : layout.bars)
-        painter.fillRect(bar.center().x(), bar.top(), 1, bar.height(), palette().mid());
+        painter.fillRect(bar.center().x(), bar.top(), 1, bar.height(), line);
     for (int i = 0; i < RowCount(); ++i) {
         if (!layout.rows[static_cast<size_t>(i)].intersects(seen)) continue;
         QStyleOptionMenuItem option;

@@ -169,6 +169,18 @@ TEST(PopupMenu, ArrowStripsLeaveTheRowFree) {
     }
 }
 
+TEST(PopupMenu, DisabledItemLooksDisabled) {
+    TControlForm form;
+    ASSERT_TRUE(form.Open());
+    TKPopupMenu menu(&form);
+    for (const bool enabled : {true, true, false})
+        menu.Items().Add("Item").Enabled = enabled;
+    menu.Popup(10, 10);
+    const auto picture = [&](int row) { return menu.grab(menu.RowRect(row)).toImage(); };
+    EXPECT_EQ(picture(0), picture(1));
+    EXPECT_NE(picture(1), picture(2));
+}
+
 TEST(Popup, ChosenByMouse) {
     TOpenPopup t;
     ASSERT_TRUE(t.Open());
