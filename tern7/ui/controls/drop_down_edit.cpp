@@ -24,7 +24,7 @@ void TDropDownCustomEdit::Listen(TEditorEvents& events) {
 /// gone: they are not asked any more.
 bool TDropDownCustomEdit::IsWindowDestroyed() const {
     const QWidget& now = *window();
-    return !openIn || *openIn != typeid(now);
+    return openIn == &now && *openInClass != typeid(now);
 }
 
 void TDropDownCustomEdit::ValueChanged() {
@@ -50,8 +50,9 @@ void TDropDownCustomEdit::ShowControl() {
     const QPointer<QWidget> editor = EditControl();
     if (!editor) return DropUp(false);
     const QPointer<TDropDownLabel> alive(this);
-    const QWidget& opener = *window();
-    openIn = &typeid(opener);
+    openIn = window();
+    const QWidget& opener = *openIn;
+    openInClass = &typeid(opener);
     editor->setFont(font());
     editor->setAccessibleName(accessibleName());
     editor->setLayoutDirection(layoutDirection());

@@ -71,7 +71,8 @@ private:
     TValueType valueType = TValueType::vtString;
     int options = 0;
     QColor borderColor;
-    const std::type_info* openIn = nullptr; // the class of the window at that time
+    QPointer<QWidget> openIn; // the window, and its class while it lived
+    const std::type_info* openInClass = nullptr;
 };
 
 using TValueType = TDropDownCustomEdit::TValueType;
