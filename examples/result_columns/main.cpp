@@ -106,8 +106,7 @@ void SavePictures(const char* structureFile, const QDir& folder, const QString& 
     save(editor, "editor");
     editor.Draft()->SetExpression(3, "SUM({Unit price} * {Quantty})");
     editor.ColumnsView()->setFocus();
-    editor.ColumnsView()->selectRow(2);
-    editor.ColumnsView()->selectRow(3);
+    editor.ColumnsView()->setCurrentIndex(editor.ColumnsView()->model()->index(3, 1));
     editor.Fields()->SearchField()->setText("name");
     save(editor, "problem");
     T_dlgTitlesEdit titlesEditor(&window);

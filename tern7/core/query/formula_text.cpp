@@ -153,6 +153,25 @@ std::optional<size_t> UnclosedAt(std::string_view expression) {
     return open.front();
 }
 
+std::optional<size_t> CommentOrEndAt(std::string_view expression) {
+    std::optional<size_t> found;
+    Walk(expression, [&](size_t i, int) {
+        const std::string_view two = expression.substr(i, 2);
+        if (!found && (two == "--" || two == "/*" || two.front() == ';')) found = i;
+    });
+    return found;
+}
+
+bool HoldsWords(std::string_view expression) {
+    bool found = false;
+    Walk(expression, [&](size_t i, int) {
+        const bool letter =
+            IsLetter(expression[i]) || static_cast<unsigned char>(expression[i]) > 127;
+        found = found || letter;
+    });
+    return found;
+}
+
 std::string JoinedBy(char operation, std::string_view expression, std::string_view operand) {
     const TAggregateParts parts = SplitAggregate(expression);
     if (parts.inner.empty()) return WithAggregate(operand, parts.aggregate);

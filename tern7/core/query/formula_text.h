@@ -32,6 +32,13 @@ bool HoldsAggregate(std::string_view expression);
 /// Offset of the first round bracket or quote that has no counterpart.
 std::optional<size_t> UnclosedAt(std::string_view expression);
 
+/// Offset of the first comment or semicolon, which would change or end the statement around the
+/// expression.
+std::optional<size_t> CommentOrEndAt(std::string_view expression);
+
+/// True when a letter stands outside of literals, quoted names and braces.
+bool HoldsWords(std::string_view expression);
+
 /// An expression and an operand joined by + - * or /, with brackets where the meaning would change.
 /// A function around the expression goes on to stand around the whole. An empty expression gives
 /// the operand.

@@ -2,6 +2,7 @@
 // them, and as SQL expressions.
 
 #include <algorithm>
+#include <optional>
 
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/global/messages.h>
@@ -137,12 +138,12 @@ void TResultField::ProcessExpression(std::string_view expression) {
     const TKCustomDBStructure& structure = owner->Query()->RequireStruct();
     TFormulaFields used;
     std::string text;
-    bool literalPlaceholder = false;
+    std::optional<size_t> literalPlaceholder; // the literal that holds one
     for (size_t i = 0; i < expression.size();) {
         if (expression[i] == '\'') {
             const size_t end = SkipQuoted(expression, i);
-            literalPlaceholder =
-                literalPlaceholder || HoldsPlaceholder(expression.substr(i, end - i));
+            if (!literalPlaceholder && HoldsPlaceholder(expression.substr(i, end - i)))
+                literalPlaceholder = i;
             text += expression.substr(i, end - i);
             i = end;
             continue;
@@ -168,7 +169,7 @@ void TResultField::ProcessExpression(std::string_view expression) {
     std::vector<TDSField*> fieldsUsed = used.Take();
     if (literalPlaceholder && !fieldsUsed.empty())
         throw EKExpressionError(FormatMessage(messages::PlaceholderInLiteral, {expression}),
-                                expression.find('@'));
+                                *literalPlaceholder);
     SetFields(std::move(fieldsUsed), std::move(text));
 }
 

@@ -41,6 +41,18 @@ TStrings MergeSections(const TStrings& defaults, const TKTitleSections& texts) {
     return result;
 }
 
+/// Whether the texts have one for a key of the defaults.
+bool HoldsTitles(const TStrings& defaults, const TKTitleSections& texts) {
+    const bool isFlat = TKTitleSections(defaults).IsFlat();
+    std::string_view section;
+    for (const std::string& line : defaults) {
+        if (IsTitleSection(line, section)) continue;
+        const std::string_view key = LineName(line);
+        if (!(isFlat ? texts.Text(key) : texts.Text(section, key)).empty()) return true;
+    }
+    return false;
+}
+
 } // namespace
 
 void LoadTitlesFromStrings(const TStrings& defaults, TStrings& dest, const TStrings& source) {
@@ -57,7 +69,9 @@ TKLoadedTitles LoadTitlesFile(const TStrings& defaults, const std::string& fileN
     const TKDecodedText file = DecodeTextFile(ReadWholeFile(fileName));
     TKLoadedTitles result;
     result.wasWindows1252 = file.wasWindows1252;
-    LoadTitlesFromStrings(defaults, result.titles, SplitLines(file.text));
+    const TStrings lines = SplitLines(file.text);
+    result.isForeign = !Trim(file.text).empty() && !HoldsTitles(defaults, TKTitleSections(lines));
+    LoadTitlesFromStrings(defaults, result.titles, lines);
     return result;
 }
 

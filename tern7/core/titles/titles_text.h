@@ -20,6 +20,7 @@ void LoadOldTitlesFromStrings(TStrings& titles, const TStrings& values);
 struct TKLoadedTitles {
     TStrings titles;
     bool wasWindows1252 = false; ///< the file was no UTF-8 and was read as Windows-1252
+    bool isForeign = false;      ///< the file has text, but none for any of the keys
 };
 /// A titles file, or a query file with title sections, merged over the defaults. EKTernError when
 /// the file can not be read.

@@ -10,6 +10,7 @@
 #include <tern7/core/structure/offered_fields.h>
 #include <tern7/ui/controls/text_search.h>
 #include <tern7/ui/support/text.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -79,7 +80,7 @@ void TFieldTree::Fill(const TKCustomDBStructure& source) {
         auto* item = group ? new QTreeWidgetItem(group) : new QTreeWidgetItem(tree);
         item->setText(0,
                       ToQt(group ? offered.field->DisplayName() : texts.FieldText(*offered.field)));
-        item->setToolTip(0, ToQt(texts.FieldText(*offered.field)).toHtmlEscaped());
+        item->setToolTip(0, ToolTipText(ToQt(texts.FieldText(*offered.field))));
         item->setData(0, fieldRole, offered.field->ID());
     }
     if (tree->topLevelItemCount() == 1) tree->topLevelItem(0)->setExpanded(true);

@@ -22,12 +22,18 @@ TResultFieldsDraft::TResultFieldsDraft(const TRFieldList& source)
 
 namespace {
 
-void RequireClosed(const std::string& text) {
+/// What would change the statement around the column.
+void RequireWhole(const std::string& text) {
     if (const std::optional<size_t> at = UnclosedAt(text))
         throw EKExpressionError(
             FromQt(QCoreApplication::translate("tern7::T_dlgRFieldsEdit",
                                                "A bracket or quote has no counterpart")),
             *at);
+    if (const std::optional<size_t> at = CommentOrEndAt(text))
+        throw EKExpressionError(FromQt(QCoreApplication::translate(
+                                    "tern7::T_dlgRFieldsEdit",
+                                    "A comment or semicolon can not stand in an expression")),
+                                *at);
 }
 
 } // namespace
@@ -42,13 +48,18 @@ int TResultFieldsDraft::FirstUnfinished() const {
     return -1;
 }
 
+bool TResultFieldsDraft::LacksFields(int i) const {
+    if (Row(i).problem || Column(i).GetDSFieldCount() > 0) return false;
+    return HoldsWords(SplitAggregate(Column(i).Formula()).inner);
+}
+
 bool TResultFieldsDraft::SetExpression(int i, const std::string& text) {
     TRow& row = Row(i);
     if (text == Expression(i)) return !row.problem;
     try {
         // an unchanged formula is not read again, and a text that is the old one again changes none
         if (text != row.column->GetExpression()) {
-            RequireClosed(text);
+            RequireWhole(text);
             row.column->ProcessExpression(text);
             row.changed = true;
         }
@@ -174,18 +185,22 @@ void TResultFieldsDraft::MoveSorted(int from, int to) {
 
 void TResultFieldsDraft::Apply(TRFieldList& target) const {
     const TKQueryUpdate update(*target.Query());
-    std::unordered_set<const TResultField*> kept;
+    // the list may have been changed behind an open dialog: a column that went comes as a new one
+    std::unordered_set<const TResultField*> present, kept;
+    for (const auto& column : target)
+        present.insert(column.get());
     for (const TRow& row : rows)
-        if (row.origin) kept.insert(row.origin);
+        if (present.contains(row.origin)) kept.insert(row.origin);
     for (int i = target.GetCount() - 1; i >= 0; --i)
         if (!kept.contains(target[i])) target.Delete(i);
     for (int i = 0; i < Count(); ++i) {
         const TRow& row = Row(i);
-        if (!row.origin)
+        const bool isNew = !kept.contains(row.origin);
+        if (isNew)
             target.New(i);
         else if (target[i] != row.origin)
             target.Move(target.IndexOf(row.origin), i);
-        if (row.changed) target[i]->Assign(*row.column);
+        if (isNew || row.changed) target[i]->Assign(*row.column);
     }
     target.SetJustSorting(JustSorting());
 }

@@ -16,7 +16,7 @@ namespace tern7 {
 /// Positions are 0-based; a wrong one is our own mistake (std::out_of_range).
 class TResultFieldsDraft {
 public:
-    /// The list must stay as it is while the draft lives, and have a structure.
+    /// The list must have a structure.
     explicit TResultFieldsDraft(const TRFieldList& source);
 
     /// What can not be read.
@@ -37,6 +37,9 @@ public:
     const std::optional<TProblem>& Problem(int i) const { return Row(i).problem; }
     /// The first column whose expression can not be read or is empty; -1 when all is well.
     int FirstUnfinished() const;
+
+    /// Words, but no field among them: names were perhaps typed without braces.
+    bool LacksFields(int i) const;
 
     int AddField(int index, TDSField& field, TAggregate aggregate);
     /// A column without an expression.
@@ -64,7 +67,8 @@ public:
     void MoveSorted(int from, int to);
 
     /// Puts what was changed into the list that the draft was taken from: columns that were there
-    /// stay the same objects, and what was not changed in them stays untouched.
+    /// stay the same objects, and what was not changed in them stays untouched. Of columns that
+    /// others added meanwhile none is left.
     void Apply(TRFieldList& target) const;
 
 private:

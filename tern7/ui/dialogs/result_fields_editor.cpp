@@ -64,7 +64,7 @@ T_dlgRFieldsEdit::T_dlgRFieldsEdit(const TRFieldList& list, const TStrings& titl
     for (QSplitter* splitter : {right, across})
         splitter->setChildrenCollapsible(false);
     across->setStretchFactor(0, 2);
-    across->setStretchFactor(1, 5);
+    across->setStretchFactor(1, 4);
     right->setStretchFactor(0, 3);
     right->setStretchFactor(1, 2);
     auto* layout = new QVBoxLayout(this);
@@ -251,7 +251,9 @@ void T_dlgRFieldsEdit::ShowState() {
         wrong = ToQt(draft.Problem(at)->message);
     else if (at >= 0 && at == draft.FirstUnfinished())
         wrong = tr("This column has no expression yet");
-    problem->setText(wrong.toHtmlEscaped());
+    else if (at >= 0 && draft.LacksFields(at))
+        wrong = tr("There is no field in it: fields stand in braces, {Name}");
+    problem->setText(wrong);
     problem->setVisible(!wrong.isEmpty());
 }
 

@@ -29,6 +29,7 @@ QWidget* T_dlgRFieldsEdit::MakeFields() {
     for (int i = 0; i < names.size(); ++i)
         menu->addAction(names[i], this, [this, i] { AddFields(static_cast<TAggregate>(i)); });
     add->setMenu(menu);
+    add->setMinimumWidth(add->sizeHint().width() + 2 * fontMetrics().averageCharWidth());
     auto* layout = new QVBoxLayout(part);
     layout->setContentsMargins({});
     layout->addWidget(caption);
@@ -117,6 +118,7 @@ QWidget* T_dlgRFieldsEdit::MakeColumns() {
     connect(function, &QComboBox::activated, this, &T_dlgRFieldsEdit::SetFunction);
     problem = new QLabel(part);
     problem->setWordWrap(true);
+    problem->setTextFormat(Qt::PlainText);
     QFont bold = problem->font();
     bold.setBold(true);
     problem->setFont(bold);

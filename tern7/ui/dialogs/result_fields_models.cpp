@@ -6,6 +6,7 @@
 
 #include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/text.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -34,8 +35,8 @@ QVariant TResultColumnsModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return ToQt(expression ? draft.Expression(row) : draft.Caption(row));
     case Qt::ToolTipRole:
-        if (problem) return ToQt(problem->message).toHtmlEscaped();
-        return ToQt(expression ? draft.Expression(row) : draft.Caption(row)).toHtmlEscaped();
+        if (problem) return ToolTipText(ToQt(problem->message));
+        return ToolTipText(ToQt(expression ? draft.Expression(row) : draft.Caption(row)));
     case Qt::AccessibleDescriptionRole:
         return problem ? ToQt(problem->message) : QString();
     case Qt::ForegroundRole:

@@ -2,7 +2,10 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
@@ -11,7 +14,6 @@
 #include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/titles/title_sections.h>
 #include <tern7/core/titles/titles_text.h>
-#include <tern7/ui/support/guarded.h>
 #include <tern7/ui/support/text.h>
 
 namespace tern7 {
@@ -52,6 +54,10 @@ T_dlgTitlesEdit::T_dlgTitlesEdit(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     place = new QVBoxLayout;
     layout->addLayout(place, 1);
+    notice = new QLabel(this);
+    notice->setWordWrap(true);
+    notice->hide();
+    layout->addWidget(notice);
     auto* bottom = new QHBoxLayout;
     auto* load = new QPushButton(tr("&Load..."), this);
     auto* save = new QPushButton(tr("&Save..."), this);
@@ -88,6 +94,7 @@ void T_dlgTitlesEdit::SetDefTitles(const TStrings& titles) {
 
 void T_dlgTitlesEdit::Init(const TStrings& titles) {
     const int page = tabs ? tabs->currentIndex() : 0;
+    notice->hide();
     pages.clear();
     delete body;
     MakePages(titles);
@@ -145,8 +152,19 @@ void T_dlgTitlesEdit::DoChanged() {
 
 void T_dlgTitlesEdit::LoadFile(const QString& fileName) {
     const TKLoadedTitles loaded = LoadTitlesFile(defTitles, FromQt(fileName));
+    if (loaded.isForeign)
+        throw EKTernError(FromQt(tr("The file holds no titles that can be used here: %1")
+                                     .arg(QDir::toNativeSeparators(fileName))));
     Init(loaded.titles);
+    if (loaded.wasWindows1252) {
+        notice->setText(tr("The file is not UTF-8 and was read as Windows-1252."));
+        notice->show();
+    }
     DoChanged();
+}
+
+QString T_dlgTitlesEdit::Notice() const {
+    return notice->isHidden() ? QString() : notice->text();
 }
 
 void T_dlgTitlesEdit::SaveFile(const QString& fileName) const {
@@ -155,12 +173,23 @@ void T_dlgTitlesEdit::SaveFile(const QString& fileName) const {
     SaveTitlesFile(titles, FromQt(fileName));
 }
 
+void T_dlgTitlesEdit::Report(const std::function<void()>& call) {
+    try {
+        call();
+    } catch (const EKTernError& error) {
+        QMessageBox::warning(this, windowTitle(), ToQt(error.what()));
+    }
+}
+
+/// A file replaces all texts, those too that were just entered.
 void T_dlgTitlesEdit::AskLoad() {
+    setFocus(); // what is being edited counts
+    if (changed && !AskDiscard()) return;
     QFileDialog dialog(this);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setNameFilters({tr("TERN Titles (*.ttl)"), tr("Query files (*.qry)")});
     if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
-        Guarded(this, [&] { LoadFile(dialog.selectedFiles().constFirst()); });
+        Report([&] { LoadFile(dialog.selectedFiles().constFirst()); });
 }
 
 void T_dlgTitlesEdit::AskSave() {
@@ -170,15 +199,29 @@ void T_dlgTitlesEdit::AskSave() {
     dialog.setDefaultSuffix(QStringLiteral("ttl"));
     dialog.setNameFilter(tr("TERN Titles (*.ttl)"));
     if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
-        Guarded(this, [&] { SaveFile(dialog.selectedFiles().constFirst()); });
+        Report([&] { SaveFile(dialog.selectedFiles().constFirst()); });
 }
+
+bool T_dlgTitlesEdit::AskDiscard() {
+    return QMessageBox::question(this, windowTitle(), tr("Discard the changes?")) ==
+           QMessageBox::Yes;
+}
+
+// --- keys
 
 /// Many texts are not thrown away for one wrong key.
 void T_dlgTitlesEdit::reject() {
-    const auto ask = [this] {
-        return QMessageBox::question(this, windowTitle(), tr("Discard the changes?"));
-    };
-    if (!changed || ask() == QMessageBox::Yes) QDialog::reject();
+    if (!changed || AskDiscard()) QDialog::reject();
+}
+
+/// Enter in a text is not yet OK.
+void T_dlgTitlesEdit::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool onButton = qobject_cast<QAbstractButton*>(focusWidget()) != nullptr;
+    if (enter && event->modifiers() & Qt::ControlModifier)
+        accept();
+    else if (!enter || onButton)
+        QDialog::keyPressEvent(event);
 }
 
 } // namespace tern7

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include <QDialog>
@@ -8,6 +9,7 @@
 #include <tern7/core/global/events.h>
 #include <tern7/ui/dialogs/titles_grid.h>
 
+class QLabel;
 class QTabWidget;
 class QVBoxLayout;
 
@@ -34,7 +36,7 @@ public:
     void SaveToTitlesSections(TStrings& titles) const;
 
     /// Merges a titles file, or the titles of a query file, over the defaults. EKTernError when it
-    /// can not be read; nothing is changed then.
+    /// can not be read, or holds something else; nothing is changed then.
     void LoadFile(const QString& fileName);
     /// EKTernError when the file can not be written.
     void SaveFile(const QString& fileName) const;
@@ -46,9 +48,15 @@ public:
     /// A text was edited, or a file loaded, since Init.
     bool IsChanged() const { return changed; }
 
+    /// What is to be known of the file that was loaded; empty when it was as it should be.
+    QString Notice() const;
+
     void reject() override;
 
     TEvent<T_dlgTitlesEdit*> OnChange;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     struct TPage {
@@ -60,6 +68,8 @@ private:
     void MakePages(const TStrings& titles);
     void AskLoad();
     void AskSave();
+    bool AskDiscard();
+    void Report(const std::function<void()>& call);
     void DoChanged();
 
     TStrings defTitles;
@@ -67,6 +77,7 @@ private:
     QTabWidget* tabs = nullptr;
     QWidget* body = nullptr; // the pages or the single grid
     QVBoxLayout* place;      // where it stands
+    QLabel* notice;
     bool changed = false;
 };
 

@@ -1,5 +1,7 @@
 #include <tern7/ui/dialogs/titles_grid.h>
 
+#include <algorithm>
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
@@ -8,6 +10,7 @@
 #include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/titles/title_sections.h>
 #include <tern7/ui/support/text.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -16,7 +19,7 @@ namespace {
 QTableWidgetItem* TextItem(std::string_view text, bool editable) {
     auto* item = new QTableWidgetItem(ToQt(text));
     if (!editable) item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-    item->setToolTip(item->text().toHtmlEscaped());
+    item->setToolTip(ToolTipText(item->text()));
     return item;
 }
 
@@ -70,7 +73,21 @@ void TKTitlesGrid::AppendLines(TStrings& lines) const {
     }
 }
 
-/// Enter goes on to the next text; several lines of the clipboard fill several rows.
+/// Enter and Tab in a text go on to the next one.
+void TKTitlesGrid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTableWidget::closeEditor(editor, hint);
+    const bool byEnter = hint == QAbstractItemDelegate::SubmitModelCache;
+    if (byEnter && currentRow() + 1 < rowCount()) setCurrentCell(currentRow() + 1, Translated);
+}
+
+QModelIndex TKTitlesGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action != MoveNext && action != MovePrevious)
+        return QTableWidget::moveCursor(action, modifiers);
+    const int row = currentRow() + (action == MoveNext ? 1 : -1);
+    return model()->index(std::clamp(row, 0, rowCount() - 1), Translated);
+}
+
+/// Several lines of the clipboard fill several rows.
 void TKTitlesGrid::keyPressEvent(QKeyEvent* event) {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->matches(QKeySequence::Paste) && state() != EditingState)

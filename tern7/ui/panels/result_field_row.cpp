@@ -10,6 +10,7 @@
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/text.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -138,7 +139,7 @@ void TResultFieldRow::Close() {
 
 // --- what is shown
 
-void TResultFieldRow::Refresh(const TKRowTexts& texts, int number) {
+void TResultFieldRow::Refresh(const TKRowTexts& texts, int number, int count) {
     const bool popup = panel.Appearance().Has(TRFPAppearance::aoPopupField);
     if (popup != (qobject_cast<TDropDownPopup*>(fieldLabel) != nullptr)) {
         const bool focused = fieldLabel->hasFocus();
@@ -159,6 +160,7 @@ void TResultFieldRow::Refresh(const TKRowTexts& texts, int number) {
     const QString what = fieldLabel->Caption();
     button->setAccessibleName(
         TKResultFieldsPanel::tr("Column %1: %2, %3").arg(number).arg(what, sortLabel->Caption()));
+    button->setAccessibleDescription(TKResultFieldsPanel::tr("%1 of %2").arg(number).arg(count));
     fieldLabel->setAccessibleName(TKResultFieldsPanel::tr("Column %1").arg(number));
     sortLabel->setAccessibleName(TKResultFieldsPanel::tr("Sorting of %1").arg(what));
 }
@@ -176,7 +178,7 @@ void TResultFieldRow::ShowField(const TKRowTexts& texts) {
     const bool known = shown && !shown->IsPlaceholder();
     fieldLabel->SetValue(known ? QString::number(shown->ID()) : QString());
     fieldLabel->SetCaption(text);
-    fieldLabel->setToolTip(more.toHtmlEscaped());
+    fieldLabel->setToolTip(ToolTipText(more));
     fieldLabel->setAccessibleDescription(more);
 }
 

@@ -60,7 +60,7 @@ private:
     void FieldChosen();
     void SortingChosen();
     /// Takes texts, colours and options from column and panel.
-    void Refresh(const TKRowTexts& texts, int number);
+    void Refresh(const TKRowTexts& texts, int number, int count);
     void ShowField(const TKRowTexts& texts);
     void ShowLook();
 

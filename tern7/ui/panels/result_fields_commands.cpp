@@ -47,6 +47,7 @@ void TKResultFieldsPanel::Replay(void (TKQuerySteps::*step)()) {
 // --- operations
 
 void TKResultFieldsPanel::AddRow() {
+    FindQueryPanel();
     InsertRow(fields->GetCount());
 }
 
@@ -58,6 +59,14 @@ void TKResultFieldsPanel::InsertRow(int index) {
     Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add column"),
          [&](TResultFieldsEdit& edit) { edit.Insert(index, field, CaptionOf(field)); });
     if (alive) FocusRow(index, TPart::Field);
+}
+
+void TKResultFieldsPanel::DuplicateRow(int index) {
+    fields->GetItem(index);
+    const TPart part = FocusedPart(index);
+    const QPointer<TKResultFieldsPanel> alive(this);
+    Edit(tr("Duplicate column"), [&](TResultFieldsEdit& edit) { edit.Duplicate(index); });
+    if (alive && part != TPart::None) FocusRow(index + 1, part);
 }
 
 void TKResultFieldsPanel::DeleteRow(int index) {
@@ -94,6 +103,7 @@ void TKResultFieldsPanel::ClearAll() {
 
 bool TKResultFieldsPanel::EditResultFields(const TStrings& editorTitles,
                                            const std::function<void()>& help) {
+    FindQueryPanel();
     RequireStruct();
     if (!Dialogs.editResultFields) return false;
     const QPointer<TKResultFieldsPanel> alive(this);
@@ -202,6 +212,8 @@ bool TKResultFieldsPanel::RowKey(int key, Qt::KeyboardModifiers modifiers) {
         return false;
     else if (modifiers == Qt::NoModifier && key == Qt::Key_Delete)
         DeleteRow(row);
+    else if (modifiers == Qt::ControlModifier && key == Qt::Key_D)
+        DuplicateRow(row);
     else if (modifiers == Qt::ControlModifier && key == Qt::Key_Up)
         MoveRowUp(row);
     else if (modifiers == Qt::ControlModifier && key == Qt::Key_Down)

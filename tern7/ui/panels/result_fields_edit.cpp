@@ -44,6 +44,18 @@ void TResultFieldsEdit::SetSorting(TResultField& column, TSortingType sorting) {
     Step([&] { column.SetSorting(sorting); });
 }
 
+void TResultFieldsEdit::Duplicate(int index) {
+    Step([&] {
+        const TResultField& source = *list.GetItem(index);
+        TResultField* copy = list.New(index + 1);
+        copy->Assign(source);
+        copy->SetSorting(TSortingType::stNoSort);
+        copy->SetSortOrder(0);
+        copy->SetAlias({});
+        copy->SetAlias(source.Alias()); // with a number
+    });
+}
+
 void TResultFieldsEdit::Delete(int index) {
     Step([&] { list.Delete(index); });
 }

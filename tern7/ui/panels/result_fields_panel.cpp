@@ -1,6 +1,8 @@
 #include <tern7/ui/panels/result_fields_panel.h>
 
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include <QEvent>
 #include <QScrollBar>
@@ -10,7 +12,9 @@
 #include <tern7/core/query/row_text.h>
 #include <tern7/core/titles/default_titles.h>
 #include <tern7/ui/controls/popup_menu.h>
+#include <tern7/ui/panels/db_structure.h>
 #include <tern7/ui/panels/query_editor.h>
+#include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/text.h>
 
@@ -24,7 +28,7 @@ TKResultFieldsPanel::TKResultFieldsPanel(QWidget* parent)
     titleLines = DefaultResultFieldsPanelTitles();
     ownName = tr("Result fields");
     setAccessibleName(ownName);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::ClickFocus); // no stop on the way, and begins that of its rows
     setWidget(canvas);
     canvas->setObjectName("canvas");
     addLabel->OnCustomDropDown = [this](TDropDownLabel*, QString&, bool& accept) {
@@ -46,13 +50,42 @@ TKResultFieldsPanel::~TKResultFieldsPanel() {
 // --- what is shown
 
 TKCustomDBStructure* TKResultFieldsPanel::DBStruct() const {
-    TKCustomDBStructure* structure = fields->DbStruct();
-    return structure ? structure : own->DbStruct();
+    if (TKCustomDBStructure* structure = fields->DbStruct()) return structure;
+    if (!own->DbStruct())
+        if (auto* component = FindComponent<TKDBStructure>(*this, structName))
+            own->SetDbStruct(&component->Structure());
+    return own->DbStruct();
 }
 
 void TKResultFieldsPanel::SetDBStruct(TKCustomDBStructure* structure) {
     own->SetDbStruct(structure);
     LayLater();
+}
+
+void TKResultFieldsPanel::SetDBStructName(const QString& name) {
+    if (name == structName) return;
+    structName = name;
+    SetDBStruct(nullptr);
+}
+
+void TKResultFieldsPanel::SetQueryPanelName(const QString& name) {
+    if (name == queryPanelName) return;
+    queryPanelName = name;
+    SetResultFields(nullptr);
+    LayLater();
+}
+
+TRFieldList& TKResultFieldsPanel::ResultFields() {
+    FindQueryPanel();
+    return *fields;
+}
+
+void TKResultFieldsPanel::FindQueryPanel() {
+    if (queryPanelName.isEmpty() || fields->Query() != own.get()) return;
+    if (auto* panel = FindComponent<TKQueryPanel>(*this, queryPanelName)) {
+        panel->DbStruct(); // by name too
+        SetResultFields(&panel->QResult().ResultFields());
+    }
 }
 
 TKCustomDBStructure& TKResultFieldsPanel::RequireStruct() const {
@@ -107,9 +140,13 @@ bool TKResultFieldsPanel::EditTitles() {
 
 /// Many changes of the list are shown at once, before anybody can see the panel.
 void TKResultFieldsPanel::LayLater() {
-    if (pending) return;
     pending = true;
-    QMetaObject::invokeMethod(this, &TKResultFieldsPanel::EnsureRows, Qt::QueuedConnection);
+    if (std::exchange(posted, true)) return;
+    const auto lay = [this] {
+        posted = false;
+        EnsureRows();
+    };
+    QMetaObject::invokeMethod(this, lay, Qt::QueuedConnection);
 }
 
 void TKResultFieldsPanel::Refresh() {
@@ -118,6 +155,7 @@ void TKResultFieldsPanel::Refresh() {
 }
 
 void TKResultFieldsPanel::EnsureRows() {
+    FindQueryPanel();
     if (!pending || !fields->Query()->Active()) return;
     pending = false;
     const int focused = CurrentRow();
@@ -126,7 +164,7 @@ void TKResultFieldsPanel::EnsureRows() {
     MatchRows();
     RefreshTexts();
     PlaceAll();
-    OrderTabs();
+    OrderControls();
     // a row that goes hands its focus to the one in its place
     if (focused >= 0 && !row) FocusRow(focused, part);
 }
@@ -150,7 +188,7 @@ void TKResultFieldsPanel::RefreshTexts() {
     TKRowTexts texts;
     texts.ShowGroupName = appearance.Has(TRFPAppearance::aoShowGroupName);
     for (int i = 0; i < rows.GetCount(); ++i)
-        rows[i]->Refresh(texts, i + 1);
+        rows[i]->Refresh(texts, i + 1, rows.GetCount());
     const QString add = ToQt(PlainTitle(titles.Text("ttlClickToAdd")));
     addLabel->SetCaption("< " + add + " >");
     addLabel->setAccessibleName(add);
@@ -158,18 +196,26 @@ void TKResultFieldsPanel::RefreshTexts() {
         ReadableColor(appearance.FieldColor(), ColorFromNumber(clBlue), palette()));
 }
 
-void TKResultFieldsPanel::OrderTabs() {
-    QWidget* last = nullptr;
-    const auto next = [&last](QWidget* widget) {
-        if (last) setTabOrder(last, widget);
-        last = widget;
-    };
-    for (const auto& row : rows) {
-        next(row->Button());
-        next(row->FieldLabel());
-        next(row->SortLabel());
+/// In the order of reading: for the Tab key, and for screen readers, which go by the order of the
+/// canvas' children.
+void TKResultFieldsPanel::OrderControls() {
+    std::vector<QWidget*> wanted;
+    for (const auto& row : rows)
+        wanted.insert(wanted.end(), {row->Button(), row->FieldLabel(), row->SortLabel()});
+    wanted.push_back(addLabel);
+    size_t inOrder = 0;
+    for (const QObject* child : canvas->children())
+        if (inOrder < wanted.size() && child == wanted[inOrder]) ++inOrder;
+    if (inOrder == wanted.size()) return;
+    QWidget* last = this; // the rows come where the panel has its place
+    for (QWidget* widget : wanted) {
+        QWidget::setTabOrder(std::exchange(last, widget), widget);
+        widget->raise();
     }
-    next(addLabel);
+    for (const auto& row : rows) // what is open stays in front
+        if (QWidget* editor =
+                row->FieldLabel()->Dropped() ? row->FieldLabel()->EditControl() : nullptr)
+            editor->raise();
 }
 
 const TResultFieldRows& TKResultFieldsPanel::Rows() {

@@ -15,6 +15,7 @@ namespace tern7 {
 
 class TKPopupMenu;
 class TKQueryEditor;
+class TKQueryPanel;
 class TKResultFieldsPanel;
 class TResultFieldsEdit;
 
@@ -31,15 +32,35 @@ using TRFPanelChangeEvent = TEvent<TKResultFieldsPanel*>;
 /// are seen at once. Without `SetResultFields` it has a list of its own.
 class TKResultFieldsPanel : public QScrollArea, private TKQueryView {
     Q_OBJECT
+    Q_PROPERTY(QString DBStructName READ DBStructName WRITE SetDBStructName)
+    Q_PROPERTY(QString QueryPanelName READ QueryPanelName WRITE SetQueryPanelName)
     Q_PROPERTY(QByteArray Titles READ TitlesText WRITE SetTitlesText)
+    // of the appearance, for form editors
+    Q_PROPERTY(int AppearanceLeftMargin READ LeftMargin WRITE SetLeftMargin)
+    Q_PROPERTY(int AppearanceTopMargin READ TopMargin WRITE SetTopMargin)
+    Q_PROPERTY(int AppearanceRowSpace READ RowSpace WRITE SetRowSpace)
+    Q_PROPERTY(int AppearanceElemSpace READ ElemSpace WRITE SetElemSpace)
+    Q_PROPERTY(
+        QColor AppearanceFieldColor READ FieldColor WRITE SetFieldColor RESET ResetFieldColor)
+    Q_PROPERTY(QColor AppearanceSortColor READ SortColor WRITE SetSortColor RESET ResetSortColor)
+    Q_PROPERTY(tern7::TRFPAppearance::TRFPAppearanceOptions AppearanceOptions READ Options WRITE
+                   SetOptions)
 
 public:
     explicit TKResultFieldsPanel(QWidget* parent = nullptr);
     ~TKResultFieldsPanel() override;
 
-    /// The structure whose fields are offered: that of the shown query when it has one. Not owned.
+    /// The structure whose fields are offered: that of the shown query when it has one, else the
+    /// one that was set, else that of the form's component DBStructName. Not owned.
     TKCustomDBStructure* DBStruct() const;
     void SetDBStruct(TKCustomDBStructure* structure);
+    /// Object name of a TKDBStructure on the same form; it is looked for when it is needed.
+    QString DBStructName() const { return structName; }
+    void SetDBStructName(const QString& name);
+    /// Object name of a TKQueryPanel on the same form whose columns are shown while no other list
+    /// is set; it is looked for when it is needed.
+    QString QueryPanelName() const { return queryPanelName; }
+    void SetQueryPanelName(const QString& name);
     /// Texts by key, without sections; what is missing takes the default text.
     const TStrings& Titles() const { return titleLines; }
     void SetTitles(TStrings lines);
@@ -48,11 +69,12 @@ public:
     TRFPAppearance& Appearance() { return appearance; }
     const TRFPAppearance& Appearance() const { return appearance; }
 
-    /// Shows this list from now on; null: the panel's own. The panel forgets a list whose query is
-    /// destroyed. What users do are steps of the query: they can be taken back where it has a
-    /// TKQueryEditor, in one history with all else; the panel's own list has one.
+    /// Shows this list from now on; null: that of the form's QueryPanelName, else the panel's own.
+    /// The panel forgets a list whose query is destroyed. What users do are steps of the query:
+    /// they can be taken back where it has a TKQueryEditor, in one history with all else; the
+    /// panel's own list has one.
     void SetResultFields(TRFieldList* list);
-    TRFieldList& ResultFields() const { return *fields; }
+    TRFieldList& ResultFields();
 
     const TResultFieldRows& Rows();
     /// The row that has the focus, -1 when none has.
@@ -65,8 +87,10 @@ public:
     /// "Database structure is not specified" without a structure; without fields to offer nothing
     /// is added.
     void AddRow();
-    /// std::out_of_range for these three when there is no such row.
+    /// std::out_of_range for these when there is no such row.
     void DeleteRow(int index);
+    /// A second column like it, not sorted, behind it.
+    void DuplicateRow(int index);
     void MoveRowUp(int index);   ///< nothing for the first row
     void MoveRowDown(int index); ///< nothing for the last row
     void MoveRow(int from, int to);
@@ -118,11 +142,30 @@ private:
     TKCustomDBStructure& RequireStruct() const;
     QString Title(std::string_view key) const;
 
+    // the appearance as flat properties: seen at once
+    int LeftMargin() const { return appearance.LeftMargin(); }
+    void SetLeftMargin(int value) { appearance.SetLeftMargin(value), LayLater(); }
+    int TopMargin() const { return appearance.TopMargin(); }
+    void SetTopMargin(int value) { appearance.SetTopMargin(value), LayLater(); }
+    int RowSpace() const { return appearance.RowSpace(); }
+    void SetRowSpace(int value) { appearance.SetRowSpace(value), LayLater(); }
+    int ElemSpace() const { return appearance.ElemSpace(); }
+    void SetElemSpace(int value) { appearance.SetElemSpace(value), LayLater(); }
+    QColor FieldColor() const { return appearance.FieldColor(); }
+    void SetFieldColor(const QColor& color) { appearance.SetFieldColor(color); }
+    void ResetFieldColor() { appearance.SetFieldColor(TRFPAppearance().FieldColor()); }
+    QColor SortColor() const { return appearance.SortColor(); }
+    void SetSortColor(const QColor& color) { appearance.SetSortColor(color); }
+    void ResetSortColor() { appearance.SetSortColor(TRFPAppearance().SortColor()); }
+    TRFPAppearance::TRFPAppearanceOptions Options() const { return appearance.Options(); }
+    void SetOptions(TRFPAppearance::TRFPAppearanceOptions value) { appearance.SetOptions(value); }
+
     // rows
+    void FindQueryPanel();
     void LayLater();
     void EnsureRows();
     void MatchRows();
-    void OrderTabs();
+    void OrderControls();
     void RefreshTexts();
     enum class TPart { None, Button, Field, Sorting };
     TPart FocusedPart(int index);
@@ -167,8 +210,11 @@ private:
     TDropDownLabel* addLabel;
     TKPopupMenu* rowMenu;
     QPointer<TResultFieldRow> menuRow;
-    QSize extent;         // of the rows and the add label
+    QSize extent; // of the rows and the add label
+    QString structName;
+    QString queryPanelName;
     bool pending = false; // rows don't show the list as it is now
+    bool posted = false;  // EnsureRows is going to be called
 };
 
 } // namespace tern7

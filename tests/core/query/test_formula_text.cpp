@@ -78,4 +78,24 @@ TEST(FormulaText, Unclosed) {
     }
 }
 
+TEST(FormulaText, CommentsAndWords) {
+    const struct {
+        const char* text;
+        int comment; // where it begins, -1: none
+        bool words;
+    } cases[] = {
+        {"{A} - -1", -1, false},
+        {"{A} --1", 4, false},
+        {"1 /* x */", 2, true},
+        {"ROUND({A; --B}, ';') / 2", -1, true},
+        {"'Price' * {Price; }", -1, false},
+        {"Price; 2", 5, true},
+    };
+    for (const auto& c : cases) {
+        const std::optional<size_t> at = CommentOrEndAt(c.text);
+        EXPECT_EQ(at ? static_cast<int>(*at) : -1, c.comment) << c.text;
+        EXPECT_EQ(HoldsWords(c.text), c.words) << c.text;
+    }
+}
+
 } // namespace tern7

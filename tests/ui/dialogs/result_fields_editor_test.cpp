@@ -11,6 +11,7 @@
 
 #include <tern7/core/titles/default_titles.h>
 #include <tern7/ui/dialogs/result_fields_editor.h>
+#include <tern7/ui/panels/query_panel.h>
 #include <ui/panels/result_fields_form.h>
 
 namespace tern7 {
@@ -141,6 +142,10 @@ TEST(ResultFieldsEditor, TypedExpressionIsRefusedAtItsPositionAndKept) {
         {"{Price} * ({Quantity} + 1", "A bracket or quote has no counterpart", "({Quantity}"},
         {"{Name}", "Field not found: Name", "{Name}"}, // two tables have it
         {"{Price", "A bracket or quote has no counterpart", "{Price"},
+        {"{Price} -- 1", "A comment or semicolon can not stand in an expression", "-- 1"},
+        {"{Price} || '@1'",
+         "An expression with fields can not hold \"@\" and a digit in a text: {Price} || '@1'",
+         "'@1'"},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.typed);
@@ -161,8 +166,12 @@ TEST(ResultFieldsEditor, TypedExpressionIsRefusedAtItsPositionAndKept) {
     t.EnterExpression(0, "ROUND({o.name} + {price}, 2)");
     EXPECT_EQ(t.Columns()[0], "Sum|ROUND({Order.Name} + {Price}, 2)");
     EXPECT_TRUE(t.dialog->ProblemLabel()->isHidden());
+    t.EnterExpression(1, "City"); // a hint, no more: it may be a name that the database knows
+    EXPECT_TRUE(t.dialog->ProblemLabel()->text().contains("braces"));
+    t.EnterExpression(1, "COUNT(*)");
+    EXPECT_TRUE(t.dialog->ProblemLabel()->isHidden());
     ASSERT_TRUE(t.Accept());
-    EXPECT_EQ(t.form.Model()[0], "Sum=ROUND(O.name + O.price, 2)");
+    EXPECT_EQ(t.form.Model(), (QStringList{"Sum=ROUND(O.name + O.price, 2)", "City=COUNT(*)"}));
 }
 
 TEST(ResultFieldsEditor, NewColumnNeedsAnExpression) {
@@ -258,6 +267,52 @@ TEST(ResultFieldsEditor, JustSortingHelpAndCancel) {
     EXPECT_TRUE(other.dialog->isVisible());
     Press(Qt::Key_Escape);
     EXPECT_EQ(other.dialog->result(), QDialog::Rejected);
+}
+
+TEST(ResultFieldsEditor, ColumnsGoWhileItIsOpen) {
+    TEditorForm t(TEditorForm::TColumns{{"A", "{City}"}, {"B", "{Note}"}, {"C", "{Price}"}});
+    t.dialog->ColumnsView()->setFocus();
+    Press(Qt::Key_Down, Qt::ControlModifier);
+    t.form.Columns().Delete(1);
+    t.form.Add("D", "{Quantity}");
+    ASSERT_TRUE(t.Accept());
+    EXPECT_EQ(t.form.Model(), (QStringList{"B=O.note", "A=C.city", "C=O.price"}));
+}
+
+TEST(ResultFieldsEditor, OpenedByTheQueryPanel) {
+    TKCustomDBStructure structure;
+    MakeShop(structure);
+    TKQueryPanel panel;
+    EXPECT_THROW(panel.EditResultFields(), EKQueryPanelError);
+    panel.SetDbStruct(&structure);
+    panel.SetTitles({"[Result Fields Editor]", "ttlRFETitle=Spalten", "ttlHelpBtnCaption=Hilfe"});
+    int helped = 0, changed = 0;
+    panel.OnRFEHelpClick = [&](TKQueryPanel&) { ++helped; };
+    panel.OnChange = [&](TKQueryPanel&) { ++changed; };
+    panel.show();
+    const TRFieldList& columns = panel.QResult().ResultFields();
+    for (const bool accept : {false, true}) {
+        QTimer::singleShot(0, [accept] {
+            auto* dialog = qobject_cast<T_dlgRFieldsEdit*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog && QTest::qWaitForWindowActive(dialog));
+            EXPECT_EQ(dialog->windowTitle(), "Spalten");
+            dialog->Fields()->SearchField()->setFocus();
+            Type("price");
+            Press(Qt::Key_Return);
+            for (auto* button : dialog->findChildren<QPushButton*>())
+                if (button->text() == "Hilfe") Click(button);
+            dialog->ColumnsView()->setFocus();
+            accept ? Press(Qt::Key_Return, Qt::ControlModifier) : Press(Qt::Key_Escape);
+        });
+        EXPECT_EQ(panel.EditResultFields(), accept);
+        EXPECT_EQ(columns.GetCaption(), accept ? "Price" : "*");
+        EXPECT_EQ(changed, accept ? 1 : 0);
+    }
+    EXPECT_EQ(helped, 2);
+    panel.Undo();
+    EXPECT_TRUE(columns.IsEmpty());
+    panel.Redo();
+    EXPECT_EQ(columns.GetCaption(), "Price");
 }
 
 TEST(ResultFieldsEditor, StructureGoesWhileItIsOpen) {

@@ -58,11 +58,14 @@ TEST(TitlesEditor, TypedTranslationTakesEffectAtOnce) {
         TKTitlesGrid& grid = *editor->Grid(0);
         EXPECT_EQ(grid.rowCount(), 7);
         ASSERT_TRUE(QTest::qWaitFor([&] { return grid.hasFocus(); }));
+        Press({Qt::Key_F2, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return}); // on to the next ones
+        QCoreApplication::processEvents();
+        EXPECT_EQ(grid.currentIndex(), grid.model()->index(3, TKTitlesGrid::Translated));
         Press(Qt::Key_End, Qt::ControlModifier);
         Type("Neu");
-        Press(Qt::Key_Return);
+        Press(Qt::Key_Return); // not OK
         QCoreApplication::processEvents();
-        EXPECT_TRUE(editor->IsChanged());
+        EXPECT_TRUE(editor->IsChanged() && editor->isVisible());
         grid.setCurrentCell(0, TKTitlesGrid::English);
         Type("x"); // the default texts stay
         EXPECT_EQ(grid.item(0, 0)->text(), "Delete current field");
@@ -100,7 +103,17 @@ TEST(TitlesEditor, FilesAreMergedAndSaved) {
     LoadTitlesFromStrings(DefaultQueryTitles(), query.Titles, {"[Query Panel]", "ttlAnd=und"});
     editor.LoadFile(write("query.qry", QByteArray::fromStdString(query.GetQueryString())));
     EXPECT_EQ(editor.Grid(0)->item(13, 1)->text(), "und");
+    const std::string before = Edited(editor);
     EXPECT_THROW(editor.LoadFile(folder.filePath("missing.ttl")), EKTernError);
+    // the titles of another component, and no text at all
+    EXPECT_THROW(editor.LoadFile(write("flat.ttl", "ttlMoveUp=auf\n")), EKTernError);
+    EXPECT_THROW(editor.LoadFile(write("picture.ttl", QByteArray("\x89PNG\0\n[Query Panel]", 19))),
+                 EKTernError);
+    EXPECT_EQ(Edited(editor), before);
+    editor.LoadFile(write("ansi.ttl", "[RFETitles]\nttlAscending=gr\xF6\xDF"
+                                      "er\n"));
+    EXPECT_EQ(editor.Grid(1)->item(12, 1)->text(), QString::fromUtf8("größer"));
+    EXPECT_TRUE(editor.Notice().contains("Windows-1252"));
     const QString saved = folder.filePath("saved.ttl");
     editor.Grid(0)->item(0, 1)->setText("two\nlines");
     editor.SaveFile(saved);

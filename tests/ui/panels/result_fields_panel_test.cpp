@@ -1,15 +1,62 @@
 #include <tern7/core/global/messages.h>
 #include <tern7/ui/controls/drop_down_list_box.h>
+#include <tern7/ui/dialogs/result_fields_draft.h>
+#include <tern7/ui/panels/db_structure.h>
 #include <tern7/ui/panels/query_editor.h>
+#include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/text_size.h>
 #include <ui/panels/result_fields_form.h>
 
 #include <random>
 
 #include <QAccessible>
+#include <QLineEdit>
+#include <QMetaProperty>
 #include <QScrollBar>
+#include <QTextDocumentFragment>
 
 namespace tern7 {
+
+namespace {
+
+/// Something that can be done in the result fields editor.
+void EditAtRandom(TResultFieldsDraft& draft, const TKCustomDBStructure& structure,
+                  const std::function<int(int)>& below) {
+    const int count = draft.Count(), row = below(count);
+    TDSField& field = *structure.GetField(below(structure.GetFieldCount()));
+    const int action = count > 0 ? below(8) : 0;
+    const char* const texts[] = {"{Price} * 2", "SUM({Price}) / COUNT({City})", "{Nam", "1"};
+    switch (action) {
+    case 0:
+        draft.AddField(below(count + 1), field, static_cast<TAggregate>(below(AggregateCount)));
+        break;
+    case 1:
+        draft.Join(row, "+-*/"[below(4)], field);
+        break;
+    case 2:
+        draft.SetExpression(row, texts[below(4)]);
+        break;
+    case 3:
+        draft.SetAggregate(row, static_cast<TAggregate>(below(AggregateCount)));
+        break;
+    case 4:
+        draft.Delete(row);
+        break;
+    case 5:
+        draft.Move(row, below(count));
+        break;
+    case 6:
+        draft.SetSorting(row, static_cast<TSortingType>(below(3)));
+        break;
+    default:
+        draft.SetCaption(row, "Column " + std::to_string(below(9)));
+        draft.SetJustSorting(below(2) == 1);
+        if (const int sorted = static_cast<int>(draft.Sorted().size()); sorted > 0)
+            draft.MoveSorted(below(sorted), below(sorted));
+    }
+}
+
+} // namespace
 
 TEST(ResultFieldsPanel, BuiltByMouse) {
     TResultFieldsForm form;
@@ -52,6 +99,11 @@ TEST(ResultFieldsPanel, BuiltByKeys) {
     Press(Qt::Key_Down, Qt::ControlModifier);
     Press(Qt::Key_Delete);
     EXPECT_EQ(form.Model(), QStringList{"City=C.city 1#1"});
+    Press(Qt::Key_D, Qt::ControlModifier);
+    EXPECT_EQ(form.Model(), (QStringList{"City=C.city 1#1", "City=C.city"}));
+    EXPECT_EQ(form.Columns()[1]->Alias(), "City1");
+    EXPECT_TRUE(form.Row(1).Button()->hasFocus());
+    Press(Qt::Key_Delete);
     EXPECT_TRUE(form.Row(0).Button()->hasFocus());
     Press(Qt::Key_Delete);
     EXPECT_TRUE(form.panel->AddLabel()->hasFocus());
@@ -105,6 +157,12 @@ TEST(ResultFieldsPanel, ChangesOnlyWhatTheUserChanges) {
     EXPECT_EQ(form.Texts(), (QStringList{"1 Turnover Not Sorted", "2 City Not Sorted"}));
     EXPECT_EQ(form.Row(0).FieldLabel()->toolTip(), "SUM({Price} * {Quantity})");
     EXPECT_EQ(form.Row(1).FieldLabel()->toolTip(), "Where");
+    sum->ProcessExpression("SUM({Price} & \"<b>\")"); // shown as it stands
+    EXPECT_EQ(QTextDocumentFragment::fromHtml(form.Row(0).FieldLabel()->toolTip()).toPlainText(),
+              "SUM({Price} & \"<b>\")");
+    sum->ProcessExpression("SUM({Price} & {Quantity} > 2)");
+    EXPECT_EQ(form.Row(0).FieldLabel()->toolTip(), "SUM({Price} & {Quantity} > 2)");
+    sum->ProcessExpression("SUM({Price} * {Quantity})");
     Click(form.Row(0).SortLabel());
     Press({Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(form.Model()[0], "Turnover=SUM(O.price * O.quantity) 1#1");
@@ -215,6 +273,16 @@ TEST(ResultFieldsPanel, Appearance) {
     form.panel->setPalette(dark);
     EXPECT_EQ(form.Row(0).FieldLabel()->FontColor(), QColor(Qt::cyan));
     EXPECT_EQ(form.Row(0).SortLabel()->FontColor(), QColor(Qt::darkGreen));
+    // as form editors set it
+    const QMetaObject& meta = *form.panel->metaObject();
+    EXPECT_TRUE(meta.property(meta.indexOfProperty("AppearanceSortColor")).reset(form.panel));
+    const QMetaProperty options = meta.property(meta.indexOfProperty("AppearanceOptions"));
+    EXPECT_TRUE(options.isFlagType());
+    EXPECT_TRUE(options.write(form.panel, int(TRFPAppearance::aoRoundButtons)));
+    EXPECT_TRUE(form.panel->setProperty("AppearanceLeftMargin", 30));
+    EXPECT_EQ(form.Row(0).Button()->x(), 30);
+    EXPECT_EQ(form.Row(0).SortLabel()->FontColor(), QColor(Qt::cyan));
+    EXPECT_TRUE(form.Row(0).Button()->RoundCorners() && !form.Row(0).Button()->Flat());
 }
 
 TEST(ResultFieldsPanel, OffersFieldsOfTheResultByGroup) {
@@ -261,6 +329,31 @@ TEST(ResultFieldsPanel, WithoutStructure) {
     EXPECT_EQ(panel.Rows().GetCount(), 0);
 }
 
+TEST(ResultFieldsPanel, FindsItsFormsComponentsByName) {
+    QWidget form;
+    auto* panel = new TKResultFieldsPanel(new QWidget(&form));
+    panel->setProperty("DBStructName", "structure");
+    form.show();
+    EXPECT_THROW(panel->AddRow(), ERFPanelError);
+    auto* component = new TKDBStructure(&form); // forms make them in any order
+    component->setObjectName("structure");
+    MakeShop(component->Structure());
+    panel->AddRow();
+    EXPECT_EQ(panel->Rows().GetCount(), 1);
+    auto* query = new TKQueryPanel(&form);
+    query->setObjectName("query");
+    query->SetDbStructName("structure");
+    panel->setProperty("QueryPanelName", "query");
+    panel->AddRow();
+    EXPECT_EQ(query->QResult().ResultFields().GetCaption(), "City");
+    EXPECT_EQ(&panel->ResultFields(), &query->QResult().ResultFields());
+    delete query;
+    EXPECT_EQ(panel->ResultFields().GetCount(), 1); // its own
+    delete component;
+    EXPECT_EQ(panel->DBStruct(), nullptr);
+    EXPECT_EQ(panel->Rows().GetCount(), 0);
+}
+
 TEST(ResultFieldsPanel, FollowsTheList) {
     TResultFieldsForm form;
     form.Add("City", "{City}");
@@ -282,6 +375,12 @@ TEST(ResultFieldsPanel, FollowsTheList) {
     Press({Qt::Key_Home, Qt::Key_Return});
     form.query.SetActive(true);
     EXPECT_TRUE(form.Texts().isEmpty());
+    form.Add("City", "{City}"); // what is to be shown while the query sleeps is shown later
+    form.query.SetActive(false);
+    QCoreApplication::processEvents();
+    form.query.SetActive(true);
+    QCoreApplication::processEvents();
+    EXPECT_GT(form.panel->AddLabel()->y(), 5);
     TKQuery other(&form.structure);
     other.QResult().ResultFields().AddByExpression("A", TSortingType::stDescending, "{Note}");
     form.panel->SetResultFields(&other.QResult().ResultFields());
@@ -326,6 +425,13 @@ TEST(ResultFieldsPanel, RandomEditingIsTakenBackToTheFirstText) {
     const auto below = [&](int n) {
         return n > 0 ? std::uniform_int_distribution<int>(0, n - 1)(random) : 0;
     };
+    form.panel->Dialogs.editResultFields = [&](QWidget*, const TRFieldList& columns,
+                                               const TStrings&, const std::function<void()>&) {
+        const auto draft = std::make_shared<TResultFieldsDraft>(columns);
+        for (int i = below(6); i >= 0; --i)
+            EditAtRandom(*draft, form.structure, below);
+        return [draft](TRFieldList& target) { draft->Apply(target); };
+    };
     for (int step = 0; step < 300; ++step) {
         const int count = form.Columns().GetCount(), row = below(count);
         const Qt::Key keys[] = {Qt::Key_Insert, Qt::Key_Delete, Qt::Key_Up, Qt::Key_Down};
@@ -333,7 +439,10 @@ TEST(ResultFieldsPanel, RandomEditingIsTakenBackToTheFirstText) {
             form.panel->AddRow();
             continue;
         }
-        switch (below(4)) {
+        switch (below(5)) {
+        case 4:
+            form.panel->EditResultFields();
+            break;
         case 0:
             form.Row(row).FieldLabel()->setFocus();
             Press(Qt::Key_Space);
@@ -406,6 +515,35 @@ TEST(ResultFieldsPanel, DialogIsOneStep) {
     EXPECT_TRUE(form.Texts().isEmpty());
 }
 
+TEST(ResultFieldsPanel, OrderOfReading) {
+    TResultFieldsForm form;
+    auto* window = new QWidget;
+    auto* before = new QLineEdit(window);
+    form.panel->setParent(window);
+    auto* behind = new QLineEdit(window);
+    window->show();
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window));
+    form.Add("City", "{City}");
+    form.Add("Note", "{Note}");
+    form.Columns().Move(1, 0);
+    QList<QWidget*> wanted = {before};
+    for (int i = 0; i < 2; ++i)
+        wanted << form.Row(i).Button() << form.Row(i).FieldLabel() << form.Row(i).SortLabel();
+    wanted << form.panel->AddLabel() << behind;
+    before->setFocus();
+    for (QWidget* next : wanted) {
+        EXPECT_EQ(QApplication::focusWidget(), next) << wanted.indexOf(next);
+        Press(Qt::Key_Tab);
+    }
+    const QAccessibleInterface* canvas =
+        QAccessible::queryAccessibleInterface(form.panel->widget());
+    for (int i = 0; i < canvas->childCount(); ++i)
+        EXPECT_EQ(canvas->child(i)->object(), wanted[i + 1]);
+    delete window;
+    form.panel = nullptr;
+}
+
 TEST(ResultFieldsPanel, ReadAloud) {
     TResultFieldsForm form;
     form.Add("City", "{City}")->SetSorting(TSortingType::stAscending);
@@ -414,6 +552,7 @@ TEST(ResultFieldsPanel, ReadAloud) {
         return QAccessible::queryAccessibleInterface(widget)->text(kind);
     };
     EXPECT_EQ(said(form.Row(0).Button(), QAccessible::Name), "Column 1: City, Ascending");
+    EXPECT_EQ(said(form.Row(0).Button(), QAccessible::Description), "1 of 1");
     EXPECT_EQ(said(form.Row(0).FieldLabel(), QAccessible::Name), "Column 1");
     EXPECT_EQ(said(form.Row(0).FieldLabel(), QAccessible::Value), "City");
     EXPECT_EQ(said(form.Row(0).SortLabel(), QAccessible::Name), "Sorting of City");
