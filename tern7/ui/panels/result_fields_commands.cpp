@@ -65,7 +65,8 @@ void TKResultFieldsPanel::DuplicateRow(int index) {
     fields->GetItem(index);
     const TPart part = FocusedPart(index);
     const QPointer<TKResultFieldsPanel> alive(this);
-    Edit(tr("Duplicate column"), [&](TResultFieldsEdit& edit) { edit.Duplicate(index); });
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Duplicate column"),
+         [&](TResultFieldsEdit& edit) { edit.Duplicate(index); });
     if (alive && part != TPart::None) FocusRow(index + 1, part);
 }
 

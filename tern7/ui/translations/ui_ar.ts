@@ -305,6 +305,10 @@
         <source>Result fields</source>
         <translation>حقول النتيجة</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>
@@ -389,6 +393,14 @@
         <source>Move down</source>
         <translation>نقل لأسفل</translation>
     </message>
+    <message>
+        <source>A comment or semicolon can not stand in an expression</source>
+        <translation>لا يمكن أن يحتوي التعبير على تعليق أو فاصلة منقوطة</translation>
+    </message>
+    <message>
+        <source>There is no field in it: fields stand in braces, {Name}</source>
+        <translation>لا يوجد حقل في التعبير: تُكتب الحقول بين أقواس معقوفة، {الاسم}</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>
@@ -430,6 +442,14 @@
     <message>
         <source>Discard the changes?</source>
         <translation>هل تريد تجاهل التغييرات؟</translation>
+    </message>
+    <message>
+        <source>The file holds no titles that can be used here: %1</source>
+        <translation>لا يحتوي الملف على نصوص يمكن استخدامها هنا: %1</translation>
+    </message>
+    <message>
+        <source>The file is not UTF-8 and was read as Windows-1252.</source>
+        <translation>الملف ليس بترميز UTF-8 وقُرئ على أنه Windows-1252.</translation>
     </message>
 </context>
 </TS>

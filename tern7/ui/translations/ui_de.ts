@@ -305,6 +305,10 @@
         <source>Result fields</source>
         <translation>Ergebnisfelder</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>
@@ -389,6 +393,14 @@
         <source>Move down</source>
         <translation>Nach unten</translation>
     </message>
+    <message>
+        <source>A comment or semicolon can not stand in an expression</source>
+        <translation>Kommentare und Semikolons sind in einem Ausdruck nicht erlaubt</translation>
+    </message>
+    <message>
+        <source>There is no field in it: fields stand in braces, {Name}</source>
+        <translation>Der Ausdruck enthält kein Feld: Felder stehen in geschweiften Klammern, {Name}</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>
@@ -430,6 +442,14 @@
     <message>
         <source>Discard the changes?</source>
         <translation>Änderungen verwerfen?</translation>
+    </message>
+    <message>
+        <source>The file holds no titles that can be used here: %1</source>
+        <translation>Die Datei enthält keine Beschriftungen, die hier passen: %1</translation>
+    </message>
+    <message>
+        <source>The file is not UTF-8 and was read as Windows-1252.</source>
+        <translation>Die Datei ist nicht in UTF-8 und wurde als Windows-1252 gelesen.</translation>
     </message>
 </context>
 </TS>

@@ -305,6 +305,10 @@
         <source>Result fields</source>
         <translation>Campos de resultado</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>
@@ -389,6 +393,14 @@
         <source>Move down</source>
         <translation>Bajar</translation>
     </message>
+    <message>
+        <source>A comment or semicolon can not stand in an expression</source>
+        <translation>Una expresión no puede contener comentarios ni punto y coma</translation>
+    </message>
+    <message>
+        <source>There is no field in it: fields stand in braces, {Name}</source>
+        <translation>La expresión no contiene ningún campo: los campos van entre llaves, {Nombre}</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>
@@ -430,6 +442,14 @@
     <message>
         <source>Discard the changes?</source>
         <translation>¿Descartar los cambios?</translation>
+    </message>
+    <message>
+        <source>The file holds no titles that can be used here: %1</source>
+        <translation>El archivo no contiene títulos que sirvan aquí: %1</translation>
+    </message>
+    <message>
+        <source>The file is not UTF-8 and was read as Windows-1252.</source>
+        <translation>El archivo no está en UTF-8 y se ha leído como Windows-1252.</translation>
     </message>
 </context>
 </TS>

@@ -305,6 +305,10 @@
         <source>Result fields</source>
         <translation>Champs de résultat</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>
@@ -389,6 +393,14 @@
         <source>Move down</source>
         <translation>Descendre</translation>
     </message>
+    <message>
+        <source>A comment or semicolon can not stand in an expression</source>
+        <translation>Une expression ne peut contenir ni commentaire ni point-virgule</translation>
+    </message>
+    <message>
+        <source>There is no field in it: fields stand in braces, {Name}</source>
+        <translation>L’expression ne contient aucun champ : les champs s’écrivent entre accolades, {Nom}</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>
@@ -430,6 +442,14 @@
     <message>
         <source>Discard the changes?</source>
         <translation>Abandonner les modifications ?</translation>
+    </message>
+    <message>
+        <source>The file holds no titles that can be used here: %1</source>
+        <translation>Le fichier ne contient aucun libellé utilisable ici : %1</translation>
+    </message>
+    <message>
+        <source>The file is not UTF-8 and was read as Windows-1252.</source>
+        <translation>Le fichier n’est pas en UTF-8 ; il a été lu comme Windows-1252.</translation>
     </message>
 </context>
 </TS>

@@ -305,6 +305,10 @@
         <source>Result fields</source>
         <translation>結果フィールド</translation>
     </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 中の %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>
@@ -389,6 +393,14 @@
         <source>Move down</source>
         <translation>下へ移動</translation>
     </message>
+    <message>
+        <source>A comment or semicolon can not stand in an expression</source>
+        <translation>式にコメントやセミコロンを含めることはできません</translation>
+    </message>
+    <message>
+        <source>There is no field in it: fields stand in braces, {Name}</source>
+        <translation>式にフィールドがありません。フィールドは波かっこで囲みます: {名前}</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>
@@ -430,6 +442,14 @@
     <message>
         <source>Discard the changes?</source>
         <translation>変更を破棄しますか?</translation>
+    </message>
+    <message>
+        <source>The file holds no titles that can be used here: %1</source>
+        <translation>このファイルにはここで使えるタイトルがありません: %1</translation>
+    </message>
+    <message>
+        <source>The file is not UTF-8 and was read as Windows-1252.</source>
+        <translation>ファイルは UTF-8 ではないため、Windows-1252 として読み込みました。</translation>
     </message>
 </context>
 </TS>
