@@ -209,15 +209,8 @@ bool TKQueryEditor::MoveResultField(int from, int to) {
 
 TResultField* TKQueryEditor::DuplicateResultField(int index) {
     TResultField* copy = nullptr;
-    Run(QT_TR_NOOP("Duplicate column"), [&] {
-        const TResultField& source = *Columns().GetItem(index);
-        auto fresh = Columns().CreateRField();
-        fresh->Assign(source);
-        fresh->SetAlias(Columns().GetUniqAlias(source.Alias()));
-        fresh->SetSorting(TSortingType::stNoSort);
-        fresh->SetSortOrder(0);
-        copy = Columns().PutField(index + 1, std::move(fresh));
-    });
+    Run(QT_TR_NOOP("Duplicate column"),
+        [&] { copy = TResultFieldsEdit(Columns()).Duplicate(index); });
     return copy;
 }
 

@@ -44,16 +44,18 @@ void TResultFieldsEdit::SetSorting(TResultField& column, TSortingType sorting) {
     Step([&] { column.SetSorting(sorting); });
 }
 
-void TResultFieldsEdit::Duplicate(int index) {
+TResultField* TResultFieldsEdit::Duplicate(int index) {
+    TResultField* added = nullptr;
     Step([&] {
         const TResultField& source = *list.GetItem(index);
-        TResultField* copy = list.New(index + 1);
+        auto copy = list.CreateRField();
         copy->Assign(source);
+        if (!source.Alias().empty()) copy->SetAlias(list.GetUniqAlias(source.Alias()));
         copy->SetSorting(TSortingType::stNoSort);
         copy->SetSortOrder(0);
-        copy->SetAlias({});
-        copy->SetAlias(source.Alias()); // with a number
+        added = list.PutField(index + 1, std::move(copy));
     });
+    return added;
 }
 
 void TResultFieldsEdit::Delete(int index) {

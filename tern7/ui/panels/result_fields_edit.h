@@ -21,7 +21,7 @@ public:
     void Replace(TResultField& column, TDSField& field, std::string caption);
     void SetSorting(TResultField& column, TSortingType sorting);
     /// A second column like it, not sorted, behind it.
-    void Duplicate(int index);
+    TResultField* Duplicate(int index);
     void Delete(int index);
     void Move(int from, int to);
     void Clear();
