@@ -35,9 +35,10 @@ std::string_view WithoutLineEnd(std::string_view line) {
     return line;
 }
 
-/// As StartsText; mostly the case is the same.
+/// As StartsText; mostly the first letter differs, or all is the same.
 bool StartsKey(std::string_view text, std::string_view key) {
-    if (text.size() < key.size()) return false;
+    if (text.size() < key.size() || (!key.empty() && LowerChar(text[0]) != LowerChar(key[0])))
+        return false;
     return std::memcmp(text.data(), key.data(), key.size()) == 0 || StartsText(text, key);
 }
 

@@ -64,7 +64,9 @@ size_t TTextHash::operator()(std::string_view text) const {
         hash ^= hash >> 29;
         text.remove_prefix(count);
     }
-    return static_cast<size_t>(hash);
+    // a last character counts in the lowest bits too: that is where numbered names differ
+    hash = (hash ^ (hash >> 32)) * factor;
+    return static_cast<size_t>(hash ^ (hash >> 29));
 }
 
 std::string_view TrimLeft(std::string_view text) {

@@ -58,6 +58,7 @@ private:
 std::vector<TRowText> TRowsParser::Parse(const TKIniText& text) {
     std::vector<int> open; // rows that the brackets around still expect, the root's first
     const TKIniSection* root = nullptr;
+    rows.reserve(text.Sections().size()); // mostly rows
     for (const TKIniSection& section : text.Sections()) {
         if (!IsRowSection(section.Name())) continue;
         if (root && open.empty()) RaiseTooManyRows(*root);
