@@ -1,40 +1,29 @@
 #pragma once
 
+#include <cstring>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include <tern7/core/corekit/strings.h>
 
 namespace tern7 {
 
-/// Lines of text in one buffer, separated by LF. The last line can grow; what was written since a
-/// mark can be taken back.
+/// Lines of text in one buffer, separated by LF. The last line can grow.
 class TKLineBuffer {
 public:
-    struct TMark {
-        size_t text, lines;
-    };
-
     bool IsEmpty() const { return starts.empty(); }
     int GetCount() const { return static_cast<int>(starts.size()); }
     void Clear() {
         text.clear();
         starts.clear();
     }
-    /// Room for as much as the other has.
-    void Reserve(const TKLineBuffer& other) {
-        text.reserve(other.text.size());
-        starts.reserve(other.starts.size());
-    }
     /// Opens a new last line.
     void NewLine() {
         if (!starts.empty()) text += '\n';
         starts.push_back(text.size());
     }
-    /// Notes that a line begins so many characters behind the end: they are appended next, as the
-    /// end of the last line, the LF behind it the last of them.
-    void LineBeginsBehind(size_t characters) { starts.push_back(text.size() + characters); }
     void AddLine(std::string_view line) {
         NewLine();
         text += line;
@@ -44,12 +33,6 @@ public:
     std::string& Last() { return text; }
     /// Where the last line begins in the buffer.
     size_t LastStart() const { return starts.back(); }
-
-    TMark Mark() const { return {text.size(), starts.size()}; }
-    void Rollback(TMark mark) {
-        text.resize(mark.text);
-        starts.resize(mark.lines);
-    }
 
     /// All lines, with none behind the last.
     const std::string& Text() const { return text; }
@@ -79,10 +62,83 @@ public:
         for (int i = 0; i < other.GetCount(); ++i)
             AddLine(other.Line(i));
     }
+    void Swap(TKLineBuffer& other) {
+        text.swap(other.text);
+        starts.swap(other.starts);
+    }
 
 private:
+    friend class TKLineWriter;
     std::string text;
     std::vector<size_t> starts;
+};
+
+/// Copies a text that mostly is short, without a call, and returns where it ends.
+[[gnu::always_inline]] inline char* PutShort(char* to, std::string_view text) {
+    const char* const from = text.data();
+    const size_t n = text.size();
+    // two moves that overlap, of the largest size that fits
+    const auto twoMoves = [&]<size_t Size>(std::integral_constant<size_t, Size>) {
+        std::memcpy(to, from, Size);
+        std::memcpy(to + n - Size, from + n - Size, Size);
+    };
+    if (n > 32)
+        std::memcpy(to, from, n);
+    else if (n >= 16)
+        twoMoves(std::integral_constant<size_t, 16>());
+    else if (n >= 8)
+        twoMoves(std::integral_constant<size_t, 8>());
+    else if (n >= 4)
+        twoMoves(std::integral_constant<size_t, 4>());
+    else
+        for (size_t i = 0; i < n; ++i)
+            to[i] = from[i];
+    return to + n;
+}
+
+/// Writes a line buffer anew from many short pieces, in the room that it has. What was written
+/// since a mark can be taken back. The buffer holds the text when Finish was called.
+class TKLineWriter {
+public:
+    struct TMark {
+        size_t used, lines;
+    };
+
+    explicit TKLineWriter(TKLineBuffer& buffer) : text(buffer.text), starts(buffer.starts) {
+        starts.clear();
+    }
+    TKLineWriter(const TKLineWriter&) = delete;
+    TKLineWriter& operator=(const TKLineWriter&) = delete;
+    void Finish() { text.resize(used); }
+
+    /// Where up to so many characters can be written; Wrote says where they end.
+    char* Room(size_t characters) {
+        if (text.size() - used < characters) text.resize(2 * text.size() + characters);
+        return text.data() + used;
+    }
+    void Wrote(const char* end) { used = static_cast<size_t>(end - text.data()); }
+
+    void Append(std::string_view piece) { Wrote(PutShort(Room(piece.size()), piece)); }
+    /// Notes that a line begins so many characters behind the end: they are appended next, as the
+    /// end of the last line, the LF behind it the last of them.
+    void StartLineBehind(size_t characters) { starts.push_back(used + characters); }
+    void AddLine(std::string_view line) {
+        char* to = Room(line.size() + 1);
+        if (!starts.empty()) *to++ = '\n';
+        starts.push_back(static_cast<size_t>(to - text.data()));
+        Wrote(PutShort(to, line));
+    }
+
+    TMark Mark() const { return {used, starts.size()}; }
+    void Rollback(TMark mark) {
+        used = mark.used;
+        starts.resize(mark.lines);
+    }
+
+private:
+    std::string& text; // all of it is room, `used` characters are written
+    std::vector<size_t>& starts;
+    size_t used = 0;
 };
 
 } // namespace tern7

@@ -239,12 +239,11 @@ private:
         for (std::string& item : ParseCommaText(cond.Value(n))) {
             if (!first) out += ", ";
             first = false;
-            if (!keepsQuotes) {
-                Bare(std::move(item));
-                continue;
-            }
             if (IsDateOrTime(type)) item = query.ProcessDateValue(type, item, true);
-            values.Bind(out, BoundQuoted(type, std::move(item)));
+            if (keepsQuotes)
+                values.Bind(out, BoundQuoted(type, std::move(item)));
+            else
+                Bare(std::move(item));
         }
     }
 
@@ -332,7 +331,7 @@ void AppendBoundCondition(TConditionWriter& textWriter, const TKQuery& query,
             return;
         }
     }
-    TBoundWriter(query, textWriter.MainTable(), condition, values, out).Write();
+    TBoundWriter(query, textWriter.MainTableName(), condition, values, out).Write();
 }
 
 } // namespace tern7

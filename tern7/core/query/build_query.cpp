@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <utility>
 
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/condition_text.h>
@@ -9,43 +8,42 @@
 
 namespace tern7 {
 
+using namespace std::string_view_literals;
+
 /// Builds the parts of a statement beside the query's present ones, which are replaced when all
 /// went well: main table, columns with sort and group text, condition lines.
 class TQueryBuild {
 public:
-    /// Without `boundValues` the text form.
-    TQueryBuild(TKQuery& owner, TBoundValues* boundValues)
+    /// Without `boundValues` the text form. Tables and lines are written anew.
+    TQueryBuild(TKQuery& owner, TBoundValues* boundValues, TRTableList& tableList,
+                TKLineBuffer& conditionLines)
         : query(owner), result(owner.QResult()), structure(owner.RequireStruct()),
           revision(structure.Revision()),
           bracketConditions(result.SQLOptions().Contains(TSQLOption::soBracketConditions)),
           values(boundValues), isPlain(!boundValues && !owner.OnBuildSQL), writer(*result.writer),
-          tables(std::move(result.spareTables)), conditions(std::move(result.spareConditions)) {
-        tables.Clear();
-        conditions.Clear();
-        writer.Begin();
-        conditions.Reserve(result.conditions);
+          tables(tableList), lines(conditionLines) {
+        writer.Begin(structure);
     }
 
     void Run() {
+        tables.Clear();
         AddMainTable();
-        AddResultFields();
+        if (!result.ResultFields().IsEmpty()) AddResultFields();
         Bracket(query.Root());
+        lines.Finish();
         if (tables.IsEmpty()) throw EKQueryPanelError(std::string(messages::NotEnoughInformation));
     }
 
-    void Store() {
-        result.spareTables = std::exchange(result.resultTables, std::move(tables));
-        result.spareConditions = std::exchange(result.conditions, std::move(conditions));
-        result.orderByText = std::move(orderBy);
-        result.groupByText = std::move(groupBy);
+    void TakeSorting(std::string& orderByText, std::string& groupByText) {
+        if (!orderBy.empty() || !orderByText.empty()) orderByText.swap(orderBy);
+        if (!groupBy.empty() || !groupByText.empty()) groupByText.swap(groupBy);
     }
 
     /// The condition lines alone, over the tables that the query was built with.
-    TKLineBuffer Conditions() {
-        tables = result.resultTables;
-        if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table->TableName());
+    void RunConditions() {
+        if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table);
         Bracket(query.Root());
-        return std::move(conditions);
+        lines.Finish();
     }
 
 private:
@@ -61,7 +59,7 @@ private:
 
     void Begin(TDSTable* table) {
         tables.Join(table, nullptr);
-        writer.SetMainTable(table->TableName());
+        writer.SetMainTable(table);
     }
 
     void AddTable(TDSTable* table) {
@@ -79,9 +77,10 @@ private:
 
     void AddTablesOf(const TDSField& field) {
         if (field.IsPlaceholder()) return;
+        lastTable = field.Table();
+        if (lastTable) return AddTable(field.Table());
         for (TDSTable* table : field.GetTables())
             AddTable(table);
-        lastTable = field.Table();
     }
 
     void AddResultFields() {
@@ -132,69 +131,78 @@ private:
                 throw EKQueryPanelError(FormatMessage(messages::FieldNotFound, {field.Caption()}));
     }
 
-    /// What Unfinished says, at once for the common case.
-    bool IsFinished(const TFilterCond& condition) const {
-        if (!query.CheckValues && condition.IsRecognized() && condition.Entered() &&
-            condition.Operator()->ValueType() == TOpValueType::vtScalar)
-            return true;
-        return condition.Unfinished() == TUnfinished::No;
-    }
-
     /// True when the bracket wrote something. What was written ahead for rows that then write
     /// nothing is taken back, so one walk is enough.
     bool Bracket(const TFilterBracket& bracket) {
-        const std::string_view joint = JoinsByAnd(bracket.LinkType()) ? " AND\n(" : " OR\n(";
+        const std::string_view joint = JoinsByAnd(bracket.LinkType()) ? " AND\n("sv : " OR\n("sv;
         bool any = false;
         for (const auto& row : bracket.Rows()) {
             if (!row->GetEnabled()) continue;
             if (const TFilterCond* condition = row->AsCond()) {
-                if (!IsFinished(*condition)) continue;
+                const TConditionWriter::TForm* form =
+                    isPlain ? writer.SimpleForm(*condition) : nullptr;
+                if (!form && condition->Unfinished() != TUnfinished::No) continue;
                 if (!any) Open(bracket);
-                Condition(*condition, any ? joint : "\n(");
+                Condition(*condition, form, any ? joint : joint.substr(joint.size() - 2));
             } else {
-                const TKLineBuffer::TMark mark = conditions.Mark();
+                const TKLineWriter::TMark mark = lines.Mark();
                 if (any)
-                    conditions.Last() += joint.substr(0, joint.size() - 2);
+                    lines.Append(joint.substr(0, joint.size() - 2));
                 else
                     Open(bracket);
                 if (!Bracket(*row->AsBracket())) {
-                    conditions.Rollback(mark);
+                    lines.Rollback(mark);
                     continue;
                 }
             }
             any = true;
         }
-        if (any) conditions.AddLine(")");
+        if (any) lines.AddLine(")");
         return any;
     }
 
     void Open(const TFilterBracket& bracket) {
-        conditions.AddLine(IsNegated(bracket.LinkType()) ? " NOT (" : " (");
+        lines.AddLine(IsNegated(bracket.LinkType()) ? " NOT ("sv : " ("sv);
     }
 
-    /// `before` ends the line before and opens the condition's bracket, which not all have.
-    void Condition(const TFilterCond& condition, std::string_view before) {
+    /// `before` ends the line before and opens the condition's bracket, which not all have. With a
+    /// form the condition is finished and mostly written in one go.
+    void Condition(const TFilterCond& condition, const TConditionWriter::TForm* form,
+                   std::string_view before) {
+        const TDSTable* table = form ? form->table : nullptr;
+        if (!table || table != lastTable) {
+            AddTablesOf(condition);
+            if (form && !writer.HasForms()) form = writer.SimpleForm(condition);
+        }
+        const size_t bracket = bracketConditions ? 1 : 0;
+        lines.StartLineBehind(before.size() - 1);
+        before.remove_suffix(1 - bracket);
+        if (!form || !writer.AppendSimple(*form, condition, before, lines)) {
+            lines.Append(before);
+            lines.Append(TextOf(condition));
+        }
+        if (bracketConditions) lines.Append(")");
+    }
+
+    void AddTablesOf(const TFilterCond& condition) {
         const TDSField* field = condition.Field();
         if (field && !(lastTable && field->Table() == lastTable)) AddTablesOf(*field);
         if (!condition.IsRecognized())
             for (TDSTable* table : TablesOfText(structure, condition.SQLText()))
                 AddTable(table);
-        if (!bracketConditions) before.remove_suffix(1);
-        conditions.LineBeginsBehind(before.size() - (bracketConditions ? 1 : 0));
-        std::string& out = conditions.Last();
-        if (isPlain) {
-            writer.Append(condition, out, before);
-        } else if (values) {
-            out += before;
-            AppendBoundCondition(writer, query, condition, *values, out);
+    }
+
+    /// Overwritten by the next call.
+    const std::string& TextOf(const TFilterCond& condition) {
+        conditionText.clear();
+        if (values) {
+            AppendBoundCondition(writer, query, condition, *values, conditionText);
         } else {
-            std::string text;
-            writer.Append(condition, text);
-            query.OnBuildSQL(const_cast<TFilterCond&>(condition), text);
-            out.append(before).append(text);
+            writer.Append(condition, conditionText);
+            if (!isPlain) query.OnBuildSQL(const_cast<TFilterCond&>(condition), conditionText);
         }
-        if (bracketConditions) out += ')';
         if (!isPlain) RequireSameStructure();
+        return conditionText;
     }
 
     /// The tables found so far, and templates, are those of the structure as it was.
@@ -211,9 +219,10 @@ private:
     TBoundValues* values;
     bool isPlain; // text form that no one changes
     TConditionWriter& writer;
-    TRTableList tables;
+    TRTableList& tables;
     const TDSTable* lastTable = nullptr; // is in the list
-    TKLineBuffer conditions;
+    TKLineWriter lines;
+    std::string conditionText; // room for one
     std::string orderBy;
     std::string groupBy;
 };
@@ -242,18 +251,21 @@ void TKQuery::BuildQuery() {
     RequireChangeable();
     InstantiateNested();
     const TBuildingState building(*this);
-    TQueryBuild build(*this, nullptr);
+    // beside the present parts, which stay where they are when something fails
+    TQueryBuild build(*this, nullptr, result->spareTables, result->spareConditions);
     build.Run();
-    build.Store();
+    result->resultTables.Swap(result->spareTables);
+    result->conditions.Swap(result->spareConditions);
+    build.TakeSorting(result->orderByText, result->groupByText);
 }
 
 std::string TKQuery::ConditionText(const TFilterCond& condition) const {
     std::string text;
     if (condition.Unfinished() != TUnfinished::No) return text;
     TConditionWriter& writer = *result->writer;
-    writer.Begin();
+    writer.Begin(*structure);
     const TRTableList& tables = result->ResultTables();
-    if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table->TableName());
+    if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table);
     writer.Append(condition, text);
     return text;
 }
@@ -270,8 +282,10 @@ TKLineBuffer TQueryResult::BoundLines(TBoundValues& values) {
     if (resultTables.IsEmpty()) throw EKQueryPanelError(std::string(messages::NotBuiltProperly));
     RequireSafeColumns();
     const TBuildingState building(query);
-    TKLineBuffer statement;
-    AppendStatement(statement, TQueryBuild(query, &values).Conditions());
+    TRTableList tables = resultTables;
+    TKLineBuffer boundConditions, statement;
+    TQueryBuild(query, &values, tables, boundConditions).RunConditions();
+    AppendStatement(statement, boundConditions);
     return statement;
 }
 

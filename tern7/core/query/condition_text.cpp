@@ -21,10 +21,6 @@ bool HoldsAt(std::string_view text) {
     return text.find('@') != std::string_view::npos;
 }
 
-char* Put(char* to, std::string_view text) {
-    return to + text.copy(to, text.size());
-}
-
 void RemoveQuotes(std::string& text, size_t from) {
     size_t to = text.find('\'', from);
     if (to == std::string::npos) return;
@@ -94,7 +90,8 @@ bool IsBareToken(std::string_view text) {
 
 void CheckBareValue(const TFilterCond& condition, int n) {
     if (!condition.ValueIsBare(n)) return;
-    const std::string& value = condition.Value(n);
+    // as it will stand there: dates in their SQL form
+    const std::string value = condition.Query()->ExtractValue(condition, n);
     bool fine;
     if (condition.IsListOperator()) {
         // the comma text stands as it is: quotes around an item would make it a name
@@ -107,19 +104,24 @@ void CheckBareValue(const TFilterCond& condition, int n) {
     }
     if (fine) return;
     throw EKWrongValueError(
-        FormatMessage(messages::WrongValue, {condition.Field()->DisplayName(), value}), condition);
+        FormatMessage(messages::WrongValue, {condition.Field()->DisplayName(), condition.Value(n)}),
+        condition);
 }
 
-void TConditionWriter::SetMainTable(const std::string& name) {
-    if (name == mainTable) return;
-    mainTable = name;
+std::string_view TConditionWriter::MainTableName() const {
+    return mainTable ? std::string_view(mainTable->TableName()) : std::string_view();
+}
+
+void TConditionWriter::SetMainTable(const TDSTable* table) {
+    if (table == mainTable) return;
+    mainTable = table;
     DropForms();
 }
 
-void TConditionWriter::Begin() {
-    const uint64_t present = query.RequireStruct().Revision();
-    if (present == revision) return;
-    revision = present;
+void TConditionWriter::Begin(const TKCustomDBStructure& structure) {
+    if (structure.Revision() == revision) return;
+    revision = structure.Revision();
+    mainTable = nullptr;
     DropForms();
 }
 
@@ -133,6 +135,7 @@ TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
     TForm form;
     form.field = &field;
     form.op = &op;
+    form.table = field.Table();
     const bool quotedType = field.Structure().IsQuotedType(field.FieldType());
     form.keepsQuotes = quotedType || op.ValueType() == TOpValueType::vtSubQuery;
     form.valueCount = std::min(op.GetParamCount(), 2);
@@ -160,7 +163,7 @@ TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
             piece = field.GetTables().empty() ? "@t" : field.GetTables().front()->TableName();
             break;
         case TPiece::MainTable:
-            piece = mainTable;
+            piece = MainTableName();
             break;
         case TPiece::NoValue:
             break;
@@ -184,12 +187,21 @@ TConditionWriter::TForm TConditionWriter::MakeForm(const TDSField& field,
     return form;
 }
 
-inline const TConditionWriter::TForm& TConditionWriter::FormOf(const TFilterCond& condition) {
-    if (condition.formHint < forms.size()) {
-        const TForm& form = forms[condition.formHint];
-        if (form.field == condition.field && form.op == condition.op) return form;
-    }
-    return FindForm(condition);
+const TConditionWriter::TForm* TConditionWriter::SimpleForm(const TFilterCond& condition) {
+    if (!condition.recognized) return nullptr;
+    const TForm* form = nullptr;
+    if (condition.formHint < forms.size()) form = &forms[condition.formHint];
+    if (!form || form->field != condition.field || form->op != condition.op)
+        form = &FindForm(condition);
+    if (!form->simple || (!condition.entered && form->valueCount > 0)) return nullptr;
+    return !query.CheckValues || NeedsNoCheck(*form, condition) ? form : nullptr;
+}
+
+/// True when no value stands without quotes, or each that does is one number or word.
+bool TConditionWriter::NeedsNoCheck(const TForm& form, const TFilterCond& condition) const {
+    for (size_t n = 0; n < static_cast<size_t>(form.valueCount); ++n)
+        if (form.bare[n] && !IsBareToken(condition.values[n].text.Get())) return false;
+    return true;
 }
 
 const TConditionWriter::TForm& TConditionWriter::FindForm(const TFilterCond& condition) {
@@ -218,9 +230,8 @@ void TConditionWriter::PutForm(size_t cell, TForm form) {
     }
 }
 
-inline bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condition,
-                                           std::string_view before, std::string& out) {
-    if (!form.simple) return false;
+bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond& condition,
+                                    std::string_view before, TKLineWriter& out) {
     size_t length = before.size() + form.length;
     bool plain = true;
     for (size_t place = 0; place < form.places; ++place) {
@@ -230,31 +241,31 @@ inline bool TConditionWriter::AppendSimple(const TForm& form, const TFilterCond&
         length += value.text.Get().size();
     }
     if (!plain) return AppendDoubled(form, condition, before, out);
-    // room is asked for once: the pieces are short
-    const size_t start = out.size();
-    out.resize(start + length);
-    char* to = Put(Put(out.data() + start, before), form.texts[0]);
+    char* to = PutShort(PutShort(out.Room(length), before), form.texts[0]);
     for (size_t place = 0; place < form.places; ++place) {
-        to = Put(to, condition.values[form.valueAt[place]].text.Get());
-        if (!form.texts[place + 1].empty()) to = Put(to, form.texts[place + 1]);
+        to = PutShort(to, condition.values[form.valueAt[place]].text.Get());
+        if (!form.texts[place + 1].empty()) to = PutShort(to, form.texts[place + 1]);
     }
+    out.Wrote(to);
     return true;
 }
 
 /// The same for values with quotes, which are doubled. Another way when these would have to go
 /// again, or the first of two values holds what may be the placeholder of the second.
 bool TConditionWriter::AppendDoubled(const TForm& form, const TFilterCond& condition,
-                                     std::string_view before, std::string& out) {
+                                     std::string_view before, TKLineWriter& out) {
     for (size_t place = 0; place < form.places; ++place) {
         const std::string& value = condition.values[form.valueAt[place]].text.Get();
         if ((!form.keepsQuotes && value.find('\'') != std::string::npos) ||
             (form.valueCount > 1 && HoldsAt(value)))
             return false;
     }
-    out.append(before).append(form.texts[0]);
-    for (size_t place = 0; place < form.places; ++place)
-        out.append(ReplaceStr(condition.values[form.valueAt[place]].text.Get(), "'", "''"))
-            .append(form.texts[place + 1]);
+    out.Append(before);
+    out.Append(form.texts[0]);
+    for (size_t place = 0; place < form.places; ++place) {
+        out.Append(ReplaceStr(condition.values[form.valueAt[place]].text.Get(), "'", "''"));
+        out.Append(form.texts[place + 1]);
+    }
     return true;
 }
 
@@ -264,7 +275,7 @@ std::string TConditionWriter::SequentialText(const TFilterCond& condition) const
     std::string text = ReplaceStr(condition.Operator()->SQLName(), "@f", field.GetSQLExpr());
     if (!field.GetTables().empty())
         text = ReplaceStr(text, "@t", field.GetTables().front()->TableName());
-    text = ReplaceStr(text, "@m", mainTable);
+    text = ReplaceStr(text, "@m", MainTableName());
     const int count = condition.Operator()->GetParamCount();
     for (int n = 1; n <= count; ++n)
         text = ReplaceStr(text, "@" + std::to_string(n), query.ExtractValue(condition, n));
@@ -274,18 +285,15 @@ std::string TConditionWriter::SequentialText(const TFilterCond& condition) const
     return text;
 }
 
-void TConditionWriter::Append(const TFilterCond& condition, std::string& out,
-                              std::string_view before) {
+void TConditionWriter::Append(const TFilterCond& condition, std::string& out) {
     if (!condition.IsRecognized()) {
-        out.append(before).append(condition.SQLText());
+        out += condition.SQLText();
         return;
     }
-    const TForm& form = FormOf(condition);
     if (query.CheckValues)
-        for (int n = 1; n <= form.valueCount; ++n)
-            if (form.bare[n - 1]) CheckBareValue(condition, n);
-    if (!AppendSimple(form, condition, before, out))
-        out.append(before).append(SequentialText(condition));
+        for (int n = 1; n <= condition.ValueCount(); ++n)
+            CheckBareValue(condition, n);
+    out += SequentialText(condition);
 }
 
 std::string NestedStatement(const TFilterCond& condition) {

@@ -4,10 +4,14 @@
 #include <string_view>
 #include <vector>
 
+#include <tern7/core/corekit/line_buffer.h>
 #include <tern7/core/query/bound_value.h>
 #include <tern7/core/query/filter_row.h>
 
 namespace tern7 {
+
+class TDSTable;
+class TKCustomDBStructure;
 
 /// Writes conditions of one query as text. The template of an operator with everything but the
 /// values put in is kept for each field, since conditions over the same few fields come in
@@ -17,44 +21,53 @@ public:
     explicit TConditionWriter(const TKQuery& owner) : query(owner) {}
 
     /// To be called before a run over conditions: drops what a changed structure made wrong.
-    void Begin();
+    void Begin(const TKCustomDBStructure& structure);
     /// Drops what was kept: the structure is another one.
     void Forget() { revision = 0; }
-    /// The name that stands for "@m".
-    const std::string& MainTable() const { return mainTable; }
-    void SetMainTable(const std::string& name);
+    /// The name that stands for "@m"; empty without a main table.
+    std::string_view MainTableName() const;
+    /// Another one drops the forms.
+    void SetMainTable(const TDSTable* table);
+    bool HasForms() const { return !forms.empty(); }
 
-    /// Appends the text of a condition that is finished, and `before` ahead of it.
-    /// EKWrongValueError for a value that may not stand without quotes.
-    void Append(const TFilterCond& condition, std::string& out, std::string_view before = {});
+    /// Appends the text of a condition that is finished. EKWrongValueError for a value that may not
+    /// stand without quotes.
+    void Append(const TFilterCond& condition, std::string& out);
 
-private:
     /// A template without its values: texts[0] value texts[1] value texts[2].
     struct TForm {
         const TDSField* field = nullptr;
         const TDSOperator* op = nullptr;
-        size_t length = 0;   ///< of the texts together
+        const TDSTable* table = nullptr; ///< that of a data field
+        size_t length = 0;               ///< of the texts together
         bool simple = false; ///< one pass gives what the replacements one after the other give
         bool keepsQuotes = false;
         int valueCount = 0;
         bool bare[2] = {};
         uint8_t places = 0;
-        uint8_t valueAt[2] = {}; ///< which value stands at the first and at the second place, from 0
+        uint8_t valueAt[2] = {}; ///< the value, from 0, at the first and at the second place
         std::string texts[3];
     };
+    /// The form of a condition that is finished, can be written in one pass and needs no check;
+    /// otherwise none. It is valid until the form of another condition is asked for.
+    const TForm* SimpleForm(const TFilterCond& condition);
+    /// Writes `before` and the text of a condition with such a form. False, and nothing is written,
+    /// for one whose values need the replacements one after the other.
+    static bool AppendSimple(const TForm& form, const TFilterCond& condition,
+                             std::string_view before, TKLineWriter& out);
+
+private:
     void DropForms();
-    const TForm& FormOf(const TFilterCond& condition);
     const TForm& FindForm(const TFilterCond& condition);
     void PutForm(size_t cell, TForm form);
     TForm MakeForm(const TDSField& field, const TDSOperator& op) const;
-    static bool AppendSimple(const TForm& form, const TFilterCond& condition,
-                             std::string_view before, std::string& out);
     static bool AppendDoubled(const TForm& form, const TFilterCond& condition,
-                              std::string_view before, std::string& out);
+                              std::string_view before, TKLineWriter& out);
+    bool NeedsNoCheck(const TForm& form, const TFilterCond& condition) const;
     std::string SequentialText(const TFilterCond& condition) const;
 
     const TKQuery& query;
-    std::string mainTable;
+    const TDSTable* mainTable = nullptr;
     uint64_t revision = 0; // of the structure that the forms are made from
     std::vector<TForm> forms;
     // The forms by field and operator: position in `forms` plus one, in one of the cells from the

@@ -9,7 +9,7 @@ namespace tern7 {
 // --- recording
 
 void TKQueryRecord::RowChanges(TFilterRow& row) {
-    if (known.insert(&row).second) changes.push_back(TRowContents{&row, row.MakeTwin()});
+    if (known.insert(&row).second) changes.emplace_back(TRowContents{&row, row.MakeTwin()});
 }
 
 void TKQueryRecord::RowPut(TFilterBracket& parent, int index, TFilterRow& row) {
@@ -19,13 +19,13 @@ void TKQueryRecord::RowPut(TFilterBracket& parent, int index, TFilterRow& row) {
         fresh.insert(&row);
         if (fresh.contains(&parent)) return; // comes and goes with it
     }
-    changes.push_back(TRowPlace{&parent, index, &row, true});
+    changes.emplace_back(TRowPlace{&parent, index, &row, true});
 }
 
 void TKQueryRecord::RowTaken(TFilterBracket& parent, int index, TFilterRow& row) {
     taken.insert(&row);
     outside.insert(&row);
-    changes.push_back(TRowPlace{&parent, index, &row, false});
+    changes.emplace_back(TRowPlace{&parent, index, &row, false});
 }
 
 void TKQueryRecord::Keep(std::unique_ptr<TFilterRow> row) {
@@ -46,41 +46,41 @@ void TKQueryRecord::ColumnChanges(TResultField& column) {
     if (!known.insert(&column).second) return;
     std::unique_ptr<TResultField> twin = column.Owner()->CreateRField();
     twin->Assign(column);
-    changes.push_back(TColumnContents{&column, std::move(twin)});
+    changes.emplace_back(TColumnContents{&column, std::move(twin)});
 }
 
 void TKQueryRecord::ColumnPut(int index, TResultField& column) {
     outside.erase(&column);
     if (!taken.contains(&column)) known.insert(&column);
-    changes.push_back(TColumnPlace{index, &column, true});
+    changes.emplace_back(TColumnPlace{index, &column, true});
 }
 
 void TKQueryRecord::ColumnTaken(int index, TResultField& column) {
     taken.insert(&column);
     outside.insert(&column);
-    changes.push_back(TColumnPlace{index, &column, false});
+    changes.emplace_back(TColumnPlace{index, &column, false});
 }
 
 void TKQueryRecord::ColumnMoved(int from, int to) {
-    changes.push_back(TColumnMove{from, to});
+    changes.emplace_back(TColumnMove{from, to});
 }
 
 void TKQueryRecord::JustSortingChanges() {
-    changes.push_back(TJustSorting{query.QResult().ResultFields().JustSorting()});
+    changes.emplace_back(TJustSorting{query.QResult().ResultFields().JustSorting()});
 }
 
 void TKQueryRecord::OptionsChange(TSQLOptions to) {
     const int now = SQLOptionsToInt(query.SQLOptions());
     const int mask = now ^ SQLOptionsToInt(to);
-    changes.push_back(TOptions{mask, now & mask});
+    changes.emplace_back(TOptions{mask, now & mask});
 }
 
 void TKQueryRecord::MainTableChanges() {
-    changes.push_back(TMainTable{query.MainTableName()});
+    changes.emplace_back(TMainTable{query.MainTableName()});
 }
 
 void TKQueryRecord::TextsChange() {
-    changes.push_back(TTexts{query.QueryName(), query.FormatVersion(), query.Titles,
+    changes.emplace_back(TTexts{query.QueryName(), query.FormatVersion(), query.Titles,
                              query.Description, query.UserData});
 }
 

@@ -1,5 +1,7 @@
 #include <tern7/core/query/result_table.h>
 
+#include <utility>
+
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/global/errors.h>
 #include <tern7/core/global/messages.h>
@@ -98,10 +100,19 @@ void TRTableList::Delete(int index) {
 
 void TRTableList::Clear() {
     nodes.clear();
-    nodeOf.clear();
+    if (!nodeOf.empty()) nodeOf.clear();
     order.clear();
     first = last = -1;
     orderKnown = true;
+}
+
+void TRTableList::Swap(TRTableList& other) {
+    nodes.swap(other.nodes);
+    if (!nodeOf.empty() || !other.nodeOf.empty()) nodeOf.swap(other.nodeOf);
+    order.swap(other.order);
+    std::swap(first, other.first);
+    std::swap(last, other.last);
+    std::swap(orderKnown, other.orderKnown);
 }
 
 } // namespace tern7

@@ -37,6 +37,7 @@ public:
     const TResultTable* Find(std::string_view name) const;
     void Delete(int index);
     void Clear();
+    void Swap(TRTableList& other);
 
 private:
     struct TNode {

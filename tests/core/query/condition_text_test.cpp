@@ -231,6 +231,58 @@ TEST_F(TConditionText, TextsOfUnrecognizedConditionsBringTheirTable) {
     EXPECT_EQ(SQL(), "SELECT *\nFROM Orders O\nWHERE\n (\nO.amount ~ 5\n)");
 }
 
+/// Most conditions are written in one pass; the text of one alone takes the replacements one after
+/// the other, as they are meant.
+TEST_F(TConditionText, OnePassGivesWhatTheReplacementsGive) {
+    query.CheckValues = false;
+    structure.AddOperator("Both")->SetSQLName("'@2' <> '@1' or @f = '@1x@2'");
+    structure.AddOperator("Tables")->SetSQLName("@t.@m.@f ~ @1");
+    const std::string values[] = {"",
+                                  "7",
+                                  "O'Hara",
+                                  "''",
+                                  "@2",
+                                  "@f@1",
+                                  "a b",
+                                  "1234567",
+                                  "12345678901234567",
+                                  std::string(40, 'x')};
+    Add("C.id", "IsNull");
+    TFilterCond* row = Add("C.id", "Equal");
+    for (const char* field : {"C.id", "C.city", "O.placed", "Gross amount"})
+        for (int op = 0; op < structure.GetOperatCount(); ++op)
+            for (const std::string& first : values)
+                for (const std::string& second : {values[1], values[2], values[4]}) {
+                    row->SetField(Field(field));
+                    row->SetOperator(structure.GetOperator(op));
+                    row->SetValue(1, first);
+                    row->SetValue(2, second);
+                    query.BuildQuery();
+                    if (query.QResult().Conditions().GetCount() < 4) continue; // unfinished
+                    ASSERT_EQ(query.QResult().Conditions().Line(2), query.ConditionText(*row))
+                        << field << " " << row->OperatorName() << " " << first << ", " << second;
+                }
+}
+
+TEST_F(TConditionText, BareDatesAreCheckedInTheirSQLForm) {
+    structure.SQLFormats().SetDate("yyyymmdd");
+    structure.SetQuotedTypes({TFieldType::ftString});
+    Add("O.placed", "Equal", "2024-02-01");
+    Add("O.placed", "InList", "2024-02-01,2024-03-01");
+    EXPECT_THAT(SQL(), testing::EndsWith("O.placed = 20240201 AND\n"
+                                         "O.placed in (20240201,20240301)\n)"));
+    const TBoundSQL bound = query.QResult().GetBoundSQL();
+    ASSERT_EQ(bound.values.size(), 3u);
+    EXPECT_EQ(bound.values[2], (TBoundValue{TBoundValue::TKind::Integer, "20240301"}));
+    Add("O.placed", "Equal", "2024-02-30");
+    try {
+        query.BuildQuery();
+        ADD_FAILURE() << "no such day";
+    } catch (const EKWrongValueError& error) {
+        EXPECT_STREQ(error.what(), "Wrong value for field \"Placed on\": 2024-02-30");
+    }
+}
+
 TEST_F(TConditionText, UnfinishedRowsAreLeftOutAndNamed) {
     Add("C.city", "Equal", "Rome");
     TFilterBracket* bracket = query.Root().AddBracket();
