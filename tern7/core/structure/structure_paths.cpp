@@ -1,6 +1,7 @@
 #include <tern7/core/structure/structure_paths.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <tern7/core/global/messages.h>
 
@@ -69,7 +70,7 @@ void TKCustomDBStructure::MakeLinkedSets() {
 
 TDSPathTree::TDSPathTree(const TDSLinkGraph& ofGraph, uint32_t startTable)
     : graph(ofGraph), start(startTable), nodes(ofGraph.Count(), TNode{Unseen, Unseen}),
-      depths(ofGraph.Count()), queue(ofGraph.Count() + 1) {
+      reached(ofGraph.Count()), queue(ofGraph.Count() + 1) {
     nodes[start] = {start, start};
     queue[tail++] = start;
 }
@@ -80,10 +81,11 @@ bool TDSPathTree::GrowTo(uint32_t table) {
     while (nodes[table].parent == Unseen && head < tail) {
         const uint32_t from = queue[head++];
         const TNode node{from, nodes[nodes[from].parent].parent};
+        const TReached place{reached[from].depth + 1, reached[from].branch};
         for (const uint32_t* to = graph.Begin(from); to != graph.End(from); ++to)
             if (nodes[*to].parent == Unseen) {
                 nodes[*to] = node;
-                depths[*to] = depths[from] + 1;
+                reached[*to] = {place.depth, from == start ? *to : place.branch};
                 queue[tail++] = *to;
             }
     }
@@ -91,7 +93,7 @@ bool TDSPathTree::GrowTo(uint32_t table) {
 }
 
 void TDSPathTree::WritePath(uint32_t table, size_t valid, std::vector<TDSTable*>& path) const {
-    size_t place = depths[table];
+    size_t place = reached[table].depth;
     path.resize(place + 1);
     // Where the same table stands at the same place both ways are the same up to it.
     while (place > 2) {
@@ -118,12 +120,31 @@ TDSPathTree& TKCustomDBStructure::TPathTrees::TreeOf(uint32_t start) {
         trees.splice(trees.begin(), trees, known);
     } else {
         if (trees.size() == KeptTrees) {
-            if (written == &trees.back()) written = nullptr;
+            const TDSPathTree* const gone = &trees.back();
+            if (written.tree == gone) written.tree = nullptr;
+            for (TAside& way : aside)
+                if (way.written.tree == gone) way.written.tree = nullptr;
             trees.pop_back();
         }
         trees.emplace_front(graph, start);
     }
     return trees.front();
+}
+
+size_t TKCustomDBStructure::TPathTrees::Prepare(const TDSPathTree& tree, uint32_t table,
+                                                std::vector<TDSTable*>& path) {
+    const uint32_t branch = tree.BranchOf(table);
+    if (Lies(written, tree, branch)) return path.size();
+    auto way = std::find_if(aside.begin(), aside.end(),
+                            [&](const TAside& each) { return Lies(each.written, tree, branch); });
+    const bool known = way != aside.end();
+    if (!known) {
+        way = aside.begin() + static_cast<std::ptrdiff_t>(oldest);
+        oldest = (oldest + 1) % aside.size();
+    }
+    way->tables.swap(path);
+    way->written = std::exchange(written, {&tree, branch});
+    return known ? path.size() : 0;
 }
 
 // --- paths
@@ -152,8 +173,7 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
     for (const TDSTable* table : {&start, &end})
         if (&table->Structure() != this || table->Index() < 0)
             throw EKDBStructError(FormatMessage(messages::NoSuchTable, {table->TableAlias()}));
-    if (!linkedSets->MayBeLinked(start, end))
-        throw EKDBStructError(std::string(messages::NoPath));
+    if (!linkedSets->MayBeLinked(start, end)) throw EKDBStructError(std::string(messages::NoPath));
     if (!pathTrees) pathTrees = std::make_unique<TPathTrees>(tables, links.GetCount());
     const TDSLinkGraph& graph = pathTrees->graph;
     const auto from = static_cast<uint32_t>(start.Index());
@@ -161,7 +181,7 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
 
     if (from == to) {
         if (start.links.empty()) throw EKDBStructError(std::string(messages::NoPath));
-        pathTrees->written = nullptr;
+        pathTrees->ForgetWritten();
         path.tables = {tables[start.Index()]};
         // back over a link to itself, else over the first link
         if (!graph.HasLoop(from)) path.tables.push_back(start.links.front()->OtherTable(&start));
@@ -174,8 +194,8 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
         MakeLinkedSets();
         throw EKDBStructError(std::string(messages::NoPath));
     }
-    tree.WritePath(to, pathTrees->written == &tree ? path.tables.size() : 0, path.tables);
-    pathTrees->written = &tree;
+    const size_t valid = pathTrees->Prepare(tree, to, path.tables);
+    tree.WritePath(to, valid, path.tables);
     return path;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <list>
 #include <vector>
@@ -25,9 +26,9 @@ private:
     std::vector<TDSTable*> tableOf;
 };
 
-/// Sets of tables of which no chain of links leads from one to another. They follow tables and links
-/// that are added. Links that go are not noticed: the tables that they joined stay in one set until a
-/// search has no result, which makes the sets anew.
+/// Sets of tables of which no chain of links leads from one to another. They follow tables and
+/// links that are added. Links that go are not noticed: the tables that they joined stay in one set
+/// until a search has no result, which makes the sets anew.
 class TKCustomDBStructure::TLinkedSets {
 public:
     TLinkedSets() = default;
@@ -54,6 +55,8 @@ public:
     TDSPathTree(const TDSLinkGraph& graph, uint32_t startTable);
 
     uint32_t Start() const { return start; }
+    /// The first table behind the start on the way to a table that the tree holds.
+    uint32_t BranchOf(uint32_t table) const { return reached[table].branch; }
     /// Grows the tree until it holds the table; false when it can not be reached.
     bool GrowTo(uint32_t table);
     /// Writes the way from the start to a table that the tree holds. The first `valid` tables of
@@ -69,8 +72,11 @@ private:
     const TDSLinkGraph& graph;
     uint32_t start;
     std::vector<TNode> nodes;
-    std::vector<uint32_t> depths; // valid for what was reached
-    std::vector<uint32_t> queue;  // in the order of reaching; room for all tables and one more
+    struct TReached {
+        uint32_t depth, branch;
+    };
+    std::vector<TReached> reached; // valid for what was reached
+    std::vector<uint32_t> queue;   // in the order of reaching; room for all tables and one more
     uint32_t head = 0, tail = 0;
 };
 
@@ -80,11 +86,32 @@ struct TKCustomDBStructure::TPathTrees {
 
     TPathTrees(const TKObjectList<TDSTable>& tables, int linkCount) : graph(tables, linkCount) {}
     TDSPathTree& TreeOf(uint32_t start);
+    /// Gives the path object tables that begin as the way to a table of the tree does, when some
+    /// are there, and returns how many of them are those of a way from the tree's start.
+    size_t Prepare(const TDSPathTree& tree, uint32_t table, std::vector<TDSTable*>& path);
+    /// The path object holds something else now.
+    void ForgetWritten() { written.tree = nullptr; }
 
     TDSLinkGraph graph;
+
+private:
+    // A way that was written, and the branch of the tree that it lies in: the next way in it mostly
+    // has a long beginning in common with it.
+    struct TWritten {
+        const TDSPathTree* tree = nullptr;
+        uint32_t branch = 0;
+    };
+    struct TAside {
+        TWritten written;
+        std::vector<TDSTable*> tables;
+    };
+    bool Lies(const TWritten& way, const TDSPathTree& tree, uint32_t branch) const {
+        return way.tree == &tree && way.branch == branch;
+    }
     std::list<TDSPathTree> trees; // the last used first
-    // the structure's path object holds the path from this tree's start, as it was written last
-    const TDSPathTree* written = nullptr;
+    TWritten written;             // what the structure's path object holds
+    std::array<TAside, 3> aside;  // what it held before
+    size_t oldest = 0;            // among them
 };
 
 } // namespace tern7

@@ -65,6 +65,11 @@ TEST(Paths, SameAsTheLiteralSearch) {
     for (int round = 0; round < 200; ++round) {
         TKCustomDBStructure structure;
         AddTables(structure, 1 + below(7));
+        if (round % 20 == 0) // and a chain
+            for (int i = 0; i < 30; ++i) {
+                const TDSTable* last = structure.GetTable(structure.GetTableCount() - 1);
+                structure.AddLink(last->TableAlias(), structure.AddTable("t", "")->TableAlias());
+            }
         auto any = [&] { return structure.GetTable(below(structure.GetTableCount())); };
         for (int links = below(12); links > 0; --links) // with several between two, and loops
             structure.AddLink(any()->TableAlias(), any()->TableAlias());
