@@ -158,6 +158,10 @@ void TKCustomDBStructure::SetRootFieldsFirst(bool value) {
 
 void TKCustomDBStructure::SetDatabaseInfo(TKDBInfo* info) {
     if (info == DatabaseInfo()) return;
+    if (info && !databaseLines.empty()) {
+        info->LoadInfo(databaseLines); // may fail: nothing is changed yet
+        databaseLines.clear();
+    }
     databaseInfo = info;
     databaseLife = info ? info->Life().Watch() : std::weak_ptr<const void>();
     Changed();

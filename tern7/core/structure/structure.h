@@ -187,7 +187,8 @@ public:
     void SetDefaultMainTable(std::string alias);
     bool RootFieldsFirst() const { return rootFieldsFirst; }
     void SetRootFieldsFirst(bool value);
-    /// Not owned; none when it was destroyed.
+    /// Not owned; none when it was destroyed. One that is set gets the lines that a text read
+    /// without it had for it; what LoadInfo raises passes through, and the former one stays.
     TKDBInfo* DatabaseInfo() const { return databaseLife.expired() ? nullptr : databaseInfo; }
     void SetDatabaseInfo(TKDBInfo* info);
 

@@ -17,6 +17,7 @@ TKStructureReader::TKStructureReader(TKCustomDBStructure& owner, std::string_vie
 std::unique_ptr<TKCustomDBStructure::TContent> TKStructureReader::Read() {
     const TKIniSection* main = Next(structure_format::MainSection);
     if (!main) FailSection(structure_format::MainSection);
+    RequireCounts(*main);
     ReadMain(*main);
     ReadOperators(Count(*main, "OperatCount"));
     MergeDefaults(); // before the fields, which may name them
@@ -67,6 +68,24 @@ void TKStructureReader::FailSection(std::string_view name) {
 void TKStructureReader::FailValue(const TKIniSection& section, std::string_view key,
                                   std::string_view value) {
     throw EKDBStructError(FormatMessage(messages::WrongValueOfKey, {key, section.Name(), value}));
+}
+
+// In a text that was cut off the table may be one that is there no more, or only half: then it says
+// more where the name stands.
+void TKStructureReader::FailTable(const TKIniSection& section, std::string_view key,
+                                  std::string_view name) {
+    std::string message = FormatMessage(messages::NoSuchTable, {name});
+    if (closesWithRootGroup && !Optional(structure_format::RootGroupSection))
+        message.append(" (").append(key).append(" in section ").append(section.Name()).append(")");
+    throw EKDBStructError(message);
+}
+
+// A text that ends in [Main] without all counts was cut off there: nothing else is missing that
+// could tell. In a longer text a count that is missing is 0.
+void TKStructureReader::RequireCounts(const TKIniSection& main) const {
+    if (ini.Sections().size() > 1) return;
+    for (const std::string_view key : {"OperatCount", "TableCount", "FieldCount"})
+        if (!main.Has(key)) FailValue(main, key, "");
 }
 
 int TKStructureReader::Count(const TKIniSection& main, std::string_view key) const {

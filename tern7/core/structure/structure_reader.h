@@ -31,7 +31,10 @@ private:
     [[noreturn]] static void FailSection(std::string_view name);
     [[noreturn]] static void FailValue(const TKIniSection& section, std::string_view key,
                                        std::string_view value);
+    [[noreturn]] void FailTable(const TKIniSection& section, std::string_view key,
+                                std::string_view name);
     int Count(const TKIniSection& main, std::string_view key) const;
+    void RequireCounts(const TKIniSection& main) const;
     static int Ordinal(const TKIniSection& section, std::string_view key, int count);
     static TStrings List(const TKIniSection& section, std::string_view key);
     void Warn(std::string_view message, std::initializer_list<std::string_view> arguments);

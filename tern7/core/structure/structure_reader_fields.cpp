@@ -52,7 +52,9 @@ void TKStructureReader::ReadColumn(const TKIniSection& section, TDSField& field)
     field.table = ReadTableOf(section);
     // whether the database has the column is not asked: reading needs no connection
     if (!field.fieldExpr.empty()) return;
-    if (!section.Has("FieldExpr")) FailValue(section, "FieldExpr", ""); // a text that was cut
+    // a text that was cut off
+    if (!section.Has("FieldExpr") || section.Body().ends_with("FieldExpr="))
+        FailValue(section, "FieldExpr", "");
     throw EKDBStructError(FormatMessage(messages::FieldNotInTable, {"", field.table->TableName()}));
 }
 
@@ -71,7 +73,8 @@ TDSTable* TKStructureReader::ReadTableOf(const TKIniSection& section) {
         if (found != tableNames.end()) table = found->second;
     }
     if (!table)
-        throw EKDBStructError(FormatMessage(messages::NoSuchTable, {alias.empty() ? name : alias}));
+        FailTable(section, alias.empty() ? "TableName" : "TableAlias",
+                  alias.empty() ? name : alias);
     lastTable = table;
     return table;
 }

@@ -62,7 +62,7 @@ void TKStructureReader::ReadLinks(const TLinkTask& task) {
     for (const std::string& alias : ParseCommaText(task.aliases)) {
         if (alias.empty()) FailValue(*task.section, "Links", task.aliases);
         TDSTable* other = TableByAlias(alias);
-        if (!other) throw EKDBStructError(FormatMessage(messages::NoSuchTable, {alias}));
+        if (!other) FailTable(*task.section, "Links", alias);
         const std::string name = structure_format::LinkSection(
             task.alias.empty() ? task.table->tableAlias : task.alias, other->tableAlias);
         const auto [from, isFirst] = behind.try_emplace(other, ini.PositionOf(*task.section));

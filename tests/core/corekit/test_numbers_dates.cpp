@@ -11,6 +11,7 @@ TEST(Numbers, Integers) {
     for (const char* text : {"", " ", "2147483648", "1.5", "12a", "+-1", "1 2", "--1"})
         EXPECT_EQ(StrToIntExact(text), std::nullopt) << text;
     EXPECT_EQ(XStrToInt("x", 7), 7);
+    EXPECT_EQ(MinInt(MinInt(3, -2), 0), -2);
 }
 
 TEST(Numbers, FloatsReadPointAndCommaAndWriteAPoint) {

@@ -137,4 +137,22 @@ TEST(Notification, HandlersMayDeleteWhatCallsThem) {
     EXPECT_EQ(first.structure, nullptr);
 }
 
+TEST(Services, WithoutAScreenNothingIsAskedOrEdited) {
+    TKCustomDBStructure structure;
+    EXPECT_FALSE(Ask(structure.Services, "Delete table?"));
+    EXPECT_FALSE(structure.EditStructure());
+    std::string asked;
+    structure.Services.ask = [&](std::string_view question) {
+        asked = question;
+        return asked == "Delete table?";
+    };
+    structure.Services.editStructure = [](TKCustomDBStructure& edited) {
+        return edited.AddTable("t", "T") != nullptr;
+    };
+    EXPECT_TRUE(Ask(structure.Services, "Delete table?"));
+    EXPECT_FALSE(Ask(structure.Services, "Clear Structure?"));
+    EXPECT_TRUE(structure.EditStructure());
+    EXPECT_EQ(structure.GetTableCount(), 1);
+}
+
 } // namespace tern7::test

@@ -259,13 +259,19 @@ TEST(StructureText, EveryCutLoadsOrRaises) {
     while (structure.GetOperatCount() > 1)
         structure.DelOperator(1); // a shorter text
     const std::string text = structure.GetStructString();
+    const size_t countsEnd = text.find("FieldCount=") + std::string("FieldCount=").size();
     int loaded = 0;
     for (size_t length = 0; length < text.size(); ++length) {
         const std::string before = structure.GetStructString();
-        if (ErrorOf([&] { structure.SetStructString(text.substr(0, length)); }) == "no error")
+        const std::string error =
+            ErrorOf([&] { structure.SetStructString(text.substr(0, length)); });
+        if (error == "no error") {
+            ASSERT_GT(length, countsEnd) << "without its counts a text says nothing";
             ++loaded;
-        else
+        } else {
+            ASSERT_THAT(error, HasSubstr("section ")) << length;
             ASSERT_EQ(structure.GetStructString(), before) << length;
+        }
     }
     EXPECT_GT(loaded, 0);
     EXPECT_LT(loaded, static_cast<int>(text.size()) / 10) << "most cuts lose what was promised";
@@ -333,6 +339,13 @@ TEST(StructureText, DatabaseSection) {
         structure.SetDatabaseInfo(&brief);
     }
     EXPECT_EQ(structure.DatabaseInfo(), nullptr) << "it may go first";
+    TLineInfo bad, late;
+    alone.SetStructString(Replaced(text, "DatabaseName=sales", "bad"));
+    EXPECT_THROW(alone.SetDatabaseInfo(&bad), EKDBInfoError);
+    EXPECT_EQ(alone.DatabaseInfo(), nullptr);
+    alone.SetStructString(text);
+    alone.SetDatabaseInfo(&late);
+    EXPECT_THAT(late.lines, ElementsAre("DatabaseName=sales", "[odd]")) << "as if it was there";
     TLineInfo info;
     structure.SetDatabaseInfo(&info);
     structure.SetStructString(text);
