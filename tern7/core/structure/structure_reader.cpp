@@ -19,11 +19,16 @@ std::unique_ptr<TKCustomDBStructure::TContent> TKStructureReader::Read() {
     if (!main) FailSection(structure_format::MainSection);
     RequireCounts(*main);
     ReadMain(*main);
-    ReadOperators(Count(*main, "OperatCount"));
+    const int operatorCount = Count(*main, "OperatCount"), tableCount = Count(*main, "TableCount");
+    const int fieldCount = Count(*main, "FieldCount"), groupCount = Count(*main, "FieldGroups");
+    ReadOperators(operatorCount);
+    WarnOfMore("Operator:", "OperatCount", operatorCount);
     MergeDefaults(); // before the fields, which may name them
-    ReadTables(Count(*main, "TableCount"));
-    ReadFields(Count(*main, "FieldCount"));
-    ReadGroups(Count(*main, "FieldGroups"));
+    ReadTables(tableCount);
+    WarnOfMore("Table:", "TableCount", tableCount);
+    ReadFields(fieldCount);
+    WarnOfMore("Field:", "FieldCount", fieldCount);
+    ReadGroups(groupCount);
     if (const TKIniSection* section = Optional(structure_format::DatabaseSection))
         ReadDatabaseLines(*section);
     if (const TKIniSection* section = Optional(structure_format::FormatsSection))
@@ -90,6 +95,14 @@ void TKStructureReader::RequireCounts(const TKIniSection& main) const {
 
 int TKStructureReader::Count(const TKIniSection& main, std::string_view key) const {
     return Ordinal(main, key, std::numeric_limits<int>::max());
+}
+
+// Sections behind those that were counted are not read, but they are not lost in silence.
+void TKStructureReader::WarnOfMore(std::string_view prefix, std::string_view key, int count) {
+    if (cursor >= ini.Sections().size() || count == std::numeric_limits<int>::max()) return;
+    if (ini.Sections()[cursor].Name() == std::string(prefix) + std::to_string(count + 1))
+        Warn(messages::WrongValueOfKey,
+             {key, structure_format::MainSection, std::to_string(count)});
 }
 
 // An integer from 0 to below count.

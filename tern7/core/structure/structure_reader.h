@@ -35,6 +35,7 @@ private:
                                 std::string_view name);
     int Count(const TKIniSection& main, std::string_view key) const;
     void RequireCounts(const TKIniSection& main) const;
+    void WarnOfMore(std::string_view prefix, std::string_view key, int count);
     static int Ordinal(const TKIniSection& section, std::string_view key, int count);
     static TStrings List(const TKIniSection& section, std::string_view key);
     void Warn(std::string_view message, std::initializer_list<std::string_view> arguments);

@@ -192,6 +192,7 @@ void TKStructureReader::ReadGroups(int count) {
         group.groupName = section.Text("GroupName");
         ReadGroupFields(section, group.groupName, &group, group.fields);
     }
+    WarnOfMore("FieldGroup", "FieldGroups", count);
     if (const TKIniSection* section = Next(structure_format::RootGroupSection))
         ReadGroupFields(*section, section->Name(), nullptr, content->rootFields);
     else if (closesWithRootGroup)

@@ -218,6 +218,8 @@ TEST(StructureText, OddButReadable) {
         {"Fields=2", "Fields=2,99",
          "The group \"People\" names a field with the ID 99 that does not exist"},
         {"[RootGroup]", "[Root]", "Can not find section RootGroup"},
+        {"OperatCount=13", "", "Wrong value of OperatCount in section Main: 0"},
+        {"FieldGroups=1", "FieldGroups=0", "Wrong value of FieldGroups in section Main: 0"},
         {"Version=3.3", "Version=9.1",
          "The text has the version 9.1; what is newer than 3.3 was not read"},
         {"Operators=Equal,NotEqual", "Operators=Equal,Unknown", "Operator not found: Unknown"},
