@@ -82,17 +82,20 @@ private:
         std::memcpy(to, from, Size);
         std::memcpy(to + n - Size, from + n - Size, Size);
     };
-    if (n > 32)
-        std::memcpy(to, from, n);
-    else if (n >= 16)
-        twoMoves(std::integral_constant<size_t, 16>());
-    else if (n >= 8)
-        twoMoves(std::integral_constant<size_t, 8>());
-    else if (n >= 4)
+    if (n >= 8) {
+        if (n > 32)
+            std::memcpy(to, from, n);
+        else if (n >= 16)
+            twoMoves(std::integral_constant<size_t, 16>());
+        else
+            twoMoves(std::integral_constant<size_t, 8>());
+    } else if (n >= 4) {
         twoMoves(std::integral_constant<size_t, 4>());
-    else
-        for (size_t i = 0; i < n; ++i)
-            to[i] = from[i];
+    } else if (n > 0) {
+        to[0] = from[0];
+        to[n / 2] = from[n / 2];
+        to[n - 1] = from[n - 1];
+    }
     return to + n;
 }
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <optional>
 
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/condition_text.h>
@@ -35,8 +36,11 @@ public:
     }
 
     void TakeSorting(std::string& orderByText, std::string& groupByText) {
-        if (!orderBy.empty() || !orderByText.empty()) orderByText.swap(orderBy);
-        if (!groupBy.empty() || !groupByText.empty()) groupByText.swap(groupBy);
+        orderByText.clear();
+        groupByText.clear();
+        if (!sorting) return;
+        orderByText.swap(sorting->orderBy);
+        groupByText.swap(sorting->groupBy);
     }
 
     /// The condition lines alone, over the tables that the query was built with.
@@ -113,12 +117,13 @@ private:
         }
         std::stable_sort(sorted.begin(), sorted.end(),
                          [](const TSorted& a, const TSorted& b) { return a.order < b.order; });
+        std::string& orderBy = sorting.emplace().orderBy;
         for (const TSorted& entry : sorted) {
             if (!orderBy.empty()) orderBy += ", ";
             orderBy += entry.text;
         }
         if (anyAggregate && !plainExpressions.empty())
-            groupBy = plainExpressions.substr(0, plainExpressions.size() - 2);
+            sorting->groupBy = plainExpressions.substr(0, plainExpressions.size() - 2);
     }
 
     static std::string SortExpression(const TResultField& field) {
@@ -192,17 +197,16 @@ private:
                 AddTable(table);
     }
 
-    /// Overwritten by the next call.
-    const std::string& TextOf(const TFilterCond& condition) {
-        conditionText.clear();
+    std::string TextOf(const TFilterCond& condition) {
+        std::string text;
         if (values) {
-            AppendBoundCondition(writer, query, condition, *values, conditionText);
+            AppendBoundCondition(writer, query, condition, *values, text);
         } else {
-            writer.Append(condition, conditionText);
-            if (!isPlain) query.OnBuildSQL(const_cast<TFilterCond&>(condition), conditionText);
+            writer.Append(condition, text);
+            if (!isPlain) query.OnBuildSQL(const_cast<TFilterCond&>(condition), text);
         }
         if (!isPlain) RequireSameStructure();
-        return conditionText;
+        return text;
     }
 
     /// The tables found so far, and templates, are those of the structure as it was.
@@ -222,9 +226,10 @@ private:
     TRTableList& tables;
     const TDSTable* lastTable = nullptr; // is in the list
     TKLineWriter lines;
-    std::string conditionText; // room for one
-    std::string orderBy;
-    std::string groupBy;
+    struct TSorting {
+        std::string orderBy, groupBy;
+    };
+    std::optional<TSorting> sorting; // none without result fields
 };
 
 namespace {
