@@ -1,7 +1,6 @@
 #include <tern7/core/structure/structure_paths.h>
 
 #include <algorithm>
-#include <utility>
 
 #include <tern7/core/global/messages.h>
 
@@ -92,24 +91,43 @@ bool TDSPathTree::GrowTo(uint32_t table) {
     return nodes[table].parent != Unseen;
 }
 
-void TDSPathTree::WritePath(uint32_t table, size_t valid, std::vector<TDSTable*>& path) const {
+TDSPathTree::TLongWay& TDSPathTree::LongWayIn(uint32_t branch) {
+    for (TLongWay& way : longWays)
+        if (way.branch == branch) return way;
+    TLongWay& way = longWays[oldestWay];
+    oldestWay = (oldestWay + 1) % longWays.size();
+    way.branch = branch;
+    way.tables.clear();
+    return way;
+}
+
+void TDSPathTree::WritePath(uint32_t table, std::vector<TDSTable*>& path) {
     size_t place = reached[table].depth;
+    TLongWay* const way = place < LongWay ? nullptr : &LongWayIn(reached[table].branch);
+    const size_t known = way ? way->tables.size() : 0;
+    const auto isKnown = [&] { return place < known && way->tables[place] == graph.Table(table); };
+    if (isKnown()) {
+        path.assign(way->tables.begin(), way->tables.begin() + static_cast<ptrdiff_t>(place) + 1);
+        return;
+    }
     path.resize(place + 1);
-    // Where the same table stands at the same place both ways are the same up to it.
     while (place > 2) {
-        TDSTable* const here = graph.Table(table);
-        if (place < valid && path[place] == here) return;
+        if (isKnown()) {
+            std::copy_n(way->tables.begin(), place + 1, path.begin());
+            break;
+        }
         const TNode node = nodes[table];
-        path[place] = here;
+        path[place] = graph.Table(table);
         path[place - 1] = graph.Table(node.parent);
         path[place - 2] = graph.Table(nodes[node.parent].parent);
         table = node.third;
         place -= 3;
     }
-    for (;; --place, table = nodes[table].parent) {
+    for (; place <= 2; --place, table = nodes[table].parent) {
         path[place] = graph.Table(table);
-        if (place == 0) return;
+        if (place == 0) break;
     }
+    if (way && path.size() > known) way->tables = path;
 }
 
 TDSPathTree& TKCustomDBStructure::TPathTrees::TreeOf(uint32_t start) {
@@ -119,32 +137,10 @@ TDSPathTree& TKCustomDBStructure::TPathTrees::TreeOf(uint32_t start) {
     if (known != trees.end()) {
         trees.splice(trees.begin(), trees, known);
     } else {
-        if (trees.size() == KeptTrees) {
-            const TDSPathTree* const gone = &trees.back();
-            if (written.tree == gone) written.tree = nullptr;
-            for (TAside& way : aside)
-                if (way.written.tree == gone) way.written.tree = nullptr;
-            trees.pop_back();
-        }
+        if (trees.size() == KeptTrees) trees.pop_back();
         trees.emplace_front(graph, start);
     }
     return trees.front();
-}
-
-size_t TKCustomDBStructure::TPathTrees::Prepare(const TDSPathTree& tree, uint32_t table,
-                                                std::vector<TDSTable*>& path) {
-    const uint32_t branch = tree.BranchOf(table);
-    if (Lies(written, tree, branch)) return path.size();
-    auto way = std::find_if(aside.begin(), aside.end(),
-                            [&](const TAside& each) { return Lies(each.written, tree, branch); });
-    const bool known = way != aside.end();
-    if (!known) {
-        way = aside.begin() + static_cast<std::ptrdiff_t>(oldest);
-        oldest = (oldest + 1) % aside.size();
-    }
-    way->tables.swap(path);
-    way->written = std::exchange(written, {&tree, branch});
-    return known ? path.size() : 0;
 }
 
 // --- paths
@@ -181,7 +177,6 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
 
     if (from == to) {
         if (start.links.empty()) throw EKDBStructError(std::string(messages::NoPath));
-        pathTrees->ForgetWritten();
         path.tables = {tables[start.Index()]};
         // back over a link to itself, else over the first link
         if (!graph.HasLoop(from)) path.tables.push_back(start.links.front()->OtherTable(&start));
@@ -194,8 +189,7 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
         MakeLinkedSets();
         throw EKDBStructError(std::string(messages::NoPath));
     }
-    const size_t valid = pathTrees->Prepare(tree, to, path.tables);
-    tree.WritePath(to, valid, path.tables);
+    tree.WritePath(to, path.tables);
     return path;
 }
 

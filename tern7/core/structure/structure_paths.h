@@ -55,13 +55,10 @@ public:
     TDSPathTree(const TDSLinkGraph& graph, uint32_t startTable);
 
     uint32_t Start() const { return start; }
-    /// The first table behind the start on the way to a table that the tree holds.
-    uint32_t BranchOf(uint32_t table) const { return reached[table].branch; }
     /// Grows the tree until it holds the table; false when it can not be reached.
     bool GrowTo(uint32_t table);
-    /// Writes the way from the start to a table that the tree holds. The first `valid` tables of
-    /// the path are those of another way from the start: only what differs is written.
-    void WritePath(uint32_t table, size_t valid, std::vector<TDSTable*>& path) const;
+    /// Writes the way from the start to a table that the tree holds.
+    void WritePath(uint32_t table, std::vector<TDSTable*>& path);
 
 private:
     // Steps of three let the walk back over long paths go on before the last load is there.
@@ -73,11 +70,23 @@ private:
     uint32_t start;
     std::vector<TNode> nodes;
     struct TReached {
-        uint32_t depth, branch;
+        uint32_t depth;
+        uint32_t branch; // the first table behind the start
     };
+    // A long way in a branch that was written. Ways in one branch mostly begin alike, and what is
+    // alike is copied and not walked.
+    struct TLongWay {
+        uint32_t branch = Unseen;
+        std::vector<TDSTable*> tables;
+    };
+    static constexpr uint32_t LongWay = 16;
+    TLongWay& LongWayIn(uint32_t branch);
+
     std::vector<TReached> reached; // valid for what was reached
     std::vector<uint32_t> queue;   // in the order of reaching; room for all tables and one more
     uint32_t head = 0, tail = 0;
+    std::array<TLongWay, 4> longWays;
+    size_t oldestWay = 0;
 };
 
 /// What path searches found, kept until tables or links change.
@@ -86,32 +95,9 @@ struct TKCustomDBStructure::TPathTrees {
 
     TPathTrees(const TKObjectList<TDSTable>& tables, int linkCount) : graph(tables, linkCount) {}
     TDSPathTree& TreeOf(uint32_t start);
-    /// Gives the path object tables that begin as the way to a table of the tree does, when some
-    /// are there, and returns how many of them are those of a way from the tree's start.
-    size_t Prepare(const TDSPathTree& tree, uint32_t table, std::vector<TDSTable*>& path);
-    /// The path object holds something else now.
-    void ForgetWritten() { written.tree = nullptr; }
 
     TDSLinkGraph graph;
-
-private:
-    // A way that was written, and the branch of the tree that it lies in: the next way in it mostly
-    // has a long beginning in common with it.
-    struct TWritten {
-        const TDSPathTree* tree = nullptr;
-        uint32_t branch = 0;
-    };
-    struct TAside {
-        TWritten written;
-        std::vector<TDSTable*> tables;
-    };
-    bool Lies(const TWritten& way, const TDSPathTree& tree, uint32_t branch) const {
-        return way.tree == &tree && way.branch == branch;
-    }
     std::list<TDSPathTree> trees; // the last used first
-    TWritten written;             // what the structure's path object holds
-    std::array<TAside, 3> aside;  // what it held before
-    size_t oldest = 0;            // among them
 };
 
 } // namespace tern7
