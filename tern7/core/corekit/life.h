@@ -10,6 +10,7 @@ class TKLife {
 public:
     TKLife() = default;
     TKLife(const TKLife&) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is copied
     TKLife& operator=(const TKLife&) { return *this; }
     /// Expires with the owner.
     std::weak_ptr<const void> Watch() const { return token; }

@@ -12,8 +12,8 @@ size_t TSQLConditionNodeList::Checked(int index) const {
 
 void TSQLConditionNodeList::Grow() {
     const uint32_t room = std::max(capacity * 2, 2u);
-    auto** const moved = static_cast<TSQLConditionNode**>(
-        memory->allocate(room * sizeof(TSQLConditionNode*), alignof(TSQLConditionNode*)));
+    TSQLConditionNode** const moved =
+        std::pmr::polymorphic_allocator<TSQLConditionNode*>(memory).allocate(room);
     std::copy(begin(), end(), moved);
     items = moved;
     capacity = room;
