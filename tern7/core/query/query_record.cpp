@@ -90,7 +90,7 @@ void TKQueryRecord::Append(TKQueryRecord& later) {
         if (const auto* contents = std::get_if<TRowContents>(&change)) object = contents->row;
         if (const auto* contents = std::get_if<TColumnContents>(&change)) object = contents->column;
         // the twin of the earlier step holds what was there before both
-        if (!object || known.insert(object).second) changes.push_back(std::move(change));
+        if (!object || known.insert(object).second) changes.emplace_back(std::move(change));
     }
     later.changes.clear();
     rows.merge(later.rows);

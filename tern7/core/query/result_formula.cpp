@@ -166,11 +166,11 @@ void TResultField::ProcessExpression(std::string_view expression) {
         ++i;
         text += used.Use(FindByReadableName(structure, name, from));
     }
-    std::vector<TDSField*> fieldsUsed = used.Take();
+    const std::vector<TDSField*> fieldsUsed = used.Take();
     if (literalPlaceholder && !fieldsUsed.empty())
         throw EKExpressionError(FormatMessage(messages::PlaceholderInLiteral, {expression}),
                                 *literalPlaceholder);
-    SetFields(std::move(fieldsUsed), std::move(text));
+    SetFields(fieldsUsed, std::move(text));
 }
 
 void TResultField::ProcessSQLExpr(std::string_view sql) {

@@ -79,6 +79,7 @@ struct TConditionRecognition::TTry {
 TConditionRecognition::TConditionRecognition(const TKQuery& owner, bool completeReading)
     : query(owner), structure(owner.RequireStruct()), complete(completeReading) {
     std::vector<TDSOperator*> operators;
+    operators.reserve(static_cast<size_t>(structure.GetOperatCount()));
     for (int i = 0; i < structure.GetOperatCount(); ++i)
         operators.push_back(structure.GetOperator(i));
     std::stable_sort(operators.begin(), operators.end(), [](TDSOperator* a, TDSOperator* b) {

@@ -72,6 +72,7 @@ TImportSorter::TChoice TImportSorter::ChoiceFor(const TItem& item) {
 
 std::vector<size_t> TImportSorter::Sort(const std::vector<TItem>& items) {
     std::vector<TChoice> choices;
+    choices.reserve(items.size());
     for (const TItem& item : items)
         choices.push_back(ChoiceFor(item));
     const auto canByName = [](const TChoice& choice) { return choice.byName != nullptr; };
