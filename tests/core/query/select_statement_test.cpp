@@ -207,8 +207,9 @@ TEST_F(TSelectStatement, ResultTablesStandBehindTheirLink) {
     // more than are looked through one by one
     std::vector<TDSTable*> many;
     for (int i = 0; i < 40; ++i) {
-        many.push_back(structure.AddTable("many", "M" + std::to_string(i)));
-        tables.Join(many[i], i == 0 ? nullptr : structure.AddLink("M0", many[i]->TableAlias()));
+        TDSTable* const table = structure.AddTable("many", "M" + std::to_string(i));
+        many.push_back(table);
+        tables.Join(table, i == 0 ? nullptr : structure.AddLink("M0", table->TableAlias()));
     }
     EXPECT_EQ(tables.IndexOf(many[39]), tables.IndexOf(many[0]) + 1);
     EXPECT_EQ(tables.IndexOf(many[1]), tables.GetCount() - 1);
