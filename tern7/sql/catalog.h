@@ -20,6 +20,7 @@ struct TKCatalogTable {
     std::string name;
     bool qualified = false; ///< `schema.table`, each in quotes where it needs them
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): taken for a pointer compared with 0
     auto operator<=>(const TKCatalogTable&) const = default;
 };
 

@@ -62,8 +62,9 @@ QString ConnectOptions(const TKDatabaseURL& url) {
     for (const auto& [option, value] : url.options) {
         // the driver has a host of its own, set by SetAddress
         if (url.driver == TDriver::PostgreSQL && option == "host") continue;
-        const std::string name = url.driver == TDriver::MySQL ? "UNIX_SOCKET" : option;
-        options << ToQt(name + "=" + value);
+        const QString name =
+            url.driver == TDriver::MySQL ? QStringLiteral("UNIX_SOCKET") : ToQt(option);
+        options << name + QLatin1Char('=') + ToQt(value);
     }
     return options.join(QLatin1Char(';'));
 }

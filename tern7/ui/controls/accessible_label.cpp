@@ -31,7 +31,7 @@ public:
         case QAccessible::Value:
             return empty ? QString() : label.Caption();
         case QAccessible::Description: {
-            const QString own = label.accessibleDescription();
+            QString own = label.accessibleDescription();
             if (label.Fixed()) return own;
             return own.isEmpty() ? tr("press to change") : tr("%1, press to change").arg(own);
         }
