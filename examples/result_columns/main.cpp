@@ -84,9 +84,10 @@ QPalette Dark() {
 }
 
 void SavePictures(const char* structureFile, const QDir& folder, const QString& look,
-                  const QString& language = {}) {
+                  const QString& language = {}, bool narrow = false) {
     TWindow window(structureFile);
     window.Fill();
+    if (narrow) window.panel->setFixedWidth(190);
     TStrings titles = DefaultQueryTitles();
     if (!language.isEmpty()) {
         titles = LanguageTitles(language);
@@ -100,6 +101,7 @@ void SavePictures(const char* structureFile, const QDir& folder, const QString& 
     };
     save(window, "panel");
     T_dlgRFieldsEdit editor(window.Columns(), titles, &window);
+    if (narrow) editor.resize(editor.minimumSizeHint());
     editor.SetHelp([] {});
     editor.Fields()->Tree()->expandItem(editor.Fields()->Tree()->topLevelItem(0));
     editor.Fields()->Tree()->topLevelItem(0)->child(1)->setSelected(true);
@@ -112,6 +114,7 @@ void SavePictures(const char* structureFile, const QDir& folder, const QString& 
     T_dlgTitlesEdit titlesEditor(&window);
     titlesEditor.SetDefTitles(DefaultQueryTitles());
     titlesEditor.Init(titles);
+    if (narrow) titlesEditor.resize(titlesEditor.minimumSizeHint());
     save(titlesEditor, "titles");
 }
 
@@ -134,6 +137,7 @@ int main(int argc, char** argv) {
     folder.mkpath(".");
     SavePictures(argv[1], folder, "light");
     SavePictures(argv[1], folder, "german", "de");
+    SavePictures(argv[1], folder, "narrow", "de", true);
     QApplication::setLayoutDirection(Qt::RightToLeft);
     SavePictures(argv[1], folder, "arabic", "ar");
     QApplication::setLayoutDirection(Qt::LeftToRight);

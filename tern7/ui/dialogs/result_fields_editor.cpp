@@ -254,6 +254,10 @@ void T_dlgRFieldsEdit::ShowState() {
     else if (at >= 0 && draft.LacksFields(at))
         wrong = tr("There is no field in it: fields stand in braces, {Name}");
     problem->setText(wrong);
+    // a label takes the direction from its text
+    const Qt::Alignment side =
+        layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    problem->setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
     problem->setVisible(!wrong.isEmpty());
 }
 

@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 #include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/titles/title_sections.h>
@@ -23,6 +24,22 @@ QTableWidgetItem* TextItem(std::string_view text, bool editable) {
     return item;
 }
 
+/// Each text is written as its language is, whatever the direction of the dialog: "&" and "@" would
+/// change places otherwise.
+class TTitleDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const bool fromRight = option->direction == Qt::RightToLeft;
+        const Qt::Alignment side = fromRight ? Qt::AlignRight : Qt::AlignLeft;
+        option->displayAlignment = side | Qt::AlignAbsolute | Qt::AlignVCenter;
+        option->direction = option->text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+    }
+};
+
 } // namespace
 
 TKTitlesGrid::TKTitlesGrid(QWidget* parent) : QTableWidget(0, 2, parent) {
@@ -34,6 +51,7 @@ TKTitlesGrid::TKTitlesGrid(QWidget* parent) : QTableWidget(0, 2, parent) {
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
     setWordWrap(false);
+    setItemDelegate(new TTitleDelegate(this));
     setEditTriggers(QAbstractItemView::AnyKeyPressed | QAbstractItemView::DoubleClicked |
                     QAbstractItemView::EditKeyPressed | QAbstractItemView::SelectedClicked);
     connect(this, &QTableWidget::cellChanged, this, &TKTitlesGrid::edited);
