@@ -2,6 +2,7 @@
 #include <QLineEdit>
 
 #include <tern7/ui/controls/drop_down_popup.h>
+#include <tern7/ui/controls/popup_place.h>
 #include <tern7/ui/controls/text_search.h>
 #include <ui/controls/control_form.h>
 
@@ -108,6 +109,29 @@ TEST(MenuLayout, ColumnsBarsAndMirror) {
     const TMenuLayout mirrored = LayoutMenu(rows, metrics, true);
     EXPECT_EQ(mirrored.rows[4], QRect(0, 0, 50, 20));
     EXPECT_EQ(mirrored.rows[0], QRect(96, 0, 90, 20));
+}
+
+TEST(PopupPlace, BelowAboveAndInside) {
+    const QRect room(0, 0, 800, 600);
+    const struct {
+        QRect anchor;
+        QSize size;
+        bool fromRight;
+        QPoint place;
+    } cases[] = {
+        {{100, 100, 50, 20}, {200, 300}, false, {100, 120}},
+        {{400, 100, 50, 20}, {200, 300}, true, {250, 120}},
+        {{100, 400, 50, 20}, {200, 300}, false, {100, 100}}, // more room above
+        {{100, 280, 50, 20}, {200, 300}, false, {100, 300}}, // ends with the room
+        {{100, 250, 50, 20}, {200, 400}, false, {100, 200}}, // fits nowhere: moved
+        {{700, 100, 50, 20}, {200, 100}, false, {600, 120}},
+        {{10, 100, 50, 20}, {200, 100}, true, {0, 120}},
+        {{100, 100, 50, 20}, {900, 700}, false, {0, 0}},
+    };
+    for (const auto& c : cases) {
+        const QPoint at = PlaceBelow(c.anchor, c.size, room, c.fromRight);
+        EXPECT_EQ(MovedInto(room, at, c.size), QRect(c.place, c.size)) << c.anchor.y();
+    }
 }
 
 TEST(MenuItem, Captions) {
