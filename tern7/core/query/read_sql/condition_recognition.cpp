@@ -189,7 +189,12 @@ bool TConditionRecognition::TakeValue(TTry& attempt, const TDSOperator& op, int 
 bool TConditionRecognition::TakeScalar(const TSQLCapture& capture, const TDSOperator& op,
                                        const TDSField& field, int n, std::string& value) const {
     value = capture.text;
-    const bool isBare = !structure.IsQuotedType(field.FieldType()) || op.Template().ValueIsBare(n);
+    const bool isQuoted = structure.IsQuotedType(field.FieldType());
+    // without quotes '%5%' would come back as %5%
+    if (complete && !isQuoted && capture.form == TForm::Literal &&
+        UnquotedString(capture.raw) != capture.text)
+        return false;
+    const bool isBare = !isQuoted || op.Template().ValueIsBare(n);
     if (isBare && (Trim(value).empty() || (query.CheckValues && !IsBareToken(value)))) return false;
     return TakeDate(op.ExprType().value_or(field.FieldType()), value);
 }

@@ -15,9 +15,13 @@ namespace {
 using TReport = TSQLReportKind;
 
 constexpr std::string_view keepsTable = "a condition keeps this table, which nothing else uses";
+constexpr std::string_view keepsJoin =
+    "a condition keeps this join, which the structure makes by way of other tables";
 constexpr std::string_view notUsed = "no column and no condition uses it";
 constexpr std::string_view addedTable = "the query needs a further table: ";
 constexpr std::string_view otherJoin = "the structure joins it in another way";
+constexpr std::string_view unwrittenJoin =
+    "only the syntax sql1 leaves out the structure's outer join with it";
 constexpr std::string_view otherOrder = "the query joins the tables in another order";
 
 } // namespace
@@ -36,6 +40,14 @@ std::string TSQLImporter::Build() {
     return failure;
 }
 
+std::unordered_set<const TDSLink*> TSQLImporter::BuiltLinks() const {
+    const TRTableList& built = query.QResult().ResultTables();
+    std::unordered_set<const TDSLink*> links;
+    for (int i = 0; i < built.GetCount(); ++i)
+        links.insert(built[i].Link);
+    return links;
+}
+
 bool TSQLImporter::IsBuiltInOrder() const {
     const TRTableList& built = query.QResult().ResultTables();
     size_t last = 0;
@@ -47,14 +59,10 @@ bool TSQLImporter::IsBuiltInOrder() const {
     return true;
 }
 
-/// The query that was built lacks tables of the statement, and can have them: true when it has to
-/// be built again.
-bool TSQLImporter::AskForTables() {
-    if (statement.tables.size() < 2) return false;
-    return statement.allFields ? AskForTablesOfAllFields() : AskForJoinedTables();
-}
-
-bool TSQLImporter::AskForTablesOfAllFields() {
+/// "select *" has all tables of the statement, in their order; true when the query that was built
+/// lacks some, and has to be built again.
+bool TSQLImporter::AskForAllTables() {
+    if (!statement.allFields || statement.tables.size() < 2) return false;
     const TRTableList& built = query.QResult().ResultTables();
     std::unordered_map<const TDSTable*, size_t> wanted;
     bool anyUnused = false;
@@ -74,21 +82,29 @@ bool TSQLImporter::AskForTablesOfAllFields() {
     return true;
 }
 
-/// A table that only an inner join brings in comes with that join as a condition.
-bool TSQLImporter::AskForJoinedTables() {
+/// An inner join that the query does not make comes as a condition: of a table that nothing else
+/// asks for, or of two that the structure joins by way of others. True when the query has to be
+/// built again.
+bool TSQLImporter::AskForJoins() {
     if (statement.nestedJoins) return false; // what stands in brackets need not be joined to all
     const TRTableList& built = query.QResult().ResultTables();
-    for (size_t i = 0; i < statement.tables.size(); ++i) {
-        const TDSTable* const table = joins->Names().TableOf(i);
-        if (!table || built.Contains(table)) continue;
-        std::string text = joins->InnerJoinText(*table);
-        if (text.empty()) continue;
-        heldJoins.push_back(std::move(text));
-        report.CutTo(toldBeforeRows);
-        Report(TReport::rkKeptAsText, "join", statement.tables[i].all, keepsTable);
-        toldBeforeRows = report.Count();
+    const std::unordered_set<const TDSLink*> made = BuiltLinks();
+    for (const TImportedJoin& join : joins->Joins()) {
+        if (!join.isTaken || made.contains(join.link) || !joins->IsInner(join)) continue;
+        if (held.empty()) report.CutTo(toldBeforeRows);
+        const bool isUnused =
+            !built.Contains(join.link->Table1()) || !built.Contains(join.link->Table2());
+        const TDSTable* const table =
+            built.Contains(join.link->Table2()) ? join.link->Table1() : join.link->Table2();
+        const size_t place = joins->Names().PlaceOf(*table).value_or(0);
+        Report(TReport::rkKeptAsText, "join", statement.tables[place].all,
+               isUnused ? keepsTable : keepsJoin);
+        for (const TColumnPair* pair : join.pairs)
+            heldJoins.push_back(joins->PairText(*pair));
+        held.insert(join.link);
     }
-    if (heldJoins.empty()) return false;
+    if (held.empty()) return false;
+    toldBeforeRows = report.Count();
     query.Root().ClearRows();
     query.Root().SetLinkType(TFilterLinkType::fltAll);
     paramNames.clear();
@@ -112,16 +128,24 @@ void TSQLImporter::CheckJoins() {
             continue;
         }
         const TTokenRange all = statement.tables[*place].all;
-        // outer joins are not written in this syntax
-        const bool isWritten = !entry.Link || said.contains(entry.Link) ||
-                               (query.SQLSyntax() == TSQLSyntax::ssSQL1 &&
-                                entry.Link->LinkType() != TDSLinkType::ltInner);
-        Report(isWritten ? TReport::rkRecognised : TReport::rkDropped, "table", all,
-               isWritten ? std::string_view() : otherJoin);
+        const bool isSaid = !entry.Link || said.contains(entry.Link);
+        const bool isUnwritten = !isSaid && query.SQLSyntax() == TSQLSyntax::ssSQL1 &&
+                                 entry.Link->LinkType() != TDSLinkType::ltInner;
+        if (isSaid || (isUnwritten && !joins->IsCompared(*entry.Table)))
+            Report(TReport::rkRecognised, "table", all);
+        else if (isUnwritten)
+            Report(TReport::rkKeptAsText, "table", all, unwrittenJoin);
+        else
+            Report(TReport::rkDropped, "table", all, otherJoin);
     }
     for (size_t i = 0; i < statement.tables.size(); ++i)
         if (const TDSTable* table = joins->Names().TableOf(i); table && !built.Contains(table))
             Report(TReport::rkDropped, "table", statement.tables[i].all, notUsed);
+    const std::unordered_set<const TDSLink*> made = BuiltLinks();
+    for (const TImportedJoin& join : joins->Joins())
+        if (join.isTaken && !made.contains(join.link) && !held.contains(join.link) &&
+            built.Contains(join.link->Table1()) && built.Contains(join.link->Table2()))
+            Report(TReport::rkDropped, "join", from, otherJoin);
     const auto hasJoin = [this](std::initializer_list<TImportJoin> kinds) {
         return std::any_of(statement.tables.begin(), statement.tables.end(), [&](const auto& each) {
             return std::find(kinds.begin(), kinds.end(), each.join) != kinds.end();

@@ -112,7 +112,7 @@ void TImportJoins::FindLink(const TDSTable& first, const TDSTable& second,
                             const std::vector<const TColumnPair*>& candidates) {
     const TDSLink* const link = first.LinkByTable(&second);
     if (!link || link->Fields1().empty()) return;
-    TImportedJoin join{link, false, false, false, {}};
+    TImportedJoin join{link, false, false, false, false, {}};
     for (size_t i = 0; i < link->Fields1().size(); ++i) {
         const auto said =
             std::find_if(candidates.begin(), candidates.end(),
@@ -175,15 +175,16 @@ bool TImportJoins::CanBeRow(const TImportedJoin& join) const {
 }
 
 void TImportJoins::Decide(TSQLSyntax syntax, std::vector<TImportNode*>& rows, TSQLReport& report) {
-    for (const TImportedJoin& join : joins)
+    for (TImportedJoin& join : joins)
         DecideJoin(join, syntax, report);
     for (size_t i = 0; i < statement.tables.size(); ++i)
         DecideRest(i, rows, report);
 }
 
-void TImportJoins::DecideJoin(const TImportedJoin& join, TSQLSyntax syntax, TSQLReport& report) {
+void TImportJoins::DecideJoin(TImportedJoin& join, TSQLSyntax syntax, TSQLReport& report) {
     const bool isSame = SameKind(join, syntax);
     if (!isSame && CanBeRow(join)) return;
+    join.isTaken = isSame;
     for (const TColumnPair* pair : join.pairs) {
         const TTokenRange all = pair->node ? pair->node->all : statement.tables[pair->table].all;
         report.Add(isSame ? TSQLReportKind::rkRecognised : TSQLReportKind::rkDropped, "join",
@@ -216,15 +217,18 @@ void TImportJoins::DecideRest(size_t table, std::vector<TImportNode*>& rows, TSQ
                    OffsetOf(written.all), noLink);
 }
 
-std::string TImportJoins::InnerJoinText(const TDSTable& table) {
-    const auto found = std::find_if(joins.begin(), joins.end(), [&](const TImportedJoin& join) {
-        return (join.link->Table1() == &table || join.link->Table2() == &table) && IsInner(join);
-    });
-    if (found == joins.end()) return {};
-    const TColumnPair& pair = *found->pairs.front();
+std::string TImportJoins::PairText(const TColumnPair& pair) {
     if (pair.node) return names.Rewrite(pair.node->body);
     return names.ColumnText(*pair.leftTable, pair.left.name) + " = " +
            names.ColumnText(*pair.rightTable, pair.right.name);
+}
+
+bool TImportJoins::IsCompared(const TDSTable& table) const {
+    return std::any_of(pairs.begin(), pairs.end(), [&table](const TColumnPair& pair) {
+        return pair.leftTable && pair.rightTable && pair.leftTable != pair.rightTable &&
+               (pair.leftTable == &table || pair.rightTable == &table) && pair.node &&
+               !pair.node->isJoin;
+    });
 }
 
 std::optional<bool> TImportJoins::BracketConditions() const {

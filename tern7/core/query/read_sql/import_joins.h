@@ -15,6 +15,7 @@ struct TImportedJoin {
     bool keeps1 = false; ///< rows of the link's first table stay without partner
     bool keeps2 = false;
     bool isOn = false;
+    bool isTaken = false; ///< the link says it: its comparisons are no rows
     std::vector<const TColumnPair*> pairs;
 };
 
@@ -60,9 +61,14 @@ public:
     /// Decides which comparisons are joins, and says so in the report; the others stay conditions.
     /// Those of ON that must become rows are appended to the list.
     void Decide(TSQLSyntax syntax, std::vector<TImportNode*>& rows, TSQLReport& report);
-    /// A comparison that says the join of a table where it is inner; empty when there is none. With
-    /// it as a condition the query has the table, though nothing else asks for it.
-    std::string InnerJoinText(const TDSTable& table);
+    /// True when a join keeps no rows without partner: conditions say it as well.
+    bool IsInner(const TImportedJoin& join) const {
+        return !join.keeps1 && !join.keeps2 && !anyRightOrFull;
+    }
+    /// A comparison of a join as the structure writes its columns.
+    std::string PairText(const TColumnPair& pair);
+    /// True when a condition that is no join compares a column of the table with another table's.
+    bool IsCompared(const TDSTable& table) const;
     /// Whether conditions stand in brackets, as far as the joins in WHERE show it.
     std::optional<bool> BracketConditions() const;
 
@@ -75,11 +81,8 @@ private:
                   const std::vector<const TColumnPair*>& candidates);
     void TakeKind(TImportedJoin& join) const;
     bool SameKind(const TImportedJoin& join, TSQLSyntax syntax) const;
-    bool IsInner(const TImportedJoin& join) const {
-        return !join.keeps1 && !join.keeps2 && !anyRightOrFull;
-    }
     bool CanBeRow(const TImportedJoin& join) const;
-    void DecideJoin(const TImportedJoin& join, TSQLSyntax syntax, TSQLReport& report);
+    void DecideJoin(TImportedJoin& join, TSQLSyntax syntax, TSQLReport& report);
     void DecideRest(size_t table, std::vector<TImportNode*>& rows, TSQLReport& report);
     size_t OffsetOf(TTokenRange range);
 

@@ -105,7 +105,8 @@ TSQLReport TSQLImporter::Fill() {
     AddRows();
     query.SetSQLSyntax(syntaxes.Choose(query.SQLSyntax()));
     std::string failure = statement.tables.empty() ? std::string() : Build();
-    if (failure.empty() && AskForTables()) failure = Build();
+    if (failure.empty() && AskForAllTables()) failure = Build();
+    if (failure.empty() && AskForJoins()) failure = Build();
     for (const TImportLoss& loss : statement.losses)
         Report(TReport::rkDropped, loss.what, loss.all, notSaid);
     const TSQLRest& rest = parser.Result().Rest;

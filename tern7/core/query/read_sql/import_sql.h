@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 #include <tern7/core/query/filter_row.h>
@@ -73,9 +74,9 @@ private:
     void CheckGrouping();
     // what the query makes of it
     std::string Build();
-    bool AskForTables();
-    bool AskForTablesOfAllFields();
-    bool AskForJoinedTables();
+    bool AskForAllTables();
+    bool AskForJoins();
+    std::unordered_set<const TDSLink*> BuiltLinks() const;
     bool IsBuiltInOrder() const;
     void CheckJoins();
 
@@ -97,8 +98,9 @@ private:
     };
     std::unique_ptr<TImportJoins> joins;
     std::vector<TImportNode*> rowsOfJoins;
-    std::vector<std::string> heldJoins; // conditions for the sake of a table alone
-    TImportNode* rows = nullptr;        // of WHERE, without the joins
+    std::vector<std::string> heldJoins; // conditions for joins that the query does not make
+    std::unordered_set<const TDSLink*> held;
+    TImportNode* rows = nullptr; // of WHERE, without the joins
     size_t toldBeforeRows = 0;
     std::vector<TListedField> listed; // of "select *"
     std::shared_ptr<const TKSourceText> source;
