@@ -157,6 +157,7 @@ void TFilterCond::SetSubQuery(std::string text, TSQLOptions options) {
 
 TKQuery* TFilterCond::NestedQuery() const {
     if (SubQuery().empty() || !query) return nullptr;
+    query->InstantiateNested(); // parameters are named in reading order, whoever asks first
     std::unique_ptr<TKQuery>& nested = extras->nested;
     if (!nested) {
         int depth = 0;

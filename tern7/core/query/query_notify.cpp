@@ -146,9 +146,9 @@ void TKQuery::RowsAdded(TFilterBracket& parent, int index, int count) {
 }
 
 void TKQuery::RowsRemoved(TFilterBracket& parent, int index, int count) {
-    numbersKnown = false;
     // always told: views may hold on to the rows
     TellViews([&](TKQueryView& view) { view.RowsRemoved(parent, index, count); });
+    numbersKnown = false; // a view may have asked for them meanwhile
     viewsPending = viewsPending || !Listening();
 }
 

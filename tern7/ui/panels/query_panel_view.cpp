@@ -26,12 +26,13 @@ void TKQueryPanel::RowsAdded(TFilterBracket&, int, int) {
 
 /// Nothing may refer to the rows when this returns.
 void TKQueryPanel::RowsRemoved(TFilterBracket& parent, int index, int count) {
-    linesKnown = false;
-    lines.Clear();
     for (int i = index; i < index + count; ++i) {
         if (rowDrag->Row() && IsWithin(*rowDrag->Row(), *parent.GetRow(i))) rowDrag->Cancel();
         DropViewsBelow(*parent.GetRow(i));
     }
+    // behind that: who heard of the focus that moved may have asked for the lines
+    linesKnown = false;
+    lines.Clear();
     if (query->Style() == TQPStyle::psAndOr) viewsFresh = false;
     Invalidate();
 }

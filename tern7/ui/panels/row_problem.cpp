@@ -67,6 +67,27 @@ QString ValueProblem(const TFilterCond& condition, int n) {
     return {};
 }
 
+/// The first problem below a bracket.
+QString ProblemIn(const TFilterBracket& bracket) {
+    for (const auto& row : bracket.Rows()) {
+        const TFilterBracket* inner = row->AsBracket();
+        const QString problem = inner && inner->GetEnabled() ? ProblemIn(*inner) : RowProblem(*row);
+        if (!problem.isEmpty()) return problem;
+    }
+    return {};
+}
+
+/// What is left out in a sub-query is missing in the statement around it too.
+QString SubQueryProblem(const TFilterCond& condition) {
+    QString problem;
+    try {
+        if (const TKQuery* nested = condition.NestedQuery()) problem = ProblemIn(nested->Root());
+    } catch (const EKTernError& error) {
+        problem = ToQt(error.what());
+    }
+    return problem.isEmpty() ? problem : TRowProblem::tr("sub-query: %1").arg(problem);
+}
+
 } // namespace
 
 QString RowProblem(const TFilterRow& row) {
@@ -74,7 +95,8 @@ QString RowProblem(const TFilterRow& row) {
     if (!condition || !condition->Query() || !condition->EffectivelyEnabled()) return {};
     if (const TUnfinished reason = condition->Unfinished(); reason != TUnfinished::No)
         return UnfinishedReason(reason);
-    if (!condition->IsRecognized() || condition->IsSubQueryOperator()) return {};
+    if (!condition->IsRecognized()) return {};
+    if (condition->IsSubQueryOperator()) return SubQueryProblem(*condition);
     for (int n = 1; n <= condition->ValueCount(); ++n)
         if (const QString problem = ValueProblem(*condition, n); !problem.isEmpty()) return problem;
     return {};

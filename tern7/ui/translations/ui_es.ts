@@ -366,6 +366,10 @@
         <source>“%1” is no number</source>
         <translation>«%1» no es un número</translation>
     </message>
+    <message>
+        <source>sub-query: %1</source>
+        <translation>subconsulta: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

@@ -366,6 +366,10 @@
         <source>“%1” is no number</source>
         <translation>« %1 » n’est pas un nombre</translation>
     </message>
+    <message>
+        <source>sub-query: %1</source>
+        <translation>sous-requête : %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

@@ -141,6 +141,19 @@ TEST_F(TPanelSafetyTest, HandlersThatEndARowOrThePanelEndWhatIsToldOfThem) {
     EXPECT_FALSE(alive);
 }
 
+/// As screen readers do, who hear of the focus too.
+TEST_F(TPanelSafetyTest, LinesAreAskedForWhileARowGoes) {
+    Add("C.city", "Equal", "Berlin");
+    TFilterCond* last = Add("C.city", "Equal", "Rome");
+    panel->FocusRow(Row(1));
+    const auto asking = QObject::connect(qApp, &QApplication::focusChanged, panel,
+                                         [this, last] { panel->Lines().LineOf(*last); });
+    panel->Root().DeleteRow(&Row(1));
+    QObject::disconnect(asking);
+    EXPECT_EQ(panel->Lines().Count(), 2);
+    EXPECT_EQ(panel->Lines().LineOf(*last), 1);
+}
+
 TEST_F(TPanelSafetyTest, UndoActionOfAPanelThatAHandlerDeletes) {
     panel->InsertCondition();
     QPointer<TKQueryPanel> alive(panel);

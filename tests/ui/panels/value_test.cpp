@@ -301,6 +301,16 @@ TEST_F(TPanelValueTest, SubQueryDialog) {
     });
     Click(Value(1));
     EXPECT_EQ(Cond(1).SubQuery(), before);
+    EXPECT_FALSE(View(1).Mark());
+    QTimer::singleShot(0, [] {
+        auto* dialog = qobject_cast<T_dlgSubQuery*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        dialog->Panel().InsertCondition();
+        dialog->accept();
+    });
+    Click(Value(1));
+    ASSERT_TRUE(View(1).Mark()) << "what is left out inside is not left out in silence";
+    EXPECT_TRUE(View(1).Mark()->text().contains("sub-query"));
     QTimer::singleShot(0, [&] { panel->Root().ClearRows(); });
     QTimer::singleShot(1, [&] { QApplication::activeModalWidget()->close(); });
     Click(Value(1));
