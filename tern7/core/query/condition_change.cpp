@@ -157,7 +157,8 @@ void ApplyChange(TFilterCond& condition, const TConditionChange& change) {
     condition.SetOperator(change.op);
     for (int n = 1; n <= 2; ++n) {
         const std::string& value = change.values[n - 1];
-        const bool same = value == condition.Value(n) && change.keepsCaptions;
+        const bool same = value == condition.Value(n) &&
+                          (change.keepsCaptions || condition.ValueCaption(n).empty());
         if (!same) condition.SetValue(n, value);
     }
     condition.SetEntered(change.entered);

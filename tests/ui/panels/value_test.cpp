@@ -302,10 +302,10 @@ TEST_F(TPanelValueTest, SubQueryDialog) {
     Click(Value(1));
     EXPECT_EQ(Cond(1).SubQuery(), before);
     EXPECT_FALSE(View(1).Mark());
-    QTimer::singleShot(0, [] {
+    QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<T_dlgSubQuery*>(QApplication::activeModalWidget());
         ASSERT_TRUE(dialog);
-        dialog->Panel().InsertCondition();
+        TShop::Add(dialog->Panel().Root(), "O.amount", "Equal", "");
         dialog->accept();
     });
     Click(Value(1));
