@@ -100,8 +100,12 @@ void T_dlgTitlesEdit::Init(const TStrings& titles) {
     MakePages(titles);
     place->addWidget(body);
     if (tabs) tabs->setCurrentIndex(page);
-    pages[static_cast<size_t>(std::max(page, 0)) % pages.size()].grid->setFocus();
+    GridInSight().setFocus();
     changed = false;
+}
+
+TKTitlesGrid& T_dlgTitlesEdit::GridInSight() const {
+    return *Grid(tabs ? std::max(tabs->currentIndex(), 0) : 0);
 }
 
 void T_dlgTitlesEdit::MakePages(const TStrings& titles) {
@@ -183,7 +187,7 @@ void T_dlgTitlesEdit::Report(const std::function<void()>& call) {
 
 /// A file replaces all texts, those too that were just entered.
 void T_dlgTitlesEdit::AskLoad() {
-    setFocus(); // what is being edited counts
+    GridInSight().setFocus(); // what is being edited counts
     if (changed && !AskDiscard()) return;
     QFileDialog dialog(this);
     dialog.setFileMode(QFileDialog::ExistingFile);
@@ -193,7 +197,7 @@ void T_dlgTitlesEdit::AskLoad() {
 }
 
 void T_dlgTitlesEdit::AskSave() {
-    setFocus(); // what is being edited counts
+    GridInSight().setFocus(); // what is being edited counts
     QFileDialog dialog(this);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("ttl"));

@@ -65,6 +65,7 @@ private:
     };
     void MakeActions();
     TKTitlesGrid* MakeGrid();
+    TKTitlesGrid& GridInSight() const;
     void MakePages(const TStrings& titles);
     void AskLoad();
     void AskSave();

@@ -136,6 +136,14 @@ TEST(TitlesEditor, MenuShortcutsAndDiscarding) {
         items << action->text() + ' ' + action->shortcut().toString();
     EXPECT_EQ(items, (QStringList{"&Load From File... Ctrl+L", "&Save To File Ctrl+S"}));
     editor.show();
+    editor.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+    Press(Qt::Key_Down);
+    Type("au"); // is being edited while a file is asked for
+    QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+    Press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(editor.Grid(0)->item(1, 1)->text(), "au");
+    EXPECT_EQ(editor.focusWidget(), editor.Grid(0));
     editor.Grid(0)->item(1, 1)->setText("auf");
     for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
         QTimer::singleShot(0, [answer] {
