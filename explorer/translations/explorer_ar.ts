@@ -489,6 +489,30 @@
         <source>Reading table %1 of %2...</source>
         <translation>قراءة الجدول %1 من %2...</translation>
     </message>
+    <message>
+        <source>Captions, formulas, sums and counts (Ctrl+Shift+K)</source>
+        <translation>التسميات والصيغ والمجاميع والأعداد (Ctrl+Shift+K)</translation>
+    </message>
+    <message>
+        <source>Choose a field that the result shows (Ctrl+K)</source>
+        <translation>اختيار حقل تعرضه النتيجة (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>Start from &amp;table...</source>
+        <translation>&amp;جدول البداية...</translation>
+    </message>
+    <message>
+        <source>Tables: %1.</source>
+        <translation>الجداول: %1.</translation>
+    </message>
+    <message>
+        <source>Start from another table...</source>
+        <translation>البدء من جدول آخر...</translation>
+    </message>
+    <message>
+        <source>Chosen by the columns</source>
+        <translation>حسب الأعمدة</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -481,6 +481,30 @@
         <source>Reading table %1 of %2...</source>
         <translation>Tabelle %1 von %2 wird gelesen ...</translation>
     </message>
+    <message>
+        <source>Captions, formulas, sums and counts (Ctrl+Shift+K)</source>
+        <translation>Beschriftungen, Formeln, Summen und Anzahlen (Strg+Umschalt+K)</translation>
+    </message>
+    <message>
+        <source>Choose a field that the result shows (Ctrl+K)</source>
+        <translation>Ein Feld wählen, das das Ergebnis zeigt (Strg+K)</translation>
+    </message>
+    <message>
+        <source>Start from &amp;table...</source>
+        <translation>Ausgangs&amp;tabelle ...</translation>
+    </message>
+    <message>
+        <source>Tables: %1.</source>
+        <translation>Tabellen: %1.</translation>
+    </message>
+    <message>
+        <source>Start from another table...</source>
+        <translation>Von einer anderen Tabelle ausgehen ...</translation>
+    </message>
+    <message>
+        <source>Chosen by the columns</source>
+        <translation>Durch die Spalten bestimmt</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -481,6 +481,30 @@
         <source>Reading table %1 of %2...</source>
         <translation>Leyendo la tabla %1 de %2...</translation>
     </message>
+    <message>
+        <source>Captions, formulas, sums and counts (Ctrl+Shift+K)</source>
+        <translation>Títulos, fórmulas, sumas y recuentos (Ctrl+Mayús+K)</translation>
+    </message>
+    <message>
+        <source>Choose a field that the result shows (Ctrl+K)</source>
+        <translation>Elegir un campo que muestre el resultado (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>Start from &amp;table...</source>
+        <translation>&amp;Tabla inicial...</translation>
+    </message>
+    <message>
+        <source>Tables: %1.</source>
+        <translation>Tablas: %1.</translation>
+    </message>
+    <message>
+        <source>Start from another table...</source>
+        <translation>Empezar por otra tabla...</translation>
+    </message>
+    <message>
+        <source>Chosen by the columns</source>
+        <translation>Según las columnas</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

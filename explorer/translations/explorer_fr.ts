@@ -481,6 +481,30 @@
         <source>Reading table %1 of %2...</source>
         <translation>Lecture de la table %1 sur %2...</translation>
     </message>
+    <message>
+        <source>Captions, formulas, sums and counts (Ctrl+Shift+K)</source>
+        <translation>Intitulés, formules, sommes et nombres (Ctrl+Maj+K)</translation>
+    </message>
+    <message>
+        <source>Choose a field that the result shows (Ctrl+K)</source>
+        <translation>Choisir un champ que le résultat affiche (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>Start from &amp;table...</source>
+        <translation>&amp;Table de départ...</translation>
+    </message>
+    <message>
+        <source>Tables: %1.</source>
+        <translation>Tables : %1.</translation>
+    </message>
+    <message>
+        <source>Start from another table...</source>
+        <translation>Partir d’une autre table...</translation>
+    </message>
+    <message>
+        <source>Chosen by the columns</source>
+        <translation>Selon les colonnes</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

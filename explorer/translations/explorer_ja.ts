@@ -479,6 +479,30 @@
         <source>Reading table %1 of %2...</source>
         <translation>テーブル %1 / %2 を読み込み中...</translation>
     </message>
+    <message>
+        <source>Captions, formulas, sums and counts (Ctrl+Shift+K)</source>
+        <translation>見出し、式、合計、件数 (Ctrl+Shift+K)</translation>
+    </message>
+    <message>
+        <source>Choose a field that the result shows (Ctrl+K)</source>
+        <translation>結果に表示するフィールドを選ぶ (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>Start from &amp;table...</source>
+        <translation>開始テーブル(&amp;T)...</translation>
+    </message>
+    <message>
+        <source>Tables: %1.</source>
+        <translation>テーブル: %1。</translation>
+    </message>
+    <message>
+        <source>Start from another table...</source>
+        <translation>別のテーブルから始める...</translation>
+    </message>
+    <message>
+        <source>Chosen by the columns</source>
+        <translation>列に合わせる</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -483,6 +483,30 @@
         <source>Reading table %1 of %2...</source>
         <translation>Чтение таблицы %1 из %2...</translation>
     </message>
+    <message>
+        <source>Captions, formulas, sums and counts (Ctrl+Shift+K)</source>
+        <translation>Подписи, формулы, суммы и количества (Ctrl+Shift+K)</translation>
+    </message>
+    <message>
+        <source>Choose a field that the result shows (Ctrl+K)</source>
+        <translation>Выбрать поле для результата (Ctrl+K)</translation>
+    </message>
+    <message>
+        <source>Start from &amp;table...</source>
+        <translation>Исходная &amp;таблица...</translation>
+    </message>
+    <message>
+        <source>Tables: %1.</source>
+        <translation>Таблицы: %1.</translation>
+    </message>
+    <message>
+        <source>Start from another table...</source>
+        <translation>Начать с другой таблицы...</translation>
+    </message>
+    <message>
+        <source>Chosen by the columns</source>
+        <translation>По столбцам</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

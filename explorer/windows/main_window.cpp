@@ -130,16 +130,25 @@ QWidget* TMainWindow::Part(const char* heading, QWidget* content) {
 }
 
 QWidget* TMainWindow::MakeColumnsPart() {
+    columns->viewport()->setBackgroundRole(QPalette::Base);
     columns->SetResultFields(&conditions->QResult().ResultFields());
     QWidget* part = Part(QT_TR_NOOP("C&olumns"), columns);
     grouping = new QLabel;
     grouping->setWordWrap(true);
     grouping->hide();
     part->layout()->addWidget(grouping);
+    tables = new QLabel;
+    tables->setWordWrap(true);
+    tables->setTextFormat(Qt::RichText);
+    tables->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    tables->hide();
+    connect(tables, &QLabel::linkActivated, this, &TMainWindow::ChooseStartTable);
+    part->layout()->addWidget(tables);
     return part;
 }
 
 QWidget* TMainWindow::MakeConditionsPart() {
+    conditions->viewport()->setBackgroundRole(QPalette::Base);
     return Part(QT_TR_NOOP("Con&ditions"), conditions);
 }
 

@@ -147,6 +147,10 @@ private:
     void AddColumn();
     void EditColumns();
 
+    // main_window_tables.cpp
+    void ShowTables();
+    void ChooseStartTable();
+
     // main_window_view.cpp
     void ApplyZoom();
     void ShowTitles();
@@ -164,6 +168,7 @@ private:
     QWidget* sqlPart = nullptr;
     QPlainTextEdit* sqlText = nullptr;
     QLabel* grouping = nullptr;
+    QLabel* tables = nullptr;
     TMessageBar* queryMessages = nullptr;
     QSplitter* queryParts = nullptr;
     QSplitter* parts = nullptr;
@@ -192,6 +197,7 @@ private:
     QAction* sqlAction = nullptr;
     QAction* addColumnAction = nullptr;
     QAction* editColumnsAction = nullptr;
+    QAction* startTableAction = nullptr;
     QAction* saveRowsAction = nullptr;
     QActionGroup* languageActions = nullptr;
     QActionGroup* lookActions = nullptr;

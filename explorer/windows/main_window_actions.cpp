@@ -9,6 +9,7 @@
 #include <QSpinBox>
 #include <QStyle>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <tern7/ui/panels/query_panel.h>
 
@@ -103,9 +104,15 @@ void TMainWindow::MakeQueryMenu() {
     });
     editColumnsAction = Action(QT_TR_NOOP("E&dit columns..."), QKeySequence("Ctrl+Shift+K"),
                                [this] { EditColumns(); });
+    Worded([this] {
+        editColumnsAction->setToolTip(tr("Captions, formulas, sums and counts (Ctrl+Shift+K)"));
+        addColumnAction->setToolTip(tr("Choose a field that the result shows (Ctrl+K)"));
+    });
     menu->addActions({runAction, cancelAction, liveAction});
     menu->addSeparator();
-    menu->addActions({addColumnAction, editColumnsAction, distinctAction});
+    startTableAction = Action(QT_TR_NOOP("Start from &table..."), QKeySequence("Ctrl+T"),
+                              [this] { ChooseStartTable(); });
+    menu->addActions({addColumnAction, editColumnsAction, distinctAction, startTableAction});
 }
 
 void TMainWindow::MakeToolBar() {
@@ -119,6 +126,9 @@ void TMainWindow::MakeToolBar() {
     bar->addActions({addColumnAction, editColumnsAction});
     bar->addSeparator();
     bar->addActions({undoAction, redoAction});
+    for (QAction* action : {undoAction, redoAction}) // known by their icons; words need room
+        if (auto* button = qobject_cast<QToolButton*>(bar->widgetForAction(action)))
+            button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     bar->addSeparator();
     bar->addAction(liveAction);
     rowLimit = new QSpinBox;
@@ -141,6 +151,7 @@ void TMainWindow::UpdateActions() {
     saveAction->setEnabled(HasDatabase());
     addColumnAction->setEnabled(HasDatabase());
     editColumnsAction->setEnabled(HasDatabase());
+    startTableAction->setEnabled(HasDatabase());
     saveRowsAction->setEnabled(results->Model().rowCount() > 0 && !running);
     distinctAction->setChecked(conditions->SQLOptions().Contains(TSQLOption::soSelectDistinct));
 }

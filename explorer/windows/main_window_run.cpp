@@ -66,6 +66,7 @@ void TMainWindow::ShowSQL() {
         sqlText->setPlaceholderText(empty ? tr("Add a column to begin.") : ToQt(error.what()));
     }
     ShowGrouping();
+    ShowTables();
     ShowSorting();
 }
 
