@@ -96,6 +96,7 @@ private:
     void MakeViewMenu();
     void MakeToolBar();
     void UpdateActions();
+    void DrawIcons();
     /// Says something in the program's language: now and after every change of the language.
     void Worded(const std::function<void()>& say);
     // their texts are marked with QT_TR_NOOP
@@ -136,6 +137,7 @@ private:
     void ShowGrouping();
     void RunWith(bool asking);
     TRunRequest MakeRequest();
+    std::vector<std::string> Captions() const;
     std::vector<TRunRequest::TTrial> MakeTrials() const;
     void RunFailed(const QString& message, int row);
     void ShowUnfinished();

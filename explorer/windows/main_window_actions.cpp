@@ -6,8 +6,8 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPainter>
 #include <QSpinBox>
-#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -16,6 +16,38 @@
 #include "result_view.h"
 
 namespace tern7 {
+
+namespace {
+
+/// A shape inside of 16 x 16 in a colour, grey when it can not be used.
+QIcon ShapeIcon(const QPolygonF& shape, const QColor& colour, const QColor& disabled) {
+    QIcon icon;
+    for (const auto& [mode, fill] : {std::pair(QIcon::Normal, colour), {QIcon::Disabled, disabled}})
+        for (const int scale : {1, 2, 3}) {
+            QPixmap picture(16 * scale, 16 * scale);
+            picture.setDevicePixelRatio(scale);
+            picture.fill(Qt::transparent);
+            QPainter painter(&picture);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(fill);
+            painter.drawPolygon(shape);
+            painter.end();
+            icon.addPixmap(picture, mode);
+        }
+    return icon;
+}
+
+} // namespace
+
+/// In the colours of the palette, which the style's own icons are not.
+void TMainWindow::DrawIcons() {
+    const QPalette colours = QApplication::palette();
+    const QColor text = colours.color(QPalette::ButtonText);
+    const QColor disabled = colours.color(QPalette::Disabled, QPalette::ButtonText);
+    runAction->setIcon(ShapeIcon(QPolygonF({{3, 1}, {15, 8}, {3, 15}}), text, disabled));
+    cancelAction->setIcon(ShapeIcon(QPolygonF(QRectF(3, 3, 10, 10)), text, disabled));
+}
 
 void TMainWindow::Worded(const std::function<void()>& say) {
     say();
@@ -86,10 +118,8 @@ void TMainWindow::MakeFileMenu() {
 void TMainWindow::MakeQueryMenu() {
     QMenu* menu = Menu(QT_TR_NOOP("&Query"));
     runAction = Action(QT_TR_NOOP("&Run"), QKeySequence("F5"), [this] { RunQuery(); });
-    runAction->setIcon(style()->standardIcon(QStyle::SP_MediaPlay));
     Worded([this] { runAction->setToolTip(tr("Run the query (F5)")); });
     cancelAction = Action(QT_TR_NOOP("&Cancel"), QKeySequence("Shift+F5"), [this] { CancelRun(); });
-    cancelAction->setIcon(style()->standardIcon(QStyle::SP_MediaStop));
     liveAction = Switch(QT_TR_NOOP("Run after every c&hange"), [this] { QueryChanged(); });
     addColumnAction =
         Action(QT_TR_NOOP("Add c&olumn..."), QKeySequence("Ctrl+K"), [this] { AddColumn(); });

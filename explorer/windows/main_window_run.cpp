@@ -121,7 +121,9 @@ void TMainWindow::RunWith(bool asking) {
     for (const TSQLParam* param : params)
         if (!param->HasValue() && !asking) return; // it is asked for when the user runs the query
     try {
-        runner.Run(MakeRequest());
+        TRunRequest request = MakeRequest();
+        results->SetCaptions(Captions());
+        runner.Run(std::move(request));
         ShowUnfinished();
     } catch (const EKWrongValueError& error) {
         if (!asking) return;
@@ -133,6 +135,14 @@ void TMainWindow::RunWith(bool asking) {
     } catch (const std::exception& error) {
         if (asking) queryMessages->Say(TMessageBar::TKind::Warning, Fixed(error.what()));
     }
+}
+
+std::vector<std::string> TMainWindow::Captions() const {
+    std::vector<std::string> captions;
+    const TRFieldList& list = columns->ResultFields();
+    for (int i = 0; i < list.GetCount() && !list.JustSorting(); ++i)
+        captions.push_back(list.GetItem(i)->Caption());
+    return captions;
 }
 
 TRunRequest TMainWindow::MakeRequest() {

@@ -163,6 +163,7 @@ void TMainWindow::SetLook(TLook wanted) {
         QApplication::setPalette(QPalette());
     else
         QApplication::setPalette(wanted == TLook::Dark ? DarkPalette() : LightPalette());
+    DrawIcons();
     // The colours of the statement are chosen when it is coloured.
     if (auto* highlighter = sqlText->document()->findChild<QSyntaxHighlighter*>())
         highlighter->rehighlight();

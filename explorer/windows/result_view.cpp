@@ -69,12 +69,13 @@ TResultView::TResultView(QWidget* parent)
 
 void TResultView::Attach(TQueryRunner& runner) {
     connect(&runner, &TQueryRunner::started, this, &TResultView::RunStarted);
-    connect(&runner, &TQueryRunner::columnsRead, this,
-            [this](const std::vector<TKResultColumn>& columns) {
-                model->SetColumns(columns);
-                fitted = false;
-                FitColumns();
-            });
+    connect(&runner, &TQueryRunner::columnsRead, this, [this](std::vector<TKResultColumn> columns) {
+        for (size_t i = 0; i < columns.size() && captions.size() == columns.size(); ++i)
+            columns[i].name = captions[i];
+        model->SetColumns(columns);
+        fitted = false;
+        FitColumns();
+    });
     connect(&runner, &TQueryRunner::rowsRead, this,
             [this](const std::shared_ptr<TResultRows>& rows) {
                 model->Append(std::move(*rows));

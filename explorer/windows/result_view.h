@@ -23,6 +23,8 @@ public:
 
     /// Follows the runs of a runner.
     void Attach(TQueryRunner& runner);
+    /// What the columns of the next run are called; aliases are not always what users wrote.
+    void SetCaptions(std::vector<std::string> list) { captions = std::move(list); }
     TResultModel& Model() { return *model; }
     QTableView& Table() { return *table; }
     TMessageBar& Messages() { return *messages; }
@@ -56,6 +58,7 @@ private:
     QTableView* table = nullptr;
     QLabel* summary;
     TWording summaryWords;
+    std::vector<std::string> captions;
     QProgressBar* progress;
     TResultModel* model;
     QElapsedTimer sinceStart;

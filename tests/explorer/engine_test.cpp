@@ -94,6 +94,9 @@ TEST_P(TProgramTest, BuildRunSaveReopenAndPaste) {
     ASSERT_GT(paid, 10) << FromQt(window->Results().Messages().Text());
     EXPECT_GE(Cell(0, 1).toDouble(), Cell(1, 1).toDouble());
     const QString first = Cell(0, 0);
+    EXPECT_EQ(window->Results().Model().headerData(1, Qt::Horizontal, Qt::DisplayRole), "Freight");
+    EXPECT_EQ(window->Results().Model().headerData(0, Qt::Horizontal, Qt::DisplayRole),
+              "Orders.Order id"); // as it was called, not the plain alias
 
     const QString file = folder.filePath("paid.qry");
     ASSERT_TRUE(window->SaveQuery(file));
