@@ -208,7 +208,10 @@ QRect TKPopupMenu::ViewRect() const {
 QSize TKPopupMenu::WindowSize() const {
     const int frame = 2 * FrameWidth();
     QSize size = layout.size.expandedTo({0, RowHeight()}) + QSize(frame, frame);
-    if (search) size.rheight() += search->sizeHint().height();
+    if (search) { // wide enough to type in it, and to say that nothing was found
+        size.rheight() += search->sizeHint().height();
+        size = size.expandedTo({search->sizeHint().width(), 0});
+    }
     return size.boundedTo(ScreenRoom(*this, anchor.topLeft()).size());
 }
 
