@@ -62,6 +62,11 @@ void TDropDownLabel::SetValue(const QString& newValue) {
     if (alive) emit valueChanged(value);
 }
 
+void TDropDownLabel::ShowValue(const QString& newValue, const QString& caption) {
+    value = newValue;
+    SetCaption(caption);
+}
+
 void TDropDownLabel::ValueChanged() {
     SetCaption(value);
 }

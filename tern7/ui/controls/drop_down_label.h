@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QFont>
 #include <QLabel>
 #include <QPointer>
 
@@ -38,6 +39,8 @@ public:
     const QString& Value() const { return value; }
     /// A different text is stored and shown; the same text does nothing.
     void SetValue(const QString& newValue);
+    /// Shows a text that somebody else made of the value; nobody is told of the value.
+    void ShowValue(const QString& newValue, const QString& caption);
     /// A fixed label never drops down.
     bool Fixed() const { return fixed; }
     void SetFixed(bool on);
@@ -136,6 +139,7 @@ private:
     void AbortDropDown();
     void FitToText();
     void ShowCursor();
+    const QSize& TextSize() const;
 
     QString value;
     QString editValue; // what a custom drop-down edits; empty outside one
@@ -147,6 +151,10 @@ private:
     bool pressed = false;
     bool arrowKeys = true;
     mutable bool hasControl = false;
+    // what was measured last: measuring takes longer than all else that a change of texts needs
+    mutable QString measuredText;
+    mutable QFont measuredFont;
+    mutable QSize measuredSize;
 };
 
 } // namespace tern7

@@ -21,10 +21,20 @@ QString OneLine(QString text) {
 } // namespace
 
 QSize TDropDownLabel::sizeHint() const {
-    const QString caption = OneLine(Caption());
     const QMargins margins = contentsMargins();
-    return {ternTextWidth(caption, TextFont()) + 2 * sideRoom + margins.left() + margins.right(),
-            ternTextHeight(caption, TextFont()) + margins.top() + margins.bottom()};
+    return TextSize() +
+           QSize(2 * sideRoom + margins.left() + margins.right(), margins.top() + margins.bottom());
+}
+
+/// An underline takes no room.
+const QSize& TDropDownLabel::TextSize() const {
+    if (measuredSize.isValid() && measuredText == text() && measuredFont == font())
+        return measuredSize;
+    measuredText = text();
+    measuredFont = font();
+    const QString caption = OneLine(Caption());
+    measuredSize = {ternTextWidth(caption, measuredFont), ternTextHeight(caption, measuredFont)};
+    return measuredSize;
 }
 
 QFont TDropDownLabel::TextFont() const {
@@ -47,7 +57,7 @@ void TDropDownLabel::paintEvent(QPaintEvent*) {
     painter.setPen(TextColor());
     // Asked the way the size was, so that a text which fits is never cut for a fraction of a pixel.
     QString shown = OneLine(text());
-    if (ternTextWidth(OneLine(Caption()), TextFont()) > area.width())
+    if (TextSize().width() > area.width())
         shown = painter.fontMetrics().elidedText(shown, Qt::ElideRight, area.width(),
                                                  Qt::TextShowMnemonic);
     // the order of its words is the text's own, wherever the label is read from: "1 Jan 2020"

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include <tern7/ui/controls/drop_down_edit.h>
+#include <tern7/ui/controls/drop_down_list.h>
 #include <tern7/ui/controls/flat_check_box.h>
 #include <tern7/ui/controls/round_button.h>
 #include <tern7/ui/panels/query_panel.h>
@@ -31,7 +32,7 @@ int WidthOf(const QWidget& widget) {
 } // namespace
 
 TFilterRowView::TFilterRowView(TKQueryPanel& owner, TFilterRow& shownRow)
-    : panel(owner), row(shownRow) {
+    : panel(owner), row(&shownRow) {
     MakeButton();
     Refresh();
 }
@@ -51,12 +52,19 @@ void TFilterRowView::MakeButton() {
     button->SetCaption(QStringLiteral("\u22EE"));
     panel.RowDrag().Watch(*button);
     connect(button, &QPushButton::clicked, this, [this] {
-        panel.PopupRowMenu(row, {button->mapToGlobal(QPoint(0, 0)), button->size()});
+        panel.PopupRowMenu(*row, {button->mapToGlobal(QPoint(0, 0)), button->size()});
     });
     button->show();
 }
 
 // --- showing
+
+void TFilterRowView::ShowRow(TFilterRow& other) {
+    row = &other;
+    for (const TElement& element : elements) // the lists were of the row before
+        if (auto* list = qobject_cast<TDropDownList*>(element.widget)) list->ClearAll();
+    Refresh();
+}
 
 void TFilterRowView::Refresh() {
     Show(false);
@@ -64,7 +72,7 @@ void TFilterRowView::Refresh() {
 
 void TFilterRowView::Show(bool newValueLabels) {
     const TQPAppearance& looks = panel.Appearance();
-    const bool on = row.EffectivelyEnabled();
+    const bool on = row->EffectivelyEnabled();
     const int focusedAt = FocusedIndex();
     const QWidget* focused = GetRowControl(focusedAt);
     button->setAccessibleName(tr("Row menu"));
@@ -75,7 +83,7 @@ void TFilterRowView::Show(bool newValueLabels) {
 
     std::vector<TElement> old = std::move(elements);
     elements.clear();
-    for (TRowLabel& label : panel.RowTexts().Labels(row, panel.Query().Style())) {
+    for (TRowLabel& label : panel.RowTexts().Labels(*row, panel.Query().Style())) {
         const TRowControl control = ControlFor(label);
         const bool fresh = newValueLabels && label.valueNumber != 0;
         TDropDownLabel* widget = fresh ? nullptr : TakeFrom(old, label, control);
@@ -96,7 +104,7 @@ void TFilterRowView::Show(bool newValueLabels) {
 }
 
 void TFilterRowView::RefreshCheckBox(bool on) {
-    const bool wanted = row.Parent() && panel.Appearance().Has(TQPAppearance::aoShowCheckBoxes);
+    const bool wanted = row->Parent() && panel.Appearance().Has(TQPAppearance::aoShowCheckBoxes);
     if (!wanted) {
         DiscardWidget(checkBox);
         checkBox = nullptr;
@@ -108,14 +116,14 @@ void TFilterRowView::RefreshCheckBox(bool on) {
         checkBox->show();
     }
     checkBox->setAccessibleName(tr("Row takes part"));
-    checkBox->setChecked(row.GetEnabled());
-    checkBox->setToolTip(row.GetEnabled() && !on ? tr("The bracket around it is switched off")
-                                                 : QString());
+    checkBox->setChecked(row->GetEnabled());
+    checkBox->setToolTip(row->GetEnabled() && !on ? tr("The bracket around it is switched off")
+                                                  : QString());
     checkBox->resize(checkBox->sizeHint());
 }
 
 void TFilterRowView::RefreshMark(bool on) {
-    const QString problem = on ? RowProblem(row) : QString();
+    const QString problem = on ? RowProblem(*row) : QString();
     if (problem.isEmpty()) {
         DiscardWidget(mark);
         mark = nullptr;
@@ -233,6 +241,11 @@ int TFilterRowView::ValueNumberOf(const QWidget* label) const {
 bool TFilterRowView::HasEditor() const {
     return std::any_of(elements.begin(), elements.end(),
                        [](const TElement& element) { return element.widget->Dropped(); });
+}
+
+bool TFilterRowView::InUse() const {
+    const bool pressed = button->isDown() || (checkBox && checkBox->isDown());
+    return running > 0 || pressed || HasEditor() || GetCurrentControl();
 }
 
 void TFilterRowView::CloseEdit(bool accept) {

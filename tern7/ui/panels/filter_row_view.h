@@ -32,8 +32,9 @@ enum class TRowControl : uint8_t {
     rcPending ///< a list that was not read from the database yet
 };
 
-/// The controls of one row: a button, a check box and a label for each piece of its sentence. Made
-/// by the panel for a row that is in sight, has the focus or is edited; it goes when the row does.
+/// The controls of one row: a button, a check box and a label for each piece of its sentence. Given
+/// by the panel to a row that is in sight, has the focus or is edited. It goes when the row does;
+/// from a row that scrolls out of sight it passes to one that comes in.
 class TFilterRowView : public QObject {
     Q_OBJECT
 
@@ -41,7 +42,7 @@ public:
     TFilterRowView(TKQueryPanel& owner, TFilterRow& shownRow);
     ~TFilterRowView() override;
 
-    TFilterRow& Row() const { return row; }
+    TFilterRow& Row() const { return *row; }
     TKQueryPanel& Panel() const { return panel; }
 
     // --- controls in display order; fixed texts are none
@@ -81,6 +82,11 @@ public:
     // --- for the panel
     /// Shows the row as it is now; controls whose kind stays are kept, open editors too.
     void Refresh();
+    /// Goes over to another row; not while it is in use.
+    void ShowRow(TFilterRow& other);
+    /// It has the focus, an open editor or a pressed button, or something that a user does in it is
+    /// running: it stays with its row.
+    bool InUse() const;
     /// Puts the controls at their places; `left` in content that is read from the left.
     void Place(int line, int left);
     /// Width of the row from the left of its button.
@@ -116,7 +122,10 @@ private:
     QString AccessibleNameOf(const TElement& element) const;
     QColor ColorOf(TRowLabelKind kind, bool on) const;
     const TElement* ElementOf(const QWidget* widget) const;
-    TFilterCond* Condition() const { return row.AsCond(); }
+    TFilterCond* Condition() const { return row->AsCond(); }
+    /// Runs what a control asked for, which may end the view.
+    template <class Call>
+    void Run(Call&& call);
 
     // what labels do (row_actions.cpp, row_value_actions.cpp)
     void LabelOpens(TDropDownLabel* widget);
@@ -136,13 +145,14 @@ private:
     void CustomEdit(int n);
 
     TKQueryPanel& panel;
-    TFilterRow& row;
+    TFilterRow* row;
     TKRndBtn* button = nullptr;
     TFlatCheckBox* checkBox = nullptr;
     QLabel* mark = nullptr; // why the row is left out
     std::vector<TElement> elements;
     std::vector<QWidget*> controls;
     QString valueBefore; // of the label that is dropped
+    int running = 0;     // calls of its controls
 };
 
 } // namespace tern7

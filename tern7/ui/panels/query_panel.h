@@ -182,7 +182,8 @@ public:
     /// The lines as they are shown.
     const TRowLines& Lines();
     const TRowGeometry& Geometry() const { return geometry; }
-    /// Scrolls to the row and gives its controls; none for a row without a line.
+    /// Scrolls to the row and gives its controls, which are the row's until the panel scrolls on;
+    /// none for a row without a line.
     TFilterRowView* RowView(TFilterRow& row);
     /// The controls of a row that has some now; else none.
     TFilterRowView* ExistingView(const TFilterRow& row) const;
@@ -296,8 +297,9 @@ public:
     void PassFocus(QWidget& control);
     /// Moves a widget to its place in content that is read from the left.
     void PutAt(QWidget& widget, int left, int top) const;
-    /// The row's controls changed their sizes: place everything again, soon.
-    void Invalidate();
+    /// Places everything again, soon. Without `redraw` for controls that changed their sizes: the
+    /// ground below them stays as it is.
+    void Invalidate(bool redraw = true);
 
 signals:
     void changed();
@@ -393,7 +395,6 @@ private:
     int ContentWidth() const;
     void DropViewsBelow(const TFilterRow& row);
     TViews::iterator DropView(TViews::iterator view);
-    bool IsKept(const TFilterRowView& view) const;
     TFilterRowView& MakeView(TFilterRow& row);
 
     // keys (query_panel_keys.cpp)
@@ -422,6 +423,7 @@ private:
     TStrings knownTitles; // that rowTexts and menus are made of
     TRowLines lines;
     TViews views;
+    std::vector<std::unique_ptr<TFilterRowView>> freeViews; // while they change their rows
     TDropDownLabel* addRowLabel;
     TKPopupMenu* addMenu;
     TKPopupMenu* rowMenu;
@@ -447,6 +449,7 @@ private:
     bool linesKnown = false;
     bool viewsFresh = false; // every view shows its row as it is
     bool layoutPosted = false;
+    bool redrawn = false; // the next layout draws all of it
     bool laying = false;
     bool dropping = false; // controls go, and the focus with them
 };

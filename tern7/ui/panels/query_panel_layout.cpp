@@ -2,6 +2,7 @@
 // a layout is posted, and whoever asks before it comes gets it at once.
 
 #include <algorithm>
+#include <cstdlib>
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -48,7 +49,8 @@ void TKQueryPanel::SetGeometryValue(int& member, int value) {
     Invalidate();
 }
 
-void TKQueryPanel::Invalidate() {
+void TKQueryPanel::Invalidate(bool redraw) {
+    redrawn |= redraw;
     if (layoutPosted) return;
     layoutPosted = true;
     QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
@@ -89,14 +91,13 @@ const TRowLines& TKQueryPanel::Lines() {
 void TKQueryPanel::BuildLines() {
     if (linesKnown) return;
     lines.Build(*query);
-    linesKnown = true;
+    linesKnown = redrawn = true;
 }
 
 void TKQueryPanel::Lay() {
     if (laying) return;
     laying = true;
     layoutPosted = false;
-    viewport()->setUpdatesEnabled(false); // all of it is drawn once, at the end
     BuildLines();
     SetScrollRanges();
     MakeViews();
@@ -105,7 +106,9 @@ void TKQueryPanel::Lay() {
     PlaceAddRow();
     ChainFocus();
     laying = false;
-    viewport()->setUpdatesEnabled(true);
+    // behind the controls' own: Qt draws an opaque ground that is asked for first, with all that
+    // stands on it, and then the controls once more
+    if (std::exchange(redrawn, false)) viewport()->update();
 }
 
 int TKQueryPanel::LabelLeft(int level, bool header) const {
@@ -134,35 +137,48 @@ void TKQueryPanel::SetScrollRanges() {
 
 TFilterRowView& TKQueryPanel::MakeView(TFilterRow& row) {
     std::unique_ptr<TFilterRowView>& view = views[&row];
-    if (!view)
+    if (view) {
+        if (!viewsFresh) view->Refresh();
+        return *view;
+    }
+    // one that has the same controls, if there is one
+    const auto alike = std::find_if(freeViews.rbegin(), freeViews.rend(), [&](const auto& unused) {
+        return unused->Row().IsBracket() == row.IsBracket();
+    });
+    if (alike == freeViews.rend()) {
         view = std::make_unique<TFilterRowView>(*this, row);
-    else if (!viewsFresh)
-        view->Refresh();
+    } else {
+        view = std::move(*alike);
+        freeViews.erase(std::next(alike).base());
+        view->ShowRow(row);
+    }
     return *view;
 }
 
-bool TKQueryPanel::IsKept(const TFilterRowView& view) const {
-    return view.HasEditor() || view.GetCurrentControl();
-}
-
+/// Rows that come into sight take over the views of those that left it.
 void TKQueryPanel::MakeViews() {
     const int top = verticalScrollBar()->value();
     const int first = std::max(geometry.LineAt(top) - spareLines, 0);
     const int last =
         std::min(geometry.LineAt(top + viewport()->height()) + spareLines, lines.Count() - 1);
     for (auto view = views.begin(); view != views.end();) {
-        const TFilterRow& row = view->second->Row();
+        TFilterRow& row = view->second->Row();
         const int line = IsShown(row) ? lines.LineOf(row) : -1;
         const bool inSight = line >= first && line <= last;
-        if (line < 0 || (!inSight && !IsKept(*view->second))) {
+        if (line < 0) {
             view = DropView(view);
+        } else if (!inSight && !view->second->InUse()) {
+            if (waitingView == view->second.get()) waitingView = nullptr;
+            freeViews.push_back(std::move(view->second));
+            view = views.erase(view);
         } else {
-            if (!inSight) MakeView(view->second->Row());
+            if (!inSight) MakeView(row);
             ++view;
         }
     }
     for (int line = first; line <= last; ++line)
         if (IsShown(*lines.At(line).row)) MakeView(*lines.At(line).row);
+    freeViews.clear();
     viewsFresh = true;
 }
 
@@ -298,8 +314,15 @@ QSize TKQueryPanel::minimumSizeHint() const {
 
 // --- events
 
-void TKQueryPanel::scrollContentsBy(int, int) {
+/// By less than a page, what stays in sight is moved on the screen and not drawn again.
+void TKQueryPanel::scrollContentsBy(int dx, int dy) {
     if (laying) return Invalidate();
+    const QSize room = viewport()->size();
+    const bool near = std::abs(dx) < room.width() && std::abs(dy) < room.height();
+    if (near && !layoutPosted)
+        viewport()->scroll(ReadsFromRight() ? -dx : dx, dy);
+    else
+        redrawn = true;
     Lay();
 }
 
@@ -309,6 +332,7 @@ void TKQueryPanel::showEvent(QShowEvent* event) {
 }
 
 void TKQueryPanel::resizeEvent(QResizeEvent*) {
+    redrawn = true;
     Lay();
 }
 

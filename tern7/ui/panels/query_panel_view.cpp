@@ -66,7 +66,7 @@ void TKQueryPanel::RowChanged(TFilterRow& row) {
         viewsFresh = false;
     else if (TFilterRowView* view = ExistingView(row))
         view->Refresh();
-    Invalidate();
+    Invalidate(row.IsBracket());
 }
 
 void TKQueryPanel::ValueEditorsChanged(TFilterRow& row) {

@@ -43,13 +43,13 @@ QRect OnScreen(const QWidget& widget) {
 
 void TFilterRowView::CheckBoxClick() {
     const bool on = checkBox->isChecked();
-    panel.Do([this, on](TKQueryEditor& editor) { editor.SetEnabled(row, on); });
+    panel.Do([this, on](TKQueryEditor& editor) { editor.SetEnabled(*row, on); });
 }
 
 void TFilterRowView::LabelOpens(TDropDownLabel* widget) {
     const TElement* element = ElementOf(widget);
     if (!element) return;
-    panel.SetCurrentRow(row);
+    panel.SetCurrentRow(*row);
     valueBefore = widget->Value();
     switch (element->label.kind) {
     case TRowLabelKind::rlField:
@@ -72,11 +72,11 @@ void TFilterRowView::LabelOpened(TDropDownLabel* widget) {
     if (!editor || editor->parentWidget() != widget->parentWidget()) return;
     editor->removeEventFilter(this);
     editor->installEventFilter(this);
-    panel.Invalidate();
+    panel.Invalidate(false);
 }
 
 bool TFilterRowView::eventFilter(QObject* editor, QEvent* event) {
-    if (event->type() == QEvent::Resize || event->type() == QEvent::Hide) panel.Invalidate();
+    if (event->type() == QEvent::Resize || event->type() == QEvent::Hide) panel.Invalidate(false);
     return QObject::eventFilter(editor, event);
 }
 
@@ -184,9 +184,9 @@ void TFilterRowView::LabelRightClick(TDropDownLabel* widget) {
     const int n = ValueNumberOf(widget);
     // a sub-query is neither constant nor parameter
     if (n > 0 && !Condition()->IsSubQueryOperator()) return ValueRightClick(n);
-    panel.SetCurrentRow(row);
+    panel.SetCurrentRow(*row);
     if (widget->focusPolicy() != Qt::NoFocus) widget->setFocus();
-    panel.PopupRowMenu(row, OnScreen(*widget));
+    panel.PopupRowMenu(*row, OnScreen(*widget));
 }
 
 void TFilterRowView::ValueRightClick(int n) {
@@ -201,7 +201,7 @@ void TFilterRowView::LabelAltClick(TDropDownLabel* widget) {
 }
 
 void TFilterRowView::ValueAltClick(int n) {
-    panel.SetCurrentRow(row);
+    panel.SetCurrentRow(*row);
     panel.OnValueAltClick(*Condition(), n);
 }
 

@@ -133,11 +133,23 @@ TDropDownLabel* TFilterRowView::MakeLabel(const TRowLabel&, TRowControl control)
     return widget;
 }
 
+template <class Call>
+void TFilterRowView::Run(Call&& call) {
+    struct TRunning {
+        explicit TRunning(TFilterRowView& running) : view(&running) { ++view->running; }
+        ~TRunning() {
+            if (view) --view->running;
+        }
+        QPointer<TFilterRowView> view;
+    } const counted(*this);
+    call();
+}
+
 void TFilterRowView::Listen(TDropDownLabel& widget, TRowControl control) {
     const QPointer<TFilterRowView> view(this);
     auto heard = [view](void (TFilterRowView::*call)(TDropDownLabel*)) {
         return [view, call](TDropDownLabel* label) {
-            if (view) (view->*call)(label);
+            if (view) view->Run([&] { (*view.*call)(label); });
         };
     };
     widget.OnRightClick = heard(&TFilterRowView::LabelRightClick);
@@ -146,12 +158,12 @@ void TFilterRowView::Listen(TDropDownLabel& widget, TRowControl control) {
     widget.AfterDropDown = heard(&TFilterRowView::LabelOpened);
     widget.OnAltClick = heard(&TFilterRowView::LabelAltClick);
     widget.AfterDropUp = [view](TDropDownLabel* label, bool accepted) {
-        if (view) view->LabelDone(label, accepted);
+        if (view) view->Run([&] { view->LabelDone(label, accepted); });
     };
     if (control != TRowControl::rcCustom && control != TRowControl::rcPending) return;
     widget.OnCustomDropDown = [view](TDropDownLabel* label, QString&, bool& accept) {
         accept = false; // what was changed is in the query already
-        if (view) view->LabelCustom(label);
+        if (view) view->Run([&] { view->LabelCustom(label); });
     };
 }
 
@@ -250,10 +262,9 @@ void TFilterRowView::ShowPending(TDropDownLabel& widget) const {
 
 void TFilterRowView::ShowLabel(const TElement& element, bool on) {
     TDropDownLabel& widget = *element.widget;
-    const QString text = ToQt(element.label.text);
-    // while the user is at it, the editor's list stays as it is
-    if (!widget.Dropped()) widget.SetValue(ValueOf(element.label, row));
-    widget.SetCaption(text);
+    const QString caption = ToQt(element.label.text);
+    // while the user is at it, the editor's value stays as it is
+    widget.ShowValue(widget.Dropped() ? widget.Value() : ValueOf(element.label, *row), caption);
     widget.SetFontColor(ColorOf(element.label.kind, on));
     widget.setToolTip(ToQt(element.label.hint));
     if (element.control == TRowControl::rcPending) ShowPending(widget);
