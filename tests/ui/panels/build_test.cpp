@@ -1,4 +1,9 @@
-// Queries that are put together by mouse or by keys, held against their statement.
+// Queries that are put together by mouse or by keys, held against their statement, and against what
+// the command line tool makes of the saved query.
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
 #include <ui/panels/panel_form.h>
 
 namespace tern7 {
@@ -35,6 +40,37 @@ protected:
         Press(Qt::Key_Return);
         Settle();
     }
+    /// The tool prints the same query text and the same statement for the query as it is saved.
+    void AgreesWithTheTool() {
+#ifdef TERN7_TOOL
+        panel->Editor().AddResultField(0, *Field("City"));
+        panel->BuildQuery();
+        TStrings text;
+        panel->SaveToStrings(text);
+        const QTemporaryDir folder;
+        const QString files[] = {folder.filePath("shop.str"), folder.filePath("shop.qry")};
+        structure.SaveToFile(FromQt(files[0]));
+        panel->SaveToFile(files[1]);
+        EXPECT_EQ(Tool({"query", files[0], files[1]}), Lines(text));
+        EXPECT_EQ(Tool({"sql", files[0], files[1], "--options", "none"}),
+                  panel->QResult().GetSQL().Text());
+#endif
+    }
+#ifdef TERN7_TOOL
+    static std::string Lines(const TStrings& lines) {
+        std::string all;
+        for (const std::string& line : lines)
+            all += line + "\n";
+        return all;
+    }
+    static std::string Tool(const QStringList& arguments) {
+        QProcess tool;
+        tool.start(QStringLiteral(TERN7_TOOL), arguments);
+        EXPECT_TRUE(tool.waitForFinished(60000));
+        EXPECT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
+        return tool.readAllStandardOutput().toStdString();
+    }
+#endif
 };
 
 TEST_F(TPanelBuildTest, ConditionByMouse) {
@@ -50,6 +86,7 @@ TEST_F(TPanelBuildTest, ConditionByMouse) {
     EXPECT_EQ(Shown(1), "Order number is not equal to _____");
     EnterValue(1, "12");
     EXPECT_EQ(Condition(), "O.id <> 12");
+    AgreesWithTheTool();
 }
 
 TEST_F(TPanelBuildTest, NestedConditionsByMouse) {
@@ -75,6 +112,7 @@ TEST_F(TPanelBuildTest, NestedConditionsByMouse) {
 
     Click(View(3).CheckBox());
     EXPECT_EQ(Condition(), "C.city = 'Berlin' AND NOT ( O.paid = '1' )");
+    AgreesWithTheTool();
     PickRowMenu(4, "Enable/Disable Row");
     EXPECT_EQ(Condition(), "C.city = 'Berlin'") << "the bracket goes off with its last row";
     EXPECT_FALSE(View(2).CheckBox()->isChecked());
@@ -109,6 +147,7 @@ TEST_F(TPanelBuildTest, ConditionsByKeys) {
     View(2).CheckBox()->setFocus();
     Press(Qt::Key_Space);
     EXPECT_EQ(Condition(), "C.id <> 7");
+    AgreesWithTheTool();
 }
 
 TEST_F(TPanelBuildTest, AndOrStyle) {

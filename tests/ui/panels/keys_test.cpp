@@ -235,6 +235,41 @@ TEST_F(TPanelKeysTest, RowsAreDraggedByTheirButtons) {
     }
 }
 
+TEST_F(TPanelKeysTest, DragsInTheAndOrStyle) {
+    panel->Appearance().SetStyle(TQPStyle::psAndOr);
+    Settle();
+    const struct {
+        int line, gap, level;
+        const char* rows;
+    } cases[] = {
+        {0, 3, 1, "b (c a)"},                     // behind the bracket's last condition, into it
+        {0, 3, 0, "b (c) a"},                     // or behind the bracket
+        {0, 2, 1, "b (a c)"}, {2, 0, 0, "c a b"}, // the bracket goes with its last condition
+        {1, 0, 0, "b a (c)"},
+    };
+    const std::function<std::string(const TFilterBracket&)> rows =
+        [&rows](const TFilterBracket& bracket) {
+            std::string text;
+            for (const auto& row : bracket.Rows()) {
+                if (!text.empty()) text += ' ';
+                text += row->IsBracket() ? "(" + rows(*row->AsBracket()) + ")"
+                                         : row->AsCond()->Value(1);
+            }
+            return text;
+        };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.rows);
+        PressButton(c.line);
+        MoveTo(Gap(c.gap, c.level));
+        Release(Gap(c.gap, c.level));
+        EXPECT_EQ(rows(panel->Root()), c.rows);
+        EXPECT_EQ(Stack().index(), 1);
+        panel->Undo();
+        EXPECT_EQ(rows(panel->Root()), "a b (c)");
+        Fill();
+    }
+}
+
 TEST_F(TPanelKeysTest, DragShowsItsPlaceAndCanBeCancelled) {
     const auto indicator = [&] { return panel->RowDrag().Indicator()->geometry(); };
     PressButton(1);

@@ -3,6 +3,8 @@
 
 #include <QScrollBar>
 
+#include <tern7/core/structure/value_editors.h>
+
 namespace tern7 {
 
 class TPanelLayoutTest : public TPanelTest {
@@ -126,6 +128,81 @@ TEST_F(TPanelLayoutTest, OnlyRowsInSightHaveControls) {
     ASSERT_NE(panel->ExistingView(Row(9000)), nullptr);
     Press(Qt::Key_Return);
     EXPECT_EQ(Cond(9000).Value(1), "kept");
+}
+
+TEST_F(TPanelLayoutTest, RowsTakeOverControlsThatLeftSight) {
+    auto* upper = Field("C.name")->ValueEditorAs<TDSTextEditor>();
+    if (!upper) Field("C.name")->SetEditType(TDSEditType::etEdit);
+    upper = Field("C.name")->ValueEditorAs<TDSTextEditor>();
+    upper->SetOption(TDSTextEditor::UpperCaseOption, true);
+    {
+        TKQueryUpdate update(panel->Query());
+        TFilterBracket* bracket = &panel->Root();
+        for (int i = 0; i < 300; ++i) {
+            const std::string n = std::to_string(i);
+            if (i % 7 == 0) bracket = panel->Root().AddBracket();
+            if (i % 5 == 0)
+                TShop::Add(*bracket, "O.amount", "Between", n, n + "0");
+            else if (i % 5 == 1)
+                TShop::Add(*bracket, "O.placed", "Equal", "2024-05-06");
+            else if (i % 5 == 2)
+                TShop::Add(*bracket, "O.paid", "Equal", i % 2 ? "1" : "0");
+            else
+                TShop::Add(*bracket, i % 2 ? "C.name" : "C.city", "Equal", "v" + n);
+            bracket->GetRow(bracket->GetRowCount() - 1)->SetEnabled(i % 4 != 0);
+        }
+    }
+    Settle();
+    // the labels of a row and their places, as a panel shows them that never scrolled
+    const auto seen = [](TFilterRowView& view) {
+        QStringList all;
+        for (const QWidget* widget : view.Widgets()) {
+            const auto* label = qobject_cast<const TDropDownLabel*>(widget);
+            all << QString("%1 %2 %3 %4 %5")
+                       .arg(widget->metaObject()->className())
+                       .arg(label ? label->Caption() + label->Value() : QString())
+                       .arg(label ? label->FontColor().name() : QString())
+                       .arg(widget->x())
+                       .arg(widget->width())
+                << widget->toolTip() << widget->accessibleName();
+        }
+        if (view.CheckBox()) all << QString::number(view.CheckBox()->isChecked());
+        return all.join("\n");
+    };
+    QScrollBar* bar = panel->verticalScrollBar();
+    const int steps[] = {bar->pageStep(),     bar->singleStep(),  -bar->pageStep(),
+                         bar->maximum(),      -bar->singleStep(), -3 * bar->singleStep(),
+                         -2 * bar->pageStep()};
+    for (const int step : steps) {
+        bar->setValue(bar->value() + step);
+        Settle();
+        TKQueryPanel fresh(&window);
+        fresh.setGeometry(panel->geometry());
+        fresh.SetDbStruct(&structure);
+        TStrings text;
+        panel->SaveToStrings(text);
+        fresh.LoadFromStrings(text);
+        int shown = 0;
+        for (int line = 0; line < panel->Lines().Count(); ++line) {
+            TFilterRowView* view = panel->ExistingView(Row(line));
+            if (!view) continue;
+            ++shown;
+            EXPECT_EQ(view->Button()->y(), panel->LineRect(line).y()) << line;
+            EXPECT_EQ(seen(*view), seen(*fresh.RowView(*fresh.Lines().At(line).row))) << line;
+        }
+        EXPECT_GE(shown, panel->LinesInSight());
+        EXPECT_LE(shown, panel->LinesInSight() + 5);
+    }
+    // an editor shows the value of its row, whoever had the label before
+    for (int line = 1; line < 40; ++line) {
+        if (!Row(line).AsCond() || Cond(line).Field() != Field("C.city")) continue;
+        const std::string value = Cond(line).Value(1);
+        ClickLabel(line, TRowLabelKind::rlValue, 1);
+        Press(Qt::Key_Return);
+        EXPECT_EQ(Cond(line).Value(1), value);
+        bar->setValue(bar->maximum());
+        bar->setValue(0);
+    }
 }
 
 TEST_F(TPanelLayoutTest, OpenEditorPushesWhatFollows) {

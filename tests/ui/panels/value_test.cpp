@@ -254,6 +254,32 @@ TEST_F(TPanelValueTest, ListsThatComeTooLateHarmNobody) {
     EXPECT_FALSE(QApplication::activePopupWidget());
 }
 
+TEST_F(TPanelValueTest, DatabaseGoesWhileItsListIsRead) {
+    for (const bool here : {false, true}) {
+        auto info = std::make_unique<TSlowInfo>();
+        info->hereOnly = here;
+        SQLList(*info);
+        AddRow("C.city", "Equal", "R");
+        panel->ListReader().Demand(*Field("C.city"));
+        if (!here) Click(Value(1)); // the menu that says so stays open
+        info.reset();
+        QTest::qWait(30);
+        EXPECT_EQ(structure.DatabaseInfo(), nullptr);
+        panel->CloseEdit(false);
+        if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+        Settle();
+        Field("C.city")->ValueEditorChanged();
+        panel->RefreshPanel();
+        Settle();
+        Click(Value(1));
+        EXPECT_TRUE(MenuText() != "The list is being read...") << here;
+        if (QWidget* menu = QApplication::activePopupWidget()) menu->close();
+        Settle();
+        EXPECT_EQ(Cond(1).Value(1), "R");
+        panel->ClearAll();
+    }
+}
+
 TEST_F(TPanelValueTest, SubQueryDialog) {
     TDSOperator* among = structure.AddOperator("Among");
     among->SetSQLName("@f in (@1)");
