@@ -53,7 +53,7 @@ protected:
         panel->SaveToFile(files[1]);
         EXPECT_EQ(Tool({"query", files[0], files[1]}), Lines(text));
         EXPECT_EQ(Tool({"sql", files[0], files[1], "--options", "none"}),
-                  panel->QResult().GetSQL().Text());
+                  panel->QResult().GetSQL().Text() + "\n");
 #endif
     }
 #ifdef TERN7_TOOL

@@ -177,7 +177,7 @@ TEST_F(TPanelLayoutTest, RowsTakeOverControlsThatLeftSight) {
         bar->setValue(bar->value() + step);
         Settle();
         TKQueryPanel fresh(&window);
-        fresh.setGeometry(panel->geometry());
+        fresh.resize(panel->size());
         fresh.SetDbStruct(&structure);
         TStrings text;
         panel->SaveToStrings(text);
