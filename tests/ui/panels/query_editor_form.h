@@ -2,6 +2,8 @@
 
 #include <set>
 
+#include <QMimeData>
+
 #include <gtest/gtest.h>
 
 #include <core/query/shop.h>

@@ -10,6 +10,7 @@
 #include <tern7/ui/controls/drop_down_list_box.h>
 #include <tern7/ui/controls/drop_down_mask_edit.h>
 #include <tern7/ui/dialogs/sub_query_dialog.h>
+#include <tern7/ui/panels/sql_list_reader.h>
 
 namespace tern7 {
 
