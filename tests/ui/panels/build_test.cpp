@@ -45,6 +45,7 @@ protected:
 #ifdef TERN7_TOOL
         panel->Editor().AddResultField(0, *Field("City"));
         panel->BuildQuery();
+        panel->SetSaveTitles(false);
         TStrings text;
         panel->SaveToStrings(text);
         const QTemporaryDir folder;

@@ -153,6 +153,10 @@ TEST_F(TPanelLayoutTest, RowsTakeOverControlsThatLeftSight) {
         }
     }
     Settle();
+    TStrings saved; // dates come back in the local form
+    panel->SaveToStrings(saved);
+    panel->LoadFromStrings(saved);
+    Settle();
     // the labels of a row and their places, as a panel shows them that never scrolled
     const auto seen = [](TFilterRowView& view) {
         QStringList all;
