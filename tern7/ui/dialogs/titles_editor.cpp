@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <tern7/core/corekit/ini_text.h>
+#include <tern7/core/global/errors.h>
 #include <tern7/core/titles/title_sections.h>
 #include <tern7/core/titles/titles_text.h>
 #include <tern7/ui/support/text.h>
