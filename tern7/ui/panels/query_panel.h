@@ -327,7 +327,9 @@ private:
     TSyntax FormSQLSyntax() const { return static_cast<TSyntax>(query->SQLSyntax()); }
     void SetFormSQLSyntax(TSyntax value);
     TOptions FormSQLOptions() const { return TOptions(SQLOptionsToInt(query->SQLOptions())); }
-    void SetFormSQLOptions(TOptions value) { query->SetSQLOptions(IntToSQLOptions(value)); }
+    void SetFormSQLOptions(TOptions value) {
+        query->SetSQLOptions(IntToSQLOptions(static_cast<int>(value)));
+    }
     QColor AppearanceActiveRowColor() const { return appearance->ActiveRowColor(); }
     void SetAppearanceActiveRowColor(const QColor& color) { appearance->SetActiveRowColor(color); }
     void ResetAppearanceActiveRowColor() {
