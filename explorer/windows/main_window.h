@@ -172,6 +172,7 @@ private:
     QLabel* grouping = nullptr;
     QLabel* tables = nullptr;
     TMessageBar* queryMessages = nullptr;
+    int unfinishedMessage = -1; // that of queryMessages which tells of unfinished conditions
     QSplitter* queryParts = nullptr;
     QSplitter* parts = nullptr;
     QSpinBox* rowLimit = nullptr;

@@ -177,6 +177,7 @@ void TMainWindow::NewQuery() {
     conditions->Description().clear();
     conditions->UserData().clear();
     conditions->SetQueryName({});
+    conditions->SetMainTableName({});
     conditions->SetTitles(titles);
     conditions->SetSQLOptions(DefaultSQLOptions);
     conditions->Query().SaveTitles = false;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QAction>
+#include <QApplication>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QSpinBox>
@@ -68,6 +69,7 @@ void TMainWindow::ShowSQL() {
     ShowGrouping();
     ShowTables();
     ShowSorting();
+    if (queryMessages->Shown() == unfinishedMessage) ShowUnfinished(); // perhaps no more, or others
 }
 
 /// With sums, counts and the like there is a row for each combination of the other columns.
@@ -98,8 +100,12 @@ void TMainWindow::RunQuery() {
 void TMainWindow::RunWith(bool asking) {
     liveTimer.stop();
     if (!session) return;
-    conditions->CloseEdit();
-    if (asking) queryMessages->Clear();
+    // nothing moves or closes below the hands of somebody who is choosing
+    if (!asking && QApplication::activePopupWidget()) return liveTimer.start();
+    if (asking) {
+        conditions->CloseEdit();
+        queryMessages->Clear();
+    }
     if (columns->ResultFields().GetCount() == 0) {
         if (asking)
             queryMessages->Say(
@@ -124,7 +130,7 @@ void TMainWindow::RunWith(bool asking) {
         TRunRequest request = MakeRequest();
         results->SetCaptions(Captions());
         runner.Run(std::move(request));
-        ShowUnfinished();
+        if (asking) ShowUnfinished(); // else the rows say so themselves
     } catch (const EKWrongValueError& error) {
         if (!asking) return;
         TFilterCond& row = const_cast<TFilterCond&>(error.Condition());
@@ -196,7 +202,10 @@ void TMainWindow::RunFailed(const QString& message, int row) {
 /// A filter never vanishes in silence.
 void TMainWindow::ShowUnfinished() {
     const std::vector<TUnfinishedRow> rows = conditions->Query().UnfinishedRows();
-    if (rows.empty()) return;
+    if (rows.empty()) {
+        if (queryMessages->Shown() == unfinishedMessage) queryMessages->Clear();
+        return;
+    }
     const int number = rows.front().row->RowNum();
     const auto say = [this, number, count = static_cast<int>(rows.size())] {
         const TFilterCond* row = RowOf(number);
@@ -208,6 +217,7 @@ void TMainWindow::ShowUnfinished() {
     queryMessages->Say(
         TMessageBar::TKind::Warning, say, [] { return tr("Show the row"); },
         [this, number] { FocusRow(number); });
+    unfinishedMessage = queryMessages->Shown();
 }
 
 TFilterCond* TMainWindow::RowOf(int number) const {

@@ -167,6 +167,8 @@ void TMainWindow::SetLook(TLook wanted) {
     // The colours of the statement are chosen when it is coloured.
     if (auto* highlighter = sqlText->document()->findChild<QSyntaxHighlighter*>())
         highlighter->rehighlight();
+    tables->clear(); // a link keeps the colour that it was set with
+    ShowTables();
 }
 
 void TMainWindow::SetZoom(int percent) {

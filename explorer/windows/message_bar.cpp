@@ -48,6 +48,7 @@ void TMessageBar::Say(TKind kind, TWording text, TWording offer, std::function<v
     shownText = std::move(text);
     shownOffer = std::move(offer);
     whenPressed = std::move(action);
+    ++number;
     Word();
     button->setVisible(shownOffer != nullptr);
     Colour();

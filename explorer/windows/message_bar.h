@@ -26,6 +26,8 @@ public:
     void Say(TKind kind, TWording text, TWording offer = {}, std::function<void()> action = {});
     void Clear();
     QString Text() const;
+    /// The number of the message that is shown; 0 when there is none.
+    int Shown() const { return isHidden() ? 0 : number; }
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -40,6 +42,7 @@ private:
     TWording shownText, shownOffer;
     std::function<void()> whenPressed;
     TKind shownKind = TKind::Note;
+    int number = 0;
 };
 
 } // namespace tern7

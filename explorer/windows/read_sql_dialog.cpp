@@ -21,6 +21,7 @@ TReadSQLDialog::TReadSQLDialog(const QString& sql, TRead itsRead, QWidget* paren
     text->setLayoutDirection(Qt::LeftToRight);
     text->setTabChangesFocus(true);
     text->setPlainText(sql);
+    text->selectAll(); // what is pasted takes its place
     text->setAccessibleName(tr("SELECT statement"));
     new TSQLHighlighter(text->document());
     auto* label = new QLabel(

@@ -101,6 +101,7 @@ void TKQueryPanel::Lay() {
     BuildLines();
     SetScrollRanges();
     MakeViews();
+    if (static_cast<int>(views.size()) >= lines.Count()) widest = 0; // all rows are measured now
     PlaceViews();
     SetScrollRanges(); // the widest row may be a new one
     PlaceAddRow();

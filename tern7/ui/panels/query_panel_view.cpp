@@ -84,6 +84,7 @@ void TKQueryPanel::EverythingChanged() {
     linesKnown = false;
     lines.Clear();
     viewsFresh = false;
+    widest = 0;
     FillServices(); // those of another structure
     ReadTitles();
     Invalidate();

@@ -186,6 +186,12 @@ TKResultFieldsPanel::TPart TKResultFieldsPanel::FocusedPart(int index) {
     return row.HasFocus() ? TPart::Sorting : TPart::None;
 }
 
+/// The key of a label that belongs to the panel leads to its first row.
+void TKResultFieldsPanel::focusInEvent(QFocusEvent* event) {
+    QScrollArea::focusInEvent(event);
+    if (event->reason() == Qt::ShortcutFocusReason) FocusRow(0, TPart::Field);
+}
+
 /// The last row, else the add label, stands in for a row that there is not.
 void TKResultFieldsPanel::FocusRow(int index, TPart part) {
     EnsureRows();
