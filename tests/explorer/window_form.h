@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QLocale>
@@ -69,6 +70,12 @@ protected:
     void AddColumn(const char* display) {
         TRFieldList& list = window->Columns().ResultFields();
         list.AddByExpression(display, TSortingType::stNoSort, std::string("{") + display + "}");
+    }
+    /// What a menu item does.
+    void Choose(const char* text) {
+        for (QAction* action : window->findChildren<QAction*>())
+            if (action->text() == QLatin1String(text)) return action->trigger();
+        FAIL() << text;
     }
     QString Cell(int row, int column) {
         return window->Results().Model().index(row, column).data().toString();

@@ -74,6 +74,33 @@ TEST_F(TWindowTest, StatementIsRead) {
     EXPECT_EQ(window->Columns().ResultFields().GetCount(), 2);
 }
 
+TEST_F(TWindowTest, RunningAfterEveryChangeLeavesMenusAlone) {
+    ASSERT_TRUE(window->LoadQuery(Queries("turnover.qry")));
+    Choose("Run after every c&hange");
+    TKQueryPanel& panel = window->Conditions();
+    QTest::mouseClick(panel.AddRowLabel(), Qt::LeftButton);
+    QTest::qWait(1000);
+    QWidget* menu = QApplication::activePopupWidget();
+    ASSERT_TRUE(menu);
+    EXPECT_TRUE(menu->isVisible());
+    QSignalSpy ended(window.get(), &TMainWindow::runEnded);
+    menu->close();
+    ASSERT_TRUE(ended.wait());
+    const auto* bar = window->findChild<TMessageBar*>("queryMessages");
+    EXPECT_EQ(bar->Text(), "") << "the row says so itself";
+    Run();
+    EXPECT_TRUE(bar->Text().contains("not finished"));
+    panel.Editor().Undo();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar->Text().isEmpty(); }));
+}
+
+TEST_F(TWindowTest, NewQueryStartsFromNoTable) {
+    window->Conditions().SetMainTableName("customers");
+    ASSERT_TRUE(window->SaveQuery(folder.filePath("customers.qry")));
+    Choose("&New query");
+    EXPECT_EQ(window->Conditions().MainTableName(), "");
+}
+
 TEST_F(TWindowTest, EmptyQuerySaysWhatIsMissing) {
     window->RunQuery();
     EXPECT_FALSE(window->IsRunning());
@@ -109,22 +136,17 @@ TEST_F(TWindowTest, LanguageSwitchesEverything) {
 
 TEST_F(TWindowTest, OwnCaptionsStayWithTheirLanguage) {
     window->SetLanguage("en");
-    const auto choose = [this](const char* text) {
-        for (QAction* action : window->findChildren<QAction*>())
-            if (action->text() == QLatin1String(text)) return action->trigger();
-        FAIL() << text;
-    };
     window->Columns().Dialogs.editTitles = [](QWidget*, const TStrings&, TStrings& titles) {
         titles = {"ttlAscending=upwards"};
         return true;
     };
-    choose("Of the c&olumns...");
+    Choose("Of the c&olumns...");
     EXPECT_EQ(window->Columns().Titles(), TStrings{"ttlAscending=upwards"});
     window->SetLanguage("fr");
     EXPECT_NE(window->Columns().Titles(), TStrings{"ttlAscending=upwards"});
     window->SetLanguage("en");
     EXPECT_EQ(window->Columns().Titles(), TStrings{"ttlAscending=upwards"});
-    choose("As &delivered");
+    Choose("As &delivered");
     EXPECT_TRUE(window->Columns().Titles().empty());
 }
 
