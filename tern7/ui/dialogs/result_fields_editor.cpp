@@ -234,6 +234,7 @@ void T_dlgRFieldsEdit::ShowState() {
     const int at = CurrentColumn(), rank = CurrentSorted();
     const bool chosen = !fields->Selected().empty();
     const bool readable = at < 0 || !draft.Problem(at);
+    const QWidget* const used = focusWidget();
     add->setEnabled(chosen);
     create->setEnabled(chosen);
     for (QToolButton* button : joins)
@@ -245,6 +246,9 @@ void T_dlgRFieldsEdit::ShowState() {
     sortedUp->setEnabled(rank > 0);
     sortedDown->setEnabled(rank >= 0 && rank + 1 < sorted->rowCount());
     function->setEnabled(at >= 0 && draft.CanAggregate(at));
+    // what can do no more hands the keyboard on to its grid
+    if (used && !used->isEnabled())
+        (used == sortedUp || used == sortedDown ? sortedView : columnsView)->setFocus();
     function->setCurrentIndex(at < 0 ? 0 : static_cast<int>(draft.Aggregate(at)));
     QString wrong;
     if (!readable)

@@ -103,6 +103,7 @@ TEST(ResultFieldsEditor, FormulaByButtons) {
     t.Choose("city");
     t.Tool("Create result field");
     t.Tool("Sort result field");
+    EXPECT_TRUE(t.dialog->ColumnsView()->hasFocus()) << "the button can do no more";
     ASSERT_TRUE(t.Accept());
     EXPECT_EQ(t.form.Model(),
               (QStringList{"Price=SUM((O.price * O.quantity - O.price) / O.quantity)",
