@@ -513,6 +513,18 @@
         <source>Chosen by the columns</source>
         <translation>حسب الأعمدة</translation>
     </message>
+    <message>
+        <source>&amp;Join another way...</source>
+        <translation>&amp;ربط بطريقة أخرى...</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have only %3 in common.</source>
+        <translation>لا يجمع بين %1 و%2 سوى %3.</translation>
+    </message>
+    <message>
+        <source>Join another way...</source>
+        <translation>ربط بطريقة أخرى...</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -505,6 +505,18 @@
         <source>Chosen by the columns</source>
         <translation>Durch die Spalten bestimmt</translation>
     </message>
+    <message>
+        <source>&amp;Join another way...</source>
+        <translation>An&amp;ders verbinden ...</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have only %3 in common.</source>
+        <translation>%1 und %2 haben nur %3 gemeinsam.</translation>
+    </message>
+    <message>
+        <source>Join another way...</source>
+        <translation>Anders verbinden ...</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -505,6 +505,18 @@
         <source>Chosen by the columns</source>
         <translation>Según las columnas</translation>
     </message>
+    <message>
+        <source>&amp;Join another way...</source>
+        <translation>&amp;Unir de otra forma...</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have only %3 in common.</source>
+        <translation>%1 y %2 solo tienen %3 en común.</translation>
+    </message>
+    <message>
+        <source>Join another way...</source>
+        <translation>Unir de otra forma...</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -505,6 +505,18 @@
         <source>Chosen by the columns</source>
         <translation>Selon les colonnes</translation>
     </message>
+    <message>
+        <source>&amp;Join another way...</source>
+        <translation>&amp;Joindre autrement...</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have only %3 in common.</source>
+        <translation>%1 et %2 n&apos;ont que %3 en commun.</translation>
+    </message>
+    <message>
+        <source>Join another way...</source>
+        <translation>Joindre autrement...</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

@@ -503,6 +503,18 @@
         <source>Chosen by the columns</source>
         <translation>列に合わせる</translation>
     </message>
+    <message>
+        <source>&amp;Join another way...</source>
+        <translation>別の経路で結合(&amp;J)...</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have only %3 in common.</source>
+        <translation>%1 と %2 に共通するのは %3 だけです。</translation>
+    </message>
+    <message>
+        <source>Join another way...</source>
+        <translation>別の経路で結合...</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

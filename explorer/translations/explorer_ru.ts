@@ -507,6 +507,18 @@
         <source>Chosen by the columns</source>
         <translation>По столбцам</translation>
     </message>
+    <message>
+        <source>&amp;Join another way...</source>
+        <translation>Со&amp;единить иначе...</translation>
+    </message>
+    <message>
+        <source>%1 and %2 have only %3 in common.</source>
+        <translation>Для %1 и %2 общее только %3.</translation>
+    </message>
+    <message>
+        <source>Join another way...</source>
+        <translation>Соединить иначе...</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>

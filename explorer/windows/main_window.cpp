@@ -142,7 +142,9 @@ QWidget* TMainWindow::MakeColumnsPart() {
     tables->setTextFormat(Qt::RichText);
     tables->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     tables->hide();
-    connect(tables, &QLabel::linkActivated, this, &TMainWindow::ChooseStartTable);
+    connect(tables, &QLabel::linkActivated, this, [this](const QString& link) {
+        link == QStringLiteral("way") ? ChooseJoinWay() : ChooseStartTable();
+    });
     part->layout()->addWidget(tables);
     return part;
 }

@@ -19,6 +19,7 @@ class QSplitter;
 
 namespace tern7 {
 
+class TKPopupMenu;
 class TKQueryPanel;
 class TKResultFieldsPanel;
 class TMessageBar;
@@ -152,6 +153,8 @@ private:
     // main_window_tables.cpp
     void ShowTables();
     void ChooseStartTable();
+    void ChooseJoinWay();
+    void PopUpAtColumns(TKPopupMenu* menu);
 
     // main_window_view.cpp
     void ApplyZoom();
@@ -201,6 +204,7 @@ private:
     QAction* addColumnAction = nullptr;
     QAction* editColumnsAction = nullptr;
     QAction* startTableAction = nullptr;
+    QAction* joinWayAction = nullptr;
     QAction* saveRowsAction = nullptr;
     QActionGroup* languageActions = nullptr;
     QActionGroup* lookActions = nullptr;

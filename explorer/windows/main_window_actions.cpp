@@ -142,7 +142,10 @@ void TMainWindow::MakeQueryMenu() {
     menu->addSeparator();
     startTableAction = Action(QT_TR_NOOP("Start from &table..."), QKeySequence("Ctrl+T"),
                               [this] { ChooseStartTable(); });
-    menu->addActions({addColumnAction, editColumnsAction, distinctAction, startTableAction});
+    joinWayAction = Action(QT_TR_NOOP("&Join another way..."), QKeySequence("Ctrl+Shift+J"),
+                           [this] { ChooseJoinWay(); });
+    menu->addActions(
+        {addColumnAction, editColumnsAction, distinctAction, startTableAction, joinWayAction});
 }
 
 void TMainWindow::MakeToolBar() {

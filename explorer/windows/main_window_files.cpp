@@ -178,6 +178,7 @@ void TMainWindow::NewQuery() {
     conditions->UserData().clear();
     conditions->SetQueryName({});
     conditions->SetMainTableName({});
+    conditions->Query().SetAvoidedJoins({});
     conditions->SetTitles(titles);
     conditions->SetSQLOptions(DefaultSQLOptions);
     conditions->Query().SaveTitles = false;

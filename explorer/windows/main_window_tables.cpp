@@ -1,9 +1,13 @@
-// Which tables a query joins, and from which one it starts.
+// Which tables a query joins, along which way, and from which one it starts.
 
 #include "main_window.h"
 
+#include <algorithm>
+
+#include <QAction>
 #include <QLabel>
 
+#include <tern7/core/query/join_ways.h>
 #include <tern7/ui/controls/popup_menu.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/result_fields_panel.h>
@@ -13,24 +17,55 @@ namespace tern7 {
 
 namespace {
 
-constexpr qsizetype mostNamed = 12;
+constexpr size_t mostNamed = 12;
+
+QString WayText(const std::vector<TDSTable*>& way) {
+    QStringList names;
+    for (size_t i = 0; i < std::min(way.size(), mostNamed); ++i)
+        names << ToQt(way[i]->DisplayName());
+    if (way.size() > mostNamed) names << QStringLiteral("...");
+    return names.join(QStringLiteral(" – "));
+}
+
+QString MenuText(QString text) {
+    return text.replace(u'&', QStringLiteral("&&"));
+}
+
+QString Link(const char* target, const QString& text) {
+    return QStringLiteral("<a href=\"%1\">%2</a>").arg(QLatin1String(target), text.toHtmlEscaped());
+}
 
 } // namespace
 
 /// Joins follow the shortest way through the database, which may be another than the one that is
-/// meant: so users see it, and can say where to start.
+/// meant: so users see it, and can choose another or say where to start.
 void TMainWindow::ShowTables() {
     const TRTableList& list = conditions->QResult().ResultTables();
     const bool isChosen = !conditions->MainTableName().isEmpty();
-    QStringList names;
-    for (int i = 0; i < list.GetCount() && names.size() < mostNamed; ++i)
-        names << ToQt(list[i].Table->DisplayName());
-    if (list.GetCount() > mostNamed) names << QStringLiteral("...");
-    tables->setVisible(names.size() > 1 || isChosen);
-    tables->setText(
-        QStringLiteral("%1<br><a href=\"start\">%2</a>")
-            .arg(tr("Tables: %1.").arg(names.join(QStringLiteral(" – "))).toHtmlEscaped(),
-                 tr("Start from another table...").toHtmlEscaped()));
+    std::vector<TDSTable*> joined;
+    for (int i = 0; i < list.GetCount(); ++i)
+        joined.push_back(list[i].Table);
+    const std::vector<TDSTable*> ends = JoinEnds(conditions->Query());
+    const bool hasOtherWays = std::any_of(ends.begin(), ends.end(), [this](const TDSTable* end) {
+        return JoinWays(conditions->Query(), *end).size() > 1;
+    });
+    joinWayAction->setEnabled(hasOtherWays);
+
+    QStringList lines{tr("Tables: %1.").arg(WayText(joined)).toHtmlEscaped()};
+    const std::vector<TSharedTable> shared = SharedTables(conditions->Query());
+    if (hasOtherWays && !shared.empty())
+        lines << QStringLiteral("<b>%1</b>")
+                     .arg(tr("%1 and %2 have only %3 in common.")
+                              .arg(ToQt(shared.front().first->DisplayName()),
+                                   ToQt(shared.front().second->DisplayName()),
+                                   ToQt(shared.front().shared->DisplayName()))
+                              .toHtmlEscaped());
+    QStringList links;
+    if (hasOtherWays) links << Link("way", tr("Join another way..."));
+    links << Link("start", tr("Start from another table..."));
+    lines << links.join(QStringLiteral(" &nbsp; "));
+    tables->setVisible(joined.size() > 1 || isChosen);
+    tables->setText(lines.join(QStringLiteral("<br>")));
 }
 
 /// All tables in a menu; joins start from the chosen one.
@@ -39,7 +74,7 @@ void TMainWindow::ChooseStartTable() {
     auto* menu = new TKPopupMenu(this);
     const QString present = conditions->MainTableName();
     const auto add = [&](const QString& caption, const QString& alias) {
-        TMenuItem& item = menu->Items().Add(QString(caption).replace(u'&', QStringLiteral("&&")));
+        TMenuItem& item = menu->Items().Add(MenuText(caption));
         item.RadioItem = true;
         item.Checked = alias.compare(present, Qt::CaseInsensitive) == 0;
         item.OnClick = [this, alias](TMenuItem*) {
@@ -53,6 +88,37 @@ void TMainWindow::ChooseStartTable() {
         const TDSTable& table = *structure.GetTable(i);
         add(ToQt(table.DisplayName()), ToQt(table.TableAlias()));
     }
+    PopUpAtColumns(menu);
+}
+
+/// The ways to each table at which the joins end, in a menu; in sub menus when there are several
+/// such tables.
+void TMainWindow::ChooseJoinWay() {
+    if (!session) return;
+    auto* menu = new TKPopupMenu(this);
+    std::vector<std::pair<const TDSTable*, std::vector<TJoinWay>>> all;
+    for (const TDSTable* end : JoinEnds(conditions->Query())) {
+        std::vector<TJoinWay> ways = JoinWays(conditions->Query(), *end);
+        if (ways.size() > 1) all.emplace_back(end, std::move(ways));
+    }
+    for (const auto& [end, ways] : all) {
+        TMenuItem& into =
+            all.size() == 1 ? menu->Items() : menu->Items().Add(MenuText(ToQt(end->DisplayName())));
+        for (const TJoinWay& way : ways) {
+            TMenuItem& item = into.Add(MenuText(WayText(way.tables)));
+            item.RadioItem = true;
+            item.Checked = &way == &ways.front();
+            item.OnClick = [this, avoided = way.avoided](TMenuItem*) {
+                conditions->CloseEdit();
+                conditions->Editor().SetAvoidedJoins(avoided);
+            };
+        }
+    }
+    if (!all.empty()) return PopUpAtColumns(menu);
+    delete menu;
+}
+
+void TMainWindow::PopUpAtColumns(TKPopupMenu* menu) {
     connect(menu, &TKPopupMenu::closed, menu, &QObject::deleteLater);
     const QRect place = columns->rect();
     menu->PopupAt({columns->mapToGlobal(place.topLeft()), QSize(place.width(), 0)});

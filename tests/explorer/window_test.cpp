@@ -101,6 +101,26 @@ TEST_F(TWindowTest, NewQueryStartsFromNoTable) {
     EXPECT_EQ(window->Conditions().MainTableName(), "");
 }
 
+TEST_F(TWindowTest, TablesAreJoinedAnotherWay) {
+    AddColumn("Countries.Name");
+    AddColumn("Order year");
+    const auto shows = [this](const char* text) {
+        return QTest::qWaitFor([&] { return window->ShownSQL().contains(QLatin1String(text)); });
+    };
+    ASSERT_TRUE(shows("currency")) << "the shortest way";
+    Choose("&Join another way...");
+    auto* menu = qobject_cast<TKPopupMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+        QTest::keyClick(menu, key);
+    EXPECT_TRUE(shows("cities")) << "by the address";
+    ASSERT_TRUE(window->SaveQuery(folder.filePath("way.qry")));
+    window->Conditions().Editor().Undo();
+    EXPECT_TRUE(shows("currency"));
+    ASSERT_TRUE(window->LoadQuery(folder.filePath("way.qry")));
+    EXPECT_TRUE(shows("cities"));
+}
+
 TEST_F(TWindowTest, EmptyQuerySaysWhatIsMissing) {
     window->RunQuery();
     EXPECT_FALSE(window->IsRunning());

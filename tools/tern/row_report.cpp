@@ -50,6 +50,10 @@ private:
         if (!mainTable.empty() && !structure.TableByName(true, mainTable) &&
             !structure.TableByName(false, mainTable))
             Add(around + "main table: unknown table " + QuotedString(mainTable, '\"'));
+        for (const TAvoidedJoin& join : query->AvoidedJoins())
+            for (const std::string& alias : {join.alias1, join.alias2})
+                if (!structure.TableByName(true, alias))
+                    Add(around + "avoided join: unknown table " + QuotedString(alias, '\"'));
         FindUnknownFields();
         ForEachRow(query->Root(), true, [this](const TFilterRow& row) {
             if (const TFilterCond* condition = row.AsCond()) FindUnknown(*condition);

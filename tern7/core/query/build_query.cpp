@@ -71,7 +71,8 @@ private:
         if (tables.IsEmpty()) return Begin(table);
         // The tables of the list lie on shortest paths from the base, so the missing ones are the
         // last ones of this path.
-        const std::vector<TDSTable*>& path = structure.GetPath(*tables[0].Table, *table).Tables();
+        const std::vector<TDSTable*>& path =
+            structure.GetPath(*tables[0].Table, *table, query.AvoidedJoins()).Tables();
         size_t missing = path.size() - 1;
         while (missing > 1 && !tables.Contains(path[missing - 1]))
             --missing;

@@ -59,8 +59,15 @@ void TKQuery::SetQueryName(std::string value) {
 
 void TKQuery::SetMainTableName(std::string value) {
     if (value == mainTableName) return;
-    if (TKQueryRecord* recording = Record()) recording->MainTableChanges();
+    if (TKQueryRecord* recording = Record()) recording->JoiningChanges();
     mainTableName = std::move(value);
+    Changed();
+}
+
+void TKQuery::SetAvoidedJoins(TAvoidedJoins value) {
+    if (value == avoidedJoins) return;
+    if (TKQueryRecord* recording = Record()) recording->JoiningChanges();
+    avoidedJoins = std::move(value);
     Changed();
 }
 

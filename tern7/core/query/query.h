@@ -98,6 +98,10 @@ public:
     /// Alias or name of the table that the query starts from; empty: the structure's default.
     const std::string& MainTableName() const { return mainTableName; }
     void SetMainTableName(std::string value);
+    /// Pairs of tables that are not joined directly, where the shortest way is not the one that is
+    /// meant: joins lead around. Kept as they are, also while the structure lacks a table of them.
+    const TAvoidedJoins& AvoidedJoins() const { return avoidedJoins; }
+    void SetAvoidedJoins(TAvoidedJoins value);
     TSQLOptions SQLOptions() const { return result->SQLOptions(); }
     void SetSQLOptions(TSQLOptions value) { result->SetSQLOptions(value); }
     TSQLSyntax SQLSyntax() const { return result->SQLSyntax(); }
@@ -107,7 +111,8 @@ public:
     TStrings Titles; ///< caption sections
     bool SaveTitles = true;
     bool SaveSQLOptions = false;
-    bool SaveMainTable = false; ///< keep MainTableName, when there is one, in the query text
+    /// Keep MainTableName and AvoidedJoins, when there are any, in the query text.
+    bool SaveMainTable = false;
     /// Values that stand without quotes must be one number or word; see BuildQuery.
     bool CheckValues = true;
     /// Version of the text that was read last.
@@ -301,6 +306,7 @@ private:
     std::vector<TKQueryView*> views;
     std::string queryName;
     std::string mainTableName;
+    TAvoidedJoins avoidedJoins;
     double formatVersion = 3.3;
     TStrings loadWarnings;
     std::unique_ptr<TSQLReport> sqlReport;

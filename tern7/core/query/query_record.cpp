@@ -75,8 +75,8 @@ void TKQueryRecord::OptionsChange(TSQLOptions to) {
     changes.emplace_back(TOptions{mask, now & mask});
 }
 
-void TKQueryRecord::MainTableChanges() {
-    changes.emplace_back(TMainTable{query.MainTableName()});
+void TKQueryRecord::JoiningChanges() {
+    changes.emplace_back(TJoining{query.MainTableName(), query.AvoidedJoins()});
 }
 
 void TKQueryRecord::TextsChange() {
@@ -182,9 +182,11 @@ void TKQueryRecord::Turn(TOptions& change, bool, TToldRows&) {
     change.other = now & change.mask;
 }
 
-void TKQueryRecord::Turn(TMainTable& change, bool, TToldRows&) {
-    std::string now = query.MainTableName();
-    query.SetMainTableName(std::exchange(change.other, std::move(now)));
+void TKQueryRecord::Turn(TJoining& change, bool, TToldRows&) {
+    TJoining now{query.MainTableName(), query.AvoidedJoins()};
+    query.SetMainTableName(std::move(change.mainTable));
+    query.SetAvoidedJoins(std::move(change.avoided));
+    change = std::move(now);
 }
 
 void TKQueryRecord::Turn(TTexts& change, bool, TToldRows&) {

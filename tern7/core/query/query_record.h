@@ -55,7 +55,8 @@ public:
     void ColumnMoved(int from, int to);
     void JustSortingChanges();
     void OptionsChange(TSQLOptions to);
-    void MainTableChanges();
+    /// Before the main table or the avoided joins change.
+    void JoiningChanges();
     /// Before another query text is read.
     void TextsChange();
 
@@ -88,8 +89,9 @@ private:
     struct TOptions {
         int mask, other; // only the bits that this step changed; those of the other state
     };
-    struct TMainTable {
-        std::string other;
+    struct TJoining {
+        std::string mainTable;
+        TAvoidedJoins avoided;
     };
     struct TTexts {
         std::string name;
@@ -97,7 +99,7 @@ private:
         TStrings titles, description, userData;
     };
     using TChange = std::variant<TRowContents, TRowPlace, TColumnContents, TColumnPlace,
-                                 TColumnMove, TJustSorting, TOptions, TMainTable, TTexts>;
+                                 TColumnMove, TJustSorting, TOptions, TJoining, TTexts>;
     struct TToldRow {
         TFilterRow* row;
         unsigned what; // see TFilterRow::Exchange
@@ -112,7 +114,7 @@ private:
     void Turn(TColumnMove& change, bool undo, TToldRows& told);
     void Turn(TJustSorting& change, bool undo, TToldRows& told);
     void Turn(TOptions& change, bool undo, TToldRows& told);
-    void Turn(TMainTable& change, bool undo, TToldRows& told);
+    void Turn(TJoining& change, bool undo, TToldRows& told);
     void Turn(TTexts& change, bool undo, TToldRows& told);
 
     TKQuery& query;

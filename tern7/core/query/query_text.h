@@ -25,6 +25,7 @@ struct TQueryTextHead {
     bool hasTitles = false;    ///< caption sections, of any version
     bool hasOptions = false;   ///< SQL options are kept in it
     bool hasMainTable = false; ///< a main table is kept in it
+    bool hasAvoidedJoins = false;
 };
 
 /// Never raises: a text that is no query gives the defaults. Linear.

@@ -2,6 +2,7 @@
 #include <limits>
 #include <optional>
 
+#include <tern7/core/corekit/comma_text.h>
 #include <tern7/core/corekit/files.h>
 #include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/corekit/numbers.h>
@@ -26,6 +27,7 @@ struct TQueryText {
     double version = FirstQueryTextVersion;
     std::optional<TSQLOptions> options;
     std::optional<std::string> mainTable;
+    std::optional<TAvoidedJoins> avoidedJoins;
     TStrings description, userData;
     TRFieldListText resultFields;
     std::vector<TRowText> rows;
@@ -40,6 +42,17 @@ double ParseVersion(const TKIniSection& main) {
     return version;
 }
 
+/// Comma text of pairs, each of which is comma text of two aliases.
+TAvoidedJoins ParseAvoidedJoins(const TKIniSection& main) {
+    TAvoidedJoins joins;
+    for (const std::string& pair : ParseCommaText(main.Text("AvoidedJoins"))) {
+        TStrings aliases = ParseCommaText(pair);
+        if (aliases.size() != 2) RaiseWrongValue(main, "AvoidedJoins");
+        joins.push_back({std::move(aliases[0]), std::move(aliases[1])});
+    }
+    return joins;
+}
+
 void ParseMain(const TKIniText& text, TQueryText& query) {
     const TKIniSection* main = text.Find("Main");
     if (!main) RaiseSectionNotFound("Main");
@@ -49,6 +62,8 @@ void ParseMain(const TKIniText& text, TQueryText& query) {
         query.options = IntToSQLOptions(IntInRange(*main, "Options", 0, 0, INT_MAX));
     if (main->Has("MainTable") || main->Has("MainTable.Encoded"))
         query.mainTable = main->Text("MainTable");
+    if (main->Has("AvoidedJoins") || main->Has("AvoidedJoins.Encoded"))
+        query.avoidedJoins = ParseAvoidedJoins(*main);
     if (query.version > QueryTextVersion)
         query.warnings.push_back(FormatMessage(
             messages::NewerVersion, {XFloatToStr(query.version), XFloatToStr(QueryTextVersion)}));
@@ -125,6 +140,8 @@ void TKQueryTextReader::Take(TQueryText text) {
         query.SetMainTableName(std::move(*text.mainTable));
     else if (query.SaveMainTable)
         query.SetMainTableName({});
+    if (text.avoidedJoins || query.SaveMainTable)
+        query.SetAvoidedJoins(std::move(text.avoidedJoins).value_or(TAvoidedJoins()));
     query.Description = std::move(text.description);
     query.UserData = std::move(text.userData);
     query.QResult().ResultFields().Assign(text.resultFields);
@@ -184,6 +201,7 @@ TQueryTextHead ReadQueryTextHead(std::string_view text) {
     head.version = XStrToFloat(Trim(main->Raw("Version")), FirstQueryTextVersion);
     head.hasOptions = !Trim(main->Raw("Options")).empty();
     head.hasMainTable = !main->Text("MainTable").empty();
+    head.hasAvoidedJoins = !main->Text("AvoidedJoins").empty();
     return head;
 }
 

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <tern7/core/corekit/comma_text.h>
 #include <tern7/core/corekit/files.h>
 #include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/corekit/numbers.h>
@@ -23,6 +24,13 @@ void WriteTitles(TKIniWriter& out, const TKQuery& query) {
     out.Line({});
 }
 
+std::string AvoidedJoinsText(const TAvoidedJoins& joins) {
+    TStrings pairs;
+    for (const TAvoidedJoin& join : joins)
+        pairs.push_back(ComposeCommaText({join.alias1, join.alias2}));
+    return ComposeCommaText(pairs);
+}
+
 void WriteMain(TKIniWriter& out, const TKQuery& query) {
     out.Section("Main");
     out.Text("QueryName", query.QueryName());
@@ -33,6 +41,8 @@ void WriteMain(TKIniWriter& out, const TKQuery& query) {
         out.Key("Options", std::string_view());
     if (query.SaveMainTable && !query.MainTableName().empty())
         out.Text("MainTable", query.MainTableName());
+    if (query.SaveMainTable && !query.AvoidedJoins().empty())
+        out.Text("AvoidedJoins", AvoidedJoinsText(query.AvoidedJoins()));
     out.Line({});
 }
 

@@ -141,8 +141,9 @@ private:
 
     TKQuery* query;
     TKQueryBase* base = nullptr;
-    std::string shown;         // the query's text when it was last the item's
-    bool hadMainTable = false; // the main table came with the item
+    std::string shown;            // the query's text when it was last the item's
+    bool hadMainTable = false;    // the main table came with the item
+    bool hadAvoidedJoins = false; // so did these
 };
 
 } // namespace tern7

@@ -71,10 +71,13 @@ void TKQueryBaseLink::Show(const std::string& text) {
             throw;
         }
     }
-    const bool hasMainTable = ReadQueryTextHead(text).hasMainTable;
-    // one that the application chose stays, unless main tables go with the texts
-    if (!hasMainTable && (hadMainTable || query->SaveMainTable)) query->SetMainTableName({});
-    hadMainTable = hasMainTable;
+    const TQueryTextHead head = ReadQueryTextHead(text);
+    // what the application chose stays, unless it goes with the texts
+    if (!head.hasMainTable && (hadMainTable || query->SaveMainTable)) query->SetMainTableName({});
+    if (!head.hasAvoidedJoins && (hadAvoidedJoins || query->SaveMainTable))
+        query->SetAvoidedJoins({});
+    hadMainTable = head.hasMainTable;
+    hadAvoidedJoins = head.hasAvoidedJoins;
     shown = Text();
 }
 

@@ -1,12 +1,21 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace tern7 {
 
 class TDSTable;
 class TKCustomDBStructure;
+
+/// Two tables, by alias, that a path does not join directly: it leads around over others.
+struct TAvoidedJoin {
+    std::string alias1, alias2;
+
+    friend bool operator==(const TAvoidedJoin&, const TAvoidedJoin&) = default;
+};
+using TAvoidedJoins = std::vector<TAvoidedJoin>;
 
 /// A chain of tables in which each is linked to the next.
 class TDSPath {

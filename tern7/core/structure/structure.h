@@ -148,6 +148,10 @@ public:
     /// changes.
     const TDSPath& GetPath(std::string_view startAlias, std::string_view endAlias);
     const TDSPath& GetPath(const TDSTable& start, const TDSTable& end);
+    /// The shortest one that does not join any of the pairs directly; pairs with an unknown alias
+    /// count for nothing. As cheap as the others while the same pairs are asked for.
+    const TDSPath& GetPath(const TDSTable& start, const TDSTable& end,
+                           const TAvoidedJoins& avoided);
 
     // --- the whole
     /// Deletes links, fields, groups and tables, forgets the default main table, and refreshes the
@@ -228,6 +232,7 @@ private:
 
     struct TIndexes;   // lookups, built when first asked and kept up to date
     struct TPathTrees; // join paths found so far, kept until tables or links change
+    struct TDetours;   // those that avoid joins
     class TLinkedSets; // tables between which there is no path
     struct TContent;   // what a text says, before it replaces the present objects
 
@@ -237,6 +242,7 @@ private:
     void List(TDSOperator* op);
     void Unlist(const TDSField& field);
     void ForgetPaths();
+    void RequireOwn(const TDSTable& table) const;
     void TableAdded(TDSTable& table);
     void TablesLinked(const TDSTable& a, const TDSTable& b);
     void MakeLinkedSets();
@@ -286,6 +292,7 @@ private:
     TKLife life; // tells Notify that it is gone
     mutable std::unique_ptr<TIndexes> indexes;
     mutable std::unique_ptr<TPathTrees> pathTrees;
+    std::unique_ptr<TDetours> detours; // of the joins that were avoided last
     std::unique_ptr<TLinkedSets> linkedSets; // never null
 };
 

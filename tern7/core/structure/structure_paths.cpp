@@ -8,15 +8,23 @@ namespace tern7 {
 
 // --- graph
 
-TDSLinkGraph::TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount) {
+TDSLinkGraph::TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount,
+                           const TPairs& avoided) {
+    const auto isAvoided = [&avoided](int a, int b) {
+        return std::binary_search(avoided.begin(), avoided.end(),
+                                  std::make_pair(std::min(a, b), std::max(a, b)));
+    };
     targets.reserve(2 * static_cast<size_t>(linkCount));
     offsets.reserve(static_cast<size_t>(tables.GetCount()) + 1);
     tableOf.reserve(static_cast<size_t>(tables.GetCount()));
     offsets.push_back(0);
     for (const auto& table : tables) {
         tableOf.push_back(table.get());
-        for (const TDSLink* link : table->Links())
-            targets.push_back(static_cast<uint32_t>(link->OtherTable(table.get())->Index()));
+        for (const TDSLink* link : table->Links()) {
+            const int other = link->OtherTable(table.get())->Index();
+            if (avoided.empty() || !isAvoided(table->Index(), other))
+                targets.push_back(static_cast<uint32_t>(other));
+        }
         offsets.push_back(static_cast<uint32_t>(targets.size()));
     }
 }
@@ -147,6 +155,7 @@ TDSPathTree& TKCustomDBStructure::TPathTrees::TreeOf(uint32_t start) {
 
 void TKCustomDBStructure::ForgetPaths() {
     pathTrees.reset();
+    detours.reset();
     path.tables.clear();
 }
 
@@ -161,14 +170,18 @@ const TDSPath& TKCustomDBStructure::GetPath(std::string_view startAlias,
     return GetPath(*ends[0], *ends[1]);
 }
 
+void TKCustomDBStructure::RequireOwn(const TDSTable& table) const {
+    if (&table.Structure() != this || table.Index() < 0)
+        throw EKDBStructError(FormatMessage(messages::NoSuchTable, {table.TableAlias()}));
+}
+
 // The first shortest path in the order of links: generation by generation, each table's links in
 // their order. The first path that reaches a table at all is the first shortest one to it, and
 // every first shortest path begins with the first shortest path to its last table but one; so one
 // tree of a start table holds the paths to all others.
 const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTable& end) {
-    for (const TDSTable* table : {&start, &end})
-        if (&table->Structure() != this || table->Index() < 0)
-            throw EKDBStructError(FormatMessage(messages::NoSuchTable, {table->TableAlias()}));
+    RequireOwn(start);
+    RequireOwn(end);
     if (!linkedSets->MayBeLinked(start, end)) throw EKDBStructError(std::string(messages::NoPath));
     if (!pathTrees) pathTrees = std::make_unique<TPathTrees>(tables, links.GetCount());
     const TDSLinkGraph& graph = pathTrees->graph;
@@ -190,6 +203,27 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
         throw EKDBStructError(std::string(messages::NoPath));
     }
     tree.WritePath(to, path.tables);
+    return path;
+}
+
+const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTable& end,
+                                            const TAvoidedJoins& avoided) {
+    TDSLinkGraph::TPairs pairs;
+    for (const TAvoidedJoin& join : avoided) {
+        const TDSTable* const first = TableByName(true, join.alias1);
+        const TDSTable* const second = TableByName(true, join.alias2);
+        if (first && second) pairs.push_back(std::minmax({first->Index(), second->Index()}));
+    }
+    if (pairs.empty() || &start == &end) return GetPath(start, end);
+    RequireOwn(start);
+    RequireOwn(end);
+    std::sort(pairs.begin(), pairs.end());
+    if (!detours || detours->avoided != pairs)
+        detours.reset(new TDetours{pairs, {tables, links.GetCount(), pairs}});
+    TDSPathTree& tree = detours->paths.TreeOf(static_cast<uint32_t>(start.Index()));
+    if (!tree.GrowTo(static_cast<uint32_t>(end.Index())))
+        throw EKDBStructError(std::string(messages::NoPath));
+    tree.WritePath(static_cast<uint32_t>(end.Index()), path.tables);
     return path;
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <list>
+#include <utility>
 #include <vector>
 
 #include <tern7/core/structure/structure.h>
@@ -13,7 +14,11 @@ namespace tern7 {
 /// targets[offsets[i]] .. targets[offsets[i + 1]], in the order of its links.
 class TDSLinkGraph {
 public:
-    TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount);
+    /// Pairs of table indexes, sorted, the smaller one first.
+    using TPairs = std::vector<std::pair<int, int>>;
+
+    /// Links between the tables of an avoided pair are left out.
+    TDSLinkGraph(const TKObjectList<TDSTable>& tables, int linkCount, const TPairs& avoided = {});
 
     uint32_t Count() const { return static_cast<uint32_t>(tableOf.size()); }
     TDSTable* Table(uint32_t index) const { return tableOf[index]; }
@@ -93,11 +98,19 @@ private:
 struct TKCustomDBStructure::TPathTrees {
     static constexpr size_t KeptTrees = 8;
 
-    TPathTrees(const TKObjectList<TDSTable>& tables, int linkCount) : graph(tables, linkCount) {}
+    TPathTrees(const TKObjectList<TDSTable>& tables, int linkCount,
+               const TDSLinkGraph::TPairs& avoided = {})
+        : graph(tables, linkCount, avoided) {}
     TDSPathTree& TreeOf(uint32_t start);
 
     TDSLinkGraph graph;
     std::list<TDSPathTree> trees; // the last used first
+};
+
+/// The same for paths that avoid joins.
+struct TKCustomDBStructure::TDetours {
+    TDSLinkGraph::TPairs avoided;
+    TPathTrees paths;
 };
 
 } // namespace tern7

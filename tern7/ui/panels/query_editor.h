@@ -145,6 +145,7 @@ public:
     // --- the whole query
     void SetSQLOption(TSQLOption option, bool value);
     void SetMainTable(std::string name);
+    void SetAvoidedJoins(TAvoidedJoins joins);
     /// Drops rows, columns and parameters.
     void ClearAll();
 

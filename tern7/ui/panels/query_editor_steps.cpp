@@ -259,6 +259,10 @@ void TKQueryEditor::SetMainTable(std::string name) {
     Run(QT_TR_NOOP("Choose main table"), [&] { query->SetMainTableName(std::move(name)); });
 }
 
+void TKQueryEditor::SetAvoidedJoins(TAvoidedJoins joins) {
+    Run(QT_TR_NOOP("Join another way"), [&] { query->SetAvoidedJoins(std::move(joins)); });
+}
+
 void TKQueryEditor::ClearAll() {
     Run(QT_TR_NOOP("Clear"), [&] { query->ClearAll(); });
 }

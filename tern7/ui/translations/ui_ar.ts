@@ -243,6 +243,10 @@
         <source>Clear columns</source>
         <translation>مسح الأعمدة</translation>
     </message>
+    <message>
+        <source>Join another way</source>
+        <translation>ربط بطريقة أخرى</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

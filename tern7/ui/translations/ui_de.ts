@@ -243,6 +243,10 @@
         <source>Clear columns</source>
         <translation>Spalten leeren</translation>
     </message>
+    <message>
+        <source>Join another way</source>
+        <translation>Anders verbinden</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

@@ -243,6 +243,10 @@
         <source>Clear columns</source>
         <translation>Vaciar columnas</translation>
     </message>
+    <message>
+        <source>Join another way</source>
+        <translation>Unir de otra forma</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

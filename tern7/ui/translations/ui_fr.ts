@@ -243,6 +243,10 @@
         <source>Clear columns</source>
         <translation>Vider les colonnes</translation>
     </message>
+    <message>
+        <source>Join another way</source>
+        <translation>Joindre autrement</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

@@ -243,6 +243,10 @@
         <source>Clear columns</source>
         <translation>列を消去</translation>
     </message>
+    <message>
+        <source>Join another way</source>
+        <translation>別の経路で結合</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

@@ -243,6 +243,10 @@
         <source>Clear columns</source>
         <translation>Очистить столбцы</translation>
     </message>
+    <message>
+        <source>Join another way</source>
+        <translation>Соединить иначе</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

@@ -168,6 +168,9 @@ void TMonkey::ChangeColumns() {
     case 8:
         editor->SetSQLOption(static_cast<TSQLOption>(Below(SQLOptionCount)), Below(2) == 0);
         break;
+    case 9:
+        editor->SetAvoidedJoins(Below(2) ? TAvoidedJoins{{"C", "O"}} : TAvoidedJoins{});
+        break;
     default:
         editor->SetMainTable(Below(2) ? "C" : "O");
     }

@@ -22,6 +22,9 @@ constexpr std::string_view addedTable = "the query needs a further table: ";
 constexpr std::string_view otherJoin = "the structure joins it in another way";
 constexpr std::string_view unwrittenJoin =
     "only the syntax sql1 leaves out the structure's outer join with it";
+/// So often the query is built to find the statement's joins; each time avoids further ones.
+constexpr int mostDetours = 8;
+
 constexpr std::string_view otherOrder = "the query joins the tables in another order";
 
 } // namespace
@@ -80,6 +83,31 @@ bool TSQLImporter::AskForAllTables() {
     }
     ListAllFields();
     return true;
+}
+
+/// Where the query goes another way than the statement, it avoids the joins that the statement does
+/// not have. True when that gave a query of other joins; as it was when it still goes other ways.
+bool TSQLImporter::AskForWays() {
+    const TAvoidedJoins before = query.AvoidedJoins();
+    std::unordered_set<const TDSLink*> said;
+    for (const TImportedJoin& join : joins->Joins())
+        if (join.isTaken) said.insert(join.link);
+    TAvoidedJoins avoided = before;
+    for (int rounds = 0;; ++rounds) {
+        const size_t known = avoided.size();
+        const TRTableList& built = query.QResult().ResultTables();
+        for (int i = 1; i < built.GetCount(); ++i) {
+            const TDSLink* const link = built[i].Link;
+            if (!said.contains(link))
+                avoided.push_back({link->Table1()->TableAlias(), link->Table2()->TableAlias()});
+        }
+        if (avoided.size() == known) return rounds > 0;
+        query.SetAvoidedJoins(avoided);
+        if (rounds < mostDetours && Build().empty()) continue;
+        query.SetAvoidedJoins(before);
+        Build();
+        return false;
+    }
 }
 
 /// An inner join that the query does not make comes as a condition: of a table that nothing else

@@ -106,6 +106,7 @@ TSQLReport TSQLImporter::Fill() {
     query.SetSQLSyntax(syntaxes.Choose(query.SQLSyntax()));
     std::string failure = statement.tables.empty() ? std::string() : Build();
     if (failure.empty() && AskForAllTables()) failure = Build();
+    if (failure.empty()) AskForWays();
     if (failure.empty() && AskForJoins()) failure = Build();
     for (const TImportLoss& loss : statement.losses)
         Report(TReport::rkDropped, loss.what, loss.all, notSaid);
@@ -164,6 +165,7 @@ void TSQLImporter::SetOptions() {
 
 void TSQLImporter::AddTables() {
     query.SetMainTableName({});
+    query.SetAvoidedJoins({});
     for (size_t i = 0; i < statement.tables.size(); ++i) {
         const TImportTable& table = statement.tables[i];
         const TDSTable* const known = joins->Names().TableOf(i);

@@ -75,6 +75,7 @@ private:
     // what the query makes of it
     std::string Build();
     bool AskForAllTables();
+    bool AskForWays();
     bool AskForJoins();
     std::unordered_set<const TDSLink*> BuiltLinks() const;
     bool IsBuiltInOrder() const;
