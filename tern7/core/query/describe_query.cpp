@@ -80,7 +80,6 @@ void TQueryDescription::AddNested(const TFilterCond& condition, size_t level) {
 void TQueryDescription::AddRow(const TFilterRow& row, size_t level) {
     std::string text = texts.Sentence(row, TQPStyle::psGroups);
     const TFilterCond* condition = row.AsCond();
-    if (condition && !condition->SQLText().empty()) text += ": " + OneLine(condition->SQLText());
     if (!row.GetEnabled()) text += " [disabled]";
     const TUnfinished reason = condition ? condition->Unfinished() : TUnfinished::No;
     if (reason != TUnfinished::No)

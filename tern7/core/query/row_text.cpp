@@ -41,6 +41,23 @@ bool ShowsMarks(const TFilterBracket& bracket) {
     return bracket.Parent() || IsNegated(bracket.LinkType());
 }
 
+/// The field that a condition refers to and the structure does not have.
+std::string KeptField(const TFilterCond& condition) {
+    if (!condition.UnknownFieldName().empty()) return "(" + condition.UnknownFieldName() + ")";
+    return condition.FieldID() >= 0 ? "(ID " + std::to_string(condition.FieldID()) + ")" : "";
+}
+
+/// The operator that the structure does not have, with the values that nothing else shows.
+std::string KeptOperator(const TFilterCond& condition) {
+    std::string text = condition.OperatorName();
+    for (int n = 1; n <= 2; ++n) {
+        if (condition.Value(n).empty()) continue;
+        if (!text.empty()) text += n == 1 ? ": " : ", ";
+        text += condition.Value(n);
+    }
+    return text.empty() ? text : "(" + text + ")";
+}
+
 } // namespace
 
 std::string OneLine(std::string_view text, size_t limit) {
@@ -161,16 +178,22 @@ TRowLabel TKRowTexts::ValueLabel(const TFilterCond& condition, int n) const {
 void TKRowTexts::AddCondition(std::vector<TRowLabel>& labels, const TFilterCond& condition) const {
     const TDSField* field = condition.Field();
     const TDSOperator* op = condition.Operator();
+    const std::string& sql = condition.SQLText();
+    const auto addKept = [&](const std::string& text) {
+        if (!text.empty()) labels.push_back(Label(TRowLabelKind::rlKept, text));
+    };
     labels.push_back(Label(TRowLabelKind::rlField, field ? FieldText(*field) : std::string()));
-    if (!condition.SQLText().empty())
-        labels.back().hint = condition.SQLText();
+    if (!sql.empty())
+        labels.back().hint = sql;
     else if (field && field->IsPlaceholder())
-        labels.back().hint = condition.UnknownFieldName();
+        addKept(KeptField(condition));
     if (!field && !op) return;
     labels.push_back(Label(TRowLabelKind::rlOperator, op ? op->DisplayName() : std::string()));
-    if (op && op->IsPlaceholder())
-        labels.back().hint =
-            condition.SQLText().empty() ? condition.OperatorName() : condition.SQLText();
+    if (!sql.empty())
+        labels.back().hint = sql;
+    else if (op && op->IsPlaceholder())
+        addKept(KeptOperator(condition));
+    addKept(sql);
     for (int n = 1; n <= condition.ValueCount(); ++n) {
         if (n == 2) labels.push_back(Label(TRowLabelKind::rlValueJoiner, condition.ValueFormat()));
         labels.push_back(ValueLabel(condition, n));
@@ -232,6 +255,21 @@ std::vector<TRowLabel> TKRowTexts::Labels(const TFilterRow& row, TQPStyle style)
     return labels;
 }
 
+std::string TKRowTexts::Isolate(const std::string& text) const {
+    return IsolateTexts ? "\u2068" + text + "\u2069" : text;
+}
+
+std::string TKRowTexts::SentencePiece(const TRowLabel& label) const {
+    switch (label.kind) {
+    case TRowLabelKind::rlField:
+    case TRowLabelKind::rlValue:
+    case TRowLabelKind::rlKept:
+        return Isolate(label.text);
+    default:
+        return label.text;
+    }
+}
+
 std::string TKRowTexts::Sentence(const TFilterRow& row, TQPStyle style) const {
     if (row.IsBracket() && style == TQPStyle::psGroups) {
         std::string line = row.Parent() ? bracketLine : headerLine;
@@ -246,16 +284,18 @@ std::string TKRowTexts::Sentence(const TFilterRow& row, TQPStyle style) const {
     std::string text;
     bool opened = true; // nothing before, or "("
     for (const TRowLabel& label : Labels(row, style)) {
+        // the two labels before it only say that the text was not recognised
+        if (label.kind == TRowLabelKind::rlKept && !row.AsCond()->SQLText().empty()) text += ':';
         if (!opened && label.kind != TRowLabelKind::rlClose) text += ' ';
         if (!label.text.empty())
-            text += label.text;
+            text += SentencePiece(label);
         else if (label.kind == TRowLabelKind::rlValue &&
                  row.AsCond()->Unfinished() == TUnfinished::No)
             text += "\"\""; // an empty text that counts as a value
         else
             text += EmptyLabelText;
         if (label.kind == TRowLabelKind::rlParameter && !label.hint.empty())
-            text += " (" + OneLine(GetBeforeSep(label.hint, "\n")) + ")";
+            text += " (" + Isolate(OneLine(GetBeforeSep(label.hint, "\n"))) + ")";
         opened = label.kind == TRowLabelKind::rlOpen;
     }
     return text;

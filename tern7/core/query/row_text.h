@@ -25,6 +25,7 @@ enum class TRowLabelKind : uint8_t {
     rlValueJoiner, ///< the operator's word between two values
     rlParameter,   ///< a value that is asked for
     rlSubQuery,
+    rlKept, ///< what a condition keeps that was not recognised: SQL text, ID, operator, values
     rlClose ///< ")", in the and/or style
 };
 
@@ -59,6 +60,9 @@ public:
 
     /// A field's text begins with the name of its group.
     bool ShowGroupName = false;
+    /// In sentences texts of the database and of users stand between U+2068 and U+2069: beside
+    /// words that are read from the right they keep their own order.
+    bool IsolateTexts = false;
     /// What is shown for 1 and 0 of Boolean operands without a list; empty: the value.
     std::string TrueText;
     std::string FalseText;
@@ -89,6 +93,8 @@ private:
     void AddClosing(std::vector<TRowLabel>& labels, const TFilterCond& condition) const;
     void AddCondition(std::vector<TRowLabel>& labels, const TFilterCond& condition) const;
     TRowLabel ValueLabel(const TFilterCond& condition, int n) const;
+    std::string Isolate(const std::string& text) const;
+    std::string SentencePiece(const TRowLabel& label) const;
     std::string ListText(const TFilterCond& condition, int n) const;
     void Refresh(const TKCustomDBStructure& structure) const;
 

@@ -1,5 +1,7 @@
 #include <tern7/ui/controls/drop_down_label.h>
 
+#include <algorithm>
+
 #include <QPainter>
 #include <QStyle>
 
@@ -16,6 +18,14 @@ constexpr int sideRoom = 2;
 
 QString OneLine(QString text) {
     return text.replace(u'\n', u' ');
+}
+
+/// The side that a text is read from, wherever its label stands: "1 Jan 2020". One without words
+/// and numbers, as "(", is part of what stands around it.
+Qt::LayoutDirection OrderOf(const QString& text, Qt::LayoutDirection around) {
+    if (std::none_of(text.begin(), text.end(), [](QChar c) { return c.isLetterOrNumber(); }))
+        return around;
+    return text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
 }
 
 } // namespace
@@ -60,8 +70,7 @@ void TDropDownLabel::paintEvent(QPaintEvent*) {
     if (TextSize().width() > area.width())
         shown = painter.fontMetrics().elidedText(shown, Qt::ElideRight, area.width(),
                                                  Qt::TextShowMnemonic);
-    // the order of its words is the text's own, wherever the label is read from: "1 Jan 2020"
-    painter.setLayoutDirection(shown.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    painter.setLayoutDirection(OrderOf(shown, layoutDirection()));
     painter.drawText(area,
                      static_cast<int>(side | Qt::AlignAbsolute) | Qt::TextShowMnemonic |
                          Qt::TextSingleLine,

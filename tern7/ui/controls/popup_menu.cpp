@@ -54,7 +54,8 @@ TKPopupMenu::TKPopupMenu(QWidget* parent)
 }
 
 TKPopupMenu::TKPopupMenu(TMenuItem& submenu, TKPopupMenu& from)
-    : QWidget(&from, Qt::Popup), root(&submenu), opener(&from), images(from.images) {
+    : QWidget(&from, Qt::Popup), root(&submenu), opener(&from), fitToScreen(from.fitToScreen),
+      images(from.images) {
     Init();
     setFont(from.font());
     setLayoutDirection(from.layoutDirection());
@@ -171,8 +172,13 @@ void TKPopupMenu::Lay() {
         rows.push_back({metrics.horizontalAdvance(item.PlainCaption()) + besideText,
                         item.IsSeparator(), breaks, item.Break == TMenuBreak::mbBarBreak});
     }
-    layout = LayoutMenu(rows, Metrics(), layoutDirection() == Qt::RightToLeft);
     const bool fromRight = layoutDirection() == Qt::RightToLeft;
+    layout = LayoutMenu(rows, Metrics(), fromRight);
+    if (fitToScreen && layout.size.width() > MostColumnsWidth()) {
+        for (TMenuRow& row : rows)
+            row.newColumn = false;
+        layout = LayoutMenu(rows, Metrics(), fromRight);
+    }
     scroll = QPoint(fromRight ? layout.size.width() : 0, 0);
     ScrollBy({0, 0});
 }
@@ -205,6 +211,21 @@ QRect TKPopupMenu::ViewRect() const {
     return rect().adjusted(frame, frame + top, -frame, -frame);
 }
 
+/// Columns help while all of them are seen at once and leave something of the window below free;
+/// beyond that one list is scrolled, and searched.
+int TKPopupMenu::MostColumnsWidth() const {
+    return ScreenRoom(*this, anchor.topLeft()).width() * 2 / 3;
+}
+
+/// A list that has to be scrolled leaves in sight what it was opened from.
+int TKPopupMenu::MostHeight() const {
+    const QRect room = ScreenRoom(*this, anchor.topLeft());
+    const bool list = layout.columnStarts.size() <= 1 && layout.size.height() > room.height();
+    if (!list || opener) return room.height();
+    const int below = room.bottom() - anchor.bottom(), above = anchor.top() - room.top();
+    return std::max({below, above, room.height() / 2});
+}
+
 QSize TKPopupMenu::WindowSize() const {
     const int frame = 2 * FrameWidth();
     QSize size = layout.size.expandedTo({0, RowHeight()}) + QSize(frame, frame);
@@ -212,7 +233,7 @@ QSize TKPopupMenu::WindowSize() const {
         size.rheight() += search->sizeHint().height();
         size = size.expandedTo({search->sizeHint().width(), 0});
     }
-    return size.boundedTo(ScreenRoom(*this, anchor.topLeft()).size());
+    return size.boundedTo({ScreenRoom(*this, anchor.topLeft()).width(), MostHeight()});
 }
 
 void TKPopupMenu::Place() {

@@ -107,6 +107,8 @@ private:
     int RowHeight() const;
     int FrameWidth() const;
     QRect ViewRect() const;
+    int MostColumnsWidth() const;
+    int MostHeight() const;
     QSize WindowSize() const;
 
     // drawing

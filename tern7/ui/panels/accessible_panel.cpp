@@ -123,7 +123,8 @@ private:
                    << tr("%1 of %2").arg(at.position + 1).arg(around->GetRowCount());
         if (!at.row->EffectivelyEnabled()) pieces << tr("switched off");
         const QString problem = RowProblem(*at.row);
-        if (!problem.isEmpty()) pieces << tr("left out: %1").arg(problem);
+        if (!problem.isEmpty())
+            pieces << (IsLeftOut(*at.row) ? tr("left out: %1").arg(problem) : problem);
         return pieces.join(QStringLiteral(", "));
     }
 

@@ -11,6 +11,7 @@
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/row_drag.h>
 #include <tern7/ui/panels/row_problem.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -135,11 +136,9 @@ void TFilterRowView::RefreshMark(bool on) {
         mark->setForegroundRole(QPalette::PlaceholderText);
         mark->show();
     }
-    QFont font = panel.font();
-    font.setItalic(true);
-    mark->setFont(font);
     mark->setText((panel.ReadsFromRight() ? u'\u2192' : u'\u2190') + QStringLiteral(" ") + problem);
-    mark->setToolTip(tr("The condition is left out: %1").arg(problem));
+    mark->setToolTip(
+        ToolTipText(IsLeftOut(*row) ? tr("The condition is left out: %1").arg(problem) : problem));
     mark->resize(mark->sizeHint());
 }
 

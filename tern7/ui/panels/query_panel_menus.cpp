@@ -40,6 +40,7 @@ void TKQueryPanel::ReadTitles() {
     knownTitles = query->Titles;
     rowTexts = std::make_unique<TKRowTexts>(query->Titles);
     rowTexts->ShowGroupName = appearance->Has(TQPAppearance::aoShowGroupName);
+    rowTexts->IsolateTexts = ReadsFromRight();
     rowTexts->TrueText = FromQt(tr("yes"));
     rowTexts->FalseText = FromQt(tr("no"));
     viewsFresh = false;

@@ -11,8 +11,10 @@
 #include <tern7/ui/panels/filter_row_view.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/sql_list_reader.h>
+#include <tern7/ui/support/bidi_text.h>
 #include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/text.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -92,6 +94,7 @@ TRowControl TFilterRowView::ControlFor(const TRowLabel& label) const {
     case TRowLabelKind::rlText:
     case TRowLabelKind::rlOpen:
     case TRowLabelKind::rlClose:
+    case TRowLabelKind::rlKept:
     case TRowLabelKind::rlValueJoiner:
         return TRowControl::rcText;
     case TRowLabelKind::rlBracketWord:
@@ -187,6 +190,7 @@ QColor TFilterRowView::ColorOf(TRowLabelKind kind, bool on) const {
     case TRowLabelKind::rlText:
     case TRowLabelKind::rlOpen:
     case TRowLabelKind::rlClose:
+    case TRowLabelKind::rlKept:
     case TRowLabelKind::rlValueJoiner:
         return {};
     case TRowLabelKind::rlBracketWord:
@@ -257,7 +261,8 @@ void TFilterRowView::ShowPending(TDropDownLabel& widget) const {
     widget.setCursor(loading ? Qt::BusyCursor : Qt::PointingHandCursor);
     if (loading) widget.setToolTip(tr("The list is being read"));
     const QString error = reader.ErrorOf(field);
-    if (!error.isEmpty()) widget.setToolTip(tr("The list could not be read: %1").arg(error));
+    if (!error.isEmpty())
+        widget.setToolTip(ToolTipText(tr("The list could not be read: %1").arg(error)));
 }
 
 void TFilterRowView::ShowLabel(const TElement& element, bool on) {
@@ -266,7 +271,7 @@ void TFilterRowView::ShowLabel(const TElement& element, bool on) {
     // while the user is at it, the editor's value stays as it is
     widget.ShowValue(widget.Dropped() ? widget.Value() : ValueOf(element.label, *row), caption);
     widget.SetFontColor(ColorOf(element.label.kind, on));
-    widget.setToolTip(ToQt(element.label.hint));
+    widget.setToolTip(ToolTipText(Isolated(ToQt(element.label.hint))));
     if (element.control == TRowControl::rcPending) ShowPending(widget);
     widget.setAccessibleName(AccessibleNameOf(element));
     widget.setAccessibleDescription(ToQt(element.label.hint));

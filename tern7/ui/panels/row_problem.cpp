@@ -5,6 +5,7 @@
 #include <tern7/core/query/condition_text.h>
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/value_editor_choice.h>
+#include <tern7/ui/support/bidi_text.h>
 #include <tern7/ui/support/local_dates.h>
 #include <tern7/ui/support/text.h>
 
@@ -37,6 +38,18 @@ QString UnfinishedReason(TUnfinished reason) {
     return {};
 }
 
+/// Says what is expected; `yyyy-mm-dd` is read in every language.
+QString UnreadableDate(TValueEditKind kind, const QString& value) {
+    const QString problem =
+        TRowProblem::tr("\u201C%1\u201D can not be read as a date or time").arg(Isolated(value));
+    const TDateExample example =
+        ExampleOf(kind != TValueEditKind::vkTime, kind != TValueEditKind::vkDate);
+    const QString local = Isolated(example.local), everywhere = Isolated(example.everywhere);
+    return local == everywhere ? TRowProblem::tr("%1; write for example %2").arg(problem, local)
+                               : TRowProblem::tr("%1; write for example %2, or always %3")
+                                     .arg(problem, local, everywhere);
+}
+
 bool IsReadable(TValueEditKind kind, const QString& value) {
     switch (kind) {
     case TValueEditKind::vkDate:
@@ -54,15 +67,15 @@ bool IsReadable(TValueEditKind kind, const QString& value) {
 QString ValueProblem(const TFilterCond& condition, int n) {
     if (condition.ValueIsParam(n)) return {};
     const QString value = ToQt(condition.Value(n));
-    if (!value.isEmpty() && !IsReadable(ChooseValueEditor(condition), value))
-        return TRowProblem::tr("\u201C%1\u201D can not be read as a date or time").arg(value);
+    const TValueEditKind kind = ChooseValueEditor(condition);
+    if (!value.isEmpty() && !IsReadable(kind, value)) return UnreadableDate(kind, value);
     if (!condition.Query()->CheckValues) return {};
     try {
         CheckBareValue(condition, n);
     } catch (const EKWrongValueError&) {
         return condition.IsListOperator()
-                   ? TRowProblem::tr("\u201C%1\u201D is no list of numbers").arg(value)
-                   : TRowProblem::tr("\u201C%1\u201D is no number").arg(value);
+                   ? TRowProblem::tr("\u201C%1\u201D is no list of numbers").arg(Isolated(value))
+                   : TRowProblem::tr("\u201C%1\u201D is no number").arg(Isolated(value));
     }
     return {};
 }
@@ -89,6 +102,10 @@ QString SubQueryProblem(const TFilterCond& condition) {
 }
 
 } // namespace
+
+bool IsLeftOut(const TFilterRow& row) {
+    return row.IsBracket() || row.AsCond()->Unfinished() != TUnfinished::No;
+}
 
 QString RowProblem(const TFilterRow& row) {
     const TFilterCond* condition = row.AsCond();

@@ -9,5 +9,8 @@ namespace tern7 {
 /// Why an enabled condition takes no part in the statement, or what is wrong with a value, in words
 /// of the screen's language; empty when all is well.
 QString RowProblem(const TFilterRow& row);
+/// The problem is that the row is unfinished; otherwise the row stands in the statement as it is,
+/// or keeps it from being made.
+bool IsLeftOut(const TFilterRow& row);
 
 } // namespace tern7

@@ -29,6 +29,18 @@ QString LocalDateTimeFormat(const QLocale& locale) {
     return LocalDateFormat(locale) + u' ' + LocalTimeFormat(locale);
 }
 
+TDateExample ExampleOf(bool date, bool time, const QLocale& locale) {
+    const QDateTime moment(QDate(2024, 12, 31), QTime(14, 5)); // no day is a month
+    const auto both = [&](const QString& day, const QString& hour) {
+        return date && time ? day + u' ' + hour : date ? day : hour;
+    };
+    const QString local =
+        locale.toString(moment, both(LocalDateFormat(locale), LocalTimeFormat(locale)));
+    const QString everywhere =
+        moment.toString(both(QStringLiteral("yyyy-MM-dd"), QStringLiteral("HH:mm:ss")));
+    return {local, date ? everywhere : local};
+}
+
 QDate ReadLocalDate(const QString& text, const QLocale& locale) {
     const QString trimmed = text.trimmed();
     const QDate local = locale.toDate(trimmed, LocalDateFormat(locale));

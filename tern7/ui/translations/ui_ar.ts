@@ -374,6 +374,14 @@
         <source>sub-query: %1</source>
         <translation>الاستعلام الفرعي: %1</translation>
     </message>
+    <message>
+        <source>%1; write for example %2</source>
+        <translation>%1؛ اكتب مثلاً %2</translation>
+    </message>
+    <message>
+        <source>%1; write for example %2, or always %3</source>
+        <translation>%1؛ اكتب مثلاً %2 أو دائماً %3</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

@@ -374,6 +374,14 @@
         <source>sub-query: %1</source>
         <translation>Unterabfrage: %1</translation>
     </message>
+    <message>
+        <source>%1; write for example %2</source>
+        <translation>%1; schreiben Sie zum Beispiel %2</translation>
+    </message>
+    <message>
+        <source>%1; write for example %2, or always %3</source>
+        <translation>%1; schreiben Sie zum Beispiel %2 oder immer %3</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

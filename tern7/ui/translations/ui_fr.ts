@@ -374,6 +374,14 @@
         <source>sub-query: %1</source>
         <translation>sous-requête : %1</translation>
     </message>
+    <message>
+        <source>%1; write for example %2</source>
+        <translation>%1 ; écrivez par exemple %2</translation>
+    </message>
+    <message>
+        <source>%1; write for example %2, or always %3</source>
+        <translation>%1 ; écrivez par exemple %2 ou, toujours, %3</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

@@ -374,6 +374,14 @@
         <source>sub-query: %1</source>
         <translation>サブクエリ: %1</translation>
     </message>
+    <message>
+        <source>%1; write for example %2</source>
+        <translation>%1。例: %2</translation>
+    </message>
+    <message>
+        <source>%1; write for example %2, or always %3</source>
+        <translation>%1。例: %2、または常に %3</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

@@ -146,6 +146,35 @@ TEST_F(RowText, OneLineCutsBetweenCharacters) {
     EXPECT_EQ(labels[2].hint, big);
 }
 
+TEST_F(RowText, WhatWasNotRecognisedIsShown) {
+    const struct {
+        int fieldID; // -1: City
+        const char* fieldName;
+        const char* op;
+        const char* values[2];
+        const char* sql;
+        const char* sentence;
+    } cases[] = {
+        {77, "", "Equal", {"x", ""}, "", "Unrecognized field (ID 77) is equal to x"},
+        {77, "C.gone", "Equal", {"", ""}, "", "Unrecognized field (C.gone) is equal to _____"},
+        {-1, "", "?Sounds", {"a", "b"}, "", "City Unrecognized operator (Sounds: a, b)"},
+        {77, "", "?", {"a", ""}, "", "Unrecognized field (ID 77) Unrecognized operator (a)"},
+        {77, "", "?", {"", ""}, "a.x\n= 1", "Unrecognized field Unrecognized operator: a.x = 1"},
+    };
+    for (const auto& c : cases) {
+        TFilterCond* row = Add("City", "Equal", c.values[0], c.values[1]);
+        if (c.fieldID >= 0) row->SetUnknownField(c.fieldID, c.fieldName);
+        if (c.op[0] == '?') row->SetUnknownOperator(c.op + 1);
+        row->SetSQLText(c.sql);
+        EXPECT_EQ(texts.Sentence(*row, TQPStyle::psGroups), c.sentence);
+    }
+    TFilterCond* row = query.Root().GetRow(4)->AsCond();
+    EXPECT_EQ(texts.Labels(*row, TQPStyle::psGroups).back().hint, "a.x\n= 1");
+    row->SetField(Field("City"));
+    row->SetOperator(structure.OperatorByName("IsNull"));
+    EXPECT_EQ(texts.Sentence(*row, TQPStyle::psGroups), "City is null");
+}
+
 TEST_F(RowText, DescribesTheWholeQuery) {
     query.SetQueryString(""); // numbers of parameters begin anew
     TRFieldList& fields = query.QResult().ResultFields();

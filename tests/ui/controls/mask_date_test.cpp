@@ -77,6 +77,12 @@ TEST(DateTimeEdit, LocalForms) {
         EXPECT_EQ(ReadLocalDateTime("2024-01-02T15:04:05", locale), QDateTime(date, time));
         EXPECT_EQ(ReadLocalDateTime(c.date, locale), QDateTime(date, QTime(0, 0)));
         EXPECT_FALSE(ReadLocalDate("no date", locale).isValid());
+        // the examples that users are given can be read, and mean one moment
+        const QDateTime example = ReadLocalDateTime(ExampleOf(true, true, locale).local, locale);
+        EXPECT_EQ(ReadLocalDateTime(ExampleOf(true, true, locale).everywhere, locale), example);
+        EXPECT_EQ(ReadLocalDate(ExampleOf(true, false, locale).local, locale), example.date());
+        EXPECT_EQ(ReadLocalDate("2024-12-31", locale), example.date());
+        EXPECT_EQ(ReadLocalTime(ExampleOf(false, true, locale).local, locale), example.time());
         EXPECT_FALSE(ReadLocalDateTime("2024-01-02 soon", locale).isValid());
     }
 }

@@ -143,6 +143,31 @@ TEST(MenuItem, Captions) {
     EXPECT_FALSE(TTextSearch("city order").Finds("Customer City"));
 }
 
+TEST(PopupMenu, OneListBeyondWhatTheScreenHolds) {
+    TControlForm form;
+    ASSERT_TRUE(form.Open());
+    TKPopupMenu menu(&form);
+    for (int i = 0; i < 2000; ++i)
+        menu.Items().Add(QString("Table number %1").arg(i));
+    const QRect anchor(100, 40, 50, 20);
+    menu.PopupAt(anchor);
+    int breaks = 0;
+    for (int i = 0; i < 2000; ++i)
+        breaks += menu.Items().Items(i).Break == TMenuBreak::mbBarBreak;
+    EXPECT_GT(breaks, 10) << "the split itself stays";
+    EXPECT_LT(menu.width(), 400);
+    EXPECT_EQ(menu.RowRect(1999).left(), menu.RowRect(0).left());
+    EXPECT_FALSE(menu.geometry().intersects(anchor)) << "what it was opened from is in sight";
+    Press(Qt::Key_End);
+    EXPECT_TRUE(menu.rect().contains(menu.RowRect(1999)));
+    EXPECT_TRUE(menu.SearchField()->visibleRegion().contains(menu.SearchField()->rect()));
+    menu.Items().Clear();
+    for (int i = 0; i < 100; ++i)
+        menu.Items().Add(QString("T%1").arg(i));
+    menu.PopupAt(anchor);
+    EXPECT_NE(menu.RowRect(99).left(), menu.RowRect(0).left()) << "columns that are seen at once";
+}
+
 TEST(PopupMenu, SplitsEveryLevel) {
     TControlForm form;
     ASSERT_TRUE(form.Open());

@@ -83,7 +83,7 @@ TEST_F(TPanelSafetyTest, StructureIsReadAgainBelowAFilledPanel) {
     EXPECT_FALSE(AnythingOpen());
     structure.ClearStructure();
     Settle();
-    EXPECT_EQ(Shown(1), "Unrecognized field is equal to Berlin");
+    EXPECT_EQ(Shown(1), "Unrecognized field (ID 2) is equal to Berlin");
     structure.SetStructString(text);
     Settle();
     EXPECT_EQ(Condition(), "C.city = 'Berlin'");

@@ -11,6 +11,7 @@
 #include <tern7/ui/controls/drop_down_mask_edit.h>
 #include <tern7/ui/dialogs/sub_query_dialog.h>
 #include <tern7/ui/panels/sql_list_reader.h>
+#include <tern7/ui/support/local_dates.h>
 
 namespace tern7 {
 
@@ -97,7 +98,15 @@ TEST_F(TPanelValueTest, TextMaskDateAndTime) {
     EXPECT_EQ(Condition().find("07:08:00") != std::string::npos, true) << Condition();
     EnterValue(4, "soon");
     EXPECT_NE(Shown(4).find("soon"), std::string::npos);
-    EXPECT_TRUE(View(4).Mark()) << "marked and explained";
+    const TDateExample example = ExampleOf(true, true);
+    for (const QString& written : {example.local, example.everywhere}) {
+        ASSERT_TRUE(View(4).Mark()) << "marked and explained";
+        EXPECT_TRUE(View(4).Mark()->text().contains(written)) << written.toStdString();
+        EXPECT_TRUE(View(4).Mark()->toolTip().startsWith("\u201Csoon")) << "it is not left out";
+        EnterValue(4, written);
+        EXPECT_FALSE(View(4).Mark()) << written.toStdString();
+        EnterValue(4, "soon");
+    }
 }
 
 TEST_F(TPanelValueTest, FixedListsAndCheckLists) {
