@@ -3,6 +3,9 @@
 #include <charconv>
 #include <iterator>
 
+#include <QGuiApplication>
+#include <QPalette>
+
 #include <tern7/ui/support/text.h>
 
 namespace tern7 {
@@ -29,6 +32,15 @@ QString CellText(const TBoundValue& cell) {
     const auto written =
         std::to_chars(digits, std::end(digits), number, std::chars_format::general, 15);
     return QString::fromLatin1(digits, written.ptr - digits);
+}
+
+/// Can still be read well.
+QColor PaleText() {
+    const QPalette colours = QGuiApplication::palette();
+    const QColor ink = colours.color(QPalette::Text), ground = colours.color(QPalette::Base);
+    const auto mix = [](int a, int b) { return (11 * a + 9 * b) / 20; };
+    return {mix(ink.red(), ground.red()), mix(ink.green(), ground.green()),
+            mix(ink.blue(), ground.blue())};
 }
 
 QString OneLine(QString text) {
@@ -61,6 +73,13 @@ void TResultModel::Append(TResultRows&& newRows) {
     endInsertRows();
 }
 
+void TResultModel::SetPale(bool value) {
+    if (value == pale) return;
+    pale = value;
+    if (rows.empty() || columns.empty()) return;
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1), {Qt::ForegroundRole});
+}
+
 int TResultModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows.size());
 }
@@ -84,6 +103,8 @@ QVariant TResultModel::data(const QModelIndex& index, int role) const {
     case Qt::TextAlignmentRole:
         return static_cast<int>((IsNumber(cell.kind) ? Qt::AlignRight : Qt::AlignLeading) |
                                 Qt::AlignVCenter);
+    case Qt::ForegroundRole:
+        return pale ? QVariant(PaleText()) : QVariant();
     default:
         return {};
     }

@@ -19,6 +19,8 @@ public:
     void Clear();
     void SetColumns(const std::vector<TKResultColumn>& list);
     void Append(TResultRows&& newRows);
+    /// Draws the rows paler, as those of a query that is another by now.
+    void SetPale(bool value);
 
     const TResultRow& Row(int i) const { return rows[static_cast<size_t>(i)]; }
     const std::vector<TKResultColumn>& Columns() const { return columns; }
@@ -31,6 +33,7 @@ public:
 private:
     std::vector<TKResultColumn> columns;
     TResultRows rows;
+    bool pale = false;
 };
 
 } // namespace tern7

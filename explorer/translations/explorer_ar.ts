@@ -37,6 +37,129 @@
     </message>
 </context>
 <context>
+    <name>messages</name>
+    <message>
+        <source>The file %1 can not be opened.</source>
+        <translation>تعذر فتح الملف %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 can not be written.</source>
+        <translation>تعذرت كتابة الملف %1.</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %2 has a wrong value of %1: %3</source>
+        <translation>النص تالف: في القسم %2 قيمة %1 غير صحيحة: %3</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %1 is missing.</source>
+        <translation>النص تالف: القسم %1 مفقود.</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>النص طويل جدًا.</translation>
+    </message>
+    <message>
+        <source>Rows are nested too deep.</source>
+        <translation>الصفوف متداخلة بعمق زائد.</translation>
+    </message>
+    <message>
+        <source>The text has the version %1; what is newer than %2 was not read.</source>
+        <translation>إصدار النص %1؛ ولم يُقرأ ما هو أحدث من %2.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8; it was read as Windows-1252.</source>
+        <translation>النص ليس بترميز UTF-8؛ وقد قُرئ على أنه Windows-1252.</translation>
+    </message>
+    <message>
+        <source>The database has no table %1.</source>
+        <translation>لا يوجد في قاعدة البيانات جدول %1.</translation>
+    </message>
+    <message>
+        <source>No links of the database lead from one of the tables to the others.</source>
+        <translation>لا توجد روابط في قاعدة البيانات تقود من أحد الجداول إلى الجداول الأخرى.</translation>
+    </message>
+    <message>
+        <source>The query has no column and no condition yet.</source>
+        <translation>ليس في الاستعلام أي عمود أو شرط بعد.</translation>
+    </message>
+    <message>
+        <source>No database is open.</source>
+        <translation>لا توجد قاعدة بيانات مفتوحة.</translation>
+    </message>
+    <message>
+        <source>This can not be a value of “%1”: %2</source>
+        <translation>لا يمكن أن تكون هذه قيمة لـ «%1»: %2</translation>
+    </message>
+    <message>
+        <source>This condition is text that can not be executed safely: %1</source>
+        <translation>هذا الشرط نص لا يمكن تنفيذه بأمان: %1</translation>
+    </message>
+    <message>
+        <source>A value holds a NUL character.</source>
+        <translation>تحتوي قيمة على محرف NUL.</translation>
+    </message>
+    <message>
+        <source>There is no field %1.</source>
+        <translation>لا يوجد حقل %1.</translation>
+    </message>
+    <message>
+        <source>A text in an expression with fields can not hold “@” and a digit: %1</source>
+        <translation>لا يمكن أن يحتوي نص في تعبير ذي حقول على «@» يليها رقم: %1</translation>
+    </message>
+    <message>
+        <source>The statement for a list of values must give two columns.</source>
+        <translation>يجب أن تعطي عبارة قائمة القيم عمودين.</translation>
+    </message>
+    <message>
+        <source>The database must be given as sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name or odbc:DSN.</source>
+        <translation>يجب ذكر قاعدة البيانات بالشكل sqlite:PATH أو postgresql://user@host:port/name أو mysql://user@host:port/name أو odbc:DSN.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>يجب أن يكون المنفذ رقمًا من 1 إلى 65535.</translation>
+    </message>
+    <message>
+        <source>The address of the database has an unknown or wrong option “%1”.</source>
+        <translation>في عنوان قاعدة البيانات خيار غير معروف أو خاطئ «%1».</translation>
+    </message>
+    <message>
+        <source>The address names no database.</source>
+        <translation>لا يذكر العنوان أي قاعدة بيانات.</translation>
+    </message>
+    <message>
+        <source>There is no database file %1.</source>
+        <translation>لا يوجد ملف قاعدة بيانات %1.</translation>
+    </message>
+    <message>
+        <source>The driver %1 of Qt SQL is not installed.</source>
+        <translation>برنامج التشغيل %1 الخاص بـ Qt SQL غير مثبت.</translation>
+    </message>
+    <message>
+        <source>The database %1 can not be opened: %2</source>
+        <translation>تعذر فتح قاعدة البيانات %1: %2</translation>
+    </message>
+    <message>
+        <source>Only SELECT statements are executed.</source>
+        <translation>لا تُنفذ إلا عبارات SELECT.</translation>
+    </message>
+    <message>
+        <source>Only one statement is executed at a time.</source>
+        <translation>لا تُنفذ إلا عبارة واحدة في كل مرة.</translation>
+    </message>
+    <message>
+        <source>A quote, comment or bracket of the statement is not closed.</source>
+        <translation>في العبارة علامة اقتباس أو تعليق أو قوس غير مغلق.</translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character.</source>
+        <translation>تحتوي العبارة على محرف NUL.</translation>
+    </message>
+    <message>
+        <source>The parameter %1 has no value.</source>
+        <translation>ليس للمعامل %1 قيمة.</translation>
+    </message>
+</context>
+<context>
     <name>operators</name>
     <message>
         <source>is equal to</source>
@@ -179,6 +302,10 @@
     <message>
         <source>Add column</source>
         <translation>إضافة عمود</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>قراءة SQL</translation>
     </message>
 </context>
 <context>
@@ -338,14 +465,6 @@
     <message>
         <source>Open query</source>
         <translation>فتح استعلام</translation>
-    </message>
-    <message>
-        <source>%1
-
-%2</source>
-        <translation>%1
-
-%2</translation>
     </message>
     <message>
         <source>Save query</source>
@@ -524,6 +643,38 @@
     <message>
         <source>Join another way...</source>
         <translation>ربط بطريقة أخرى...</translation>
+    </message>
+    <message>
+        <source>The query %1 could not be opened: %2</source>
+        <translation>تعذر فتح الاستعلام %1: %2</translation>
+    </message>
+    <message>
+        <source>The query could not be saved as %1: %2</source>
+        <translation>تعذر حفظ الاستعلام باسم %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>تعذرت قراءة الملف %1: %2</translation>
+    </message>
+    <message>
+        <source>The rows could not be saved as %1: %2</source>
+        <translation>تعذر حفظ الصفوف باسم %1: %2</translation>
+    </message>
+    <message>
+        <source>The string that begins at line %1, column %2 is not closed.</source>
+        <translation>السلسلة النصية التي تبدأ في السطر %1، العمود %2 غير مغلقة.</translation>
+    </message>
+    <message>
+        <source>At line %1, column %2 a bracket is missing, or there is one too many.</source>
+        <translation>في السطر %1، العمود %2 قوس ناقص أو زائد.</translation>
+    </message>
+    <message>
+        <source>The statement ends too early, at line %1, column %2.</source>
+        <translation>تنتهي العبارة قبل أوانها، في السطر %1، العمود %2.</translation>
+    </message>
+    <message>
+        <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
+        <translation>النص ليس عبارة SELECT يمكن قراءتها: ابتداءً من السطر %1، العمود %2 لا يستمر كعبارة كهذه.</translation>
     </message>
 </context>
 <context>
@@ -705,10 +856,6 @@
         <translation>السبب</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>السطر</translation>
-    </message>
-    <message>
         <source>Parts of the statement</source>
         <translation>أجزاء العبارة</translation>
     </message>
@@ -745,6 +892,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>ت&amp;راجع</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>نص</translation>
+    </message>
+    <message>
+        <source>the string is not closed</source>
+        <translation>السلسلة النصية غير مغلقة</translation>
+    </message>
+    <message>
+        <source>Line, column</source>
+        <translation>السطر، العمود</translation>
     </message>
 </context>
 <context>
@@ -798,6 +957,10 @@
     <message>
         <source>Not run yet</source>
         <translation>لم يُنفَّذ بعد</translation>
+    </message>
+    <message>
+        <source>Rows of the query before the last changes · %1</source>
+        <translation>صفوف الاستعلام قبل آخر التغييرات · %1</translation>
     </message>
 </context>
 </TS>

@@ -37,6 +37,129 @@
     </message>
 </context>
 <context>
+    <name>messages</name>
+    <message>
+        <source>The file %1 can not be opened.</source>
+        <translation>Die Datei %1 kann nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The file %1 can not be written.</source>
+        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %2 has a wrong value of %1: %3</source>
+        <translation>Der Text ist beschädigt: Im Abschnitt %2 hat %1 einen falschen Wert: %3</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %1 is missing.</source>
+        <translation>Der Text ist beschädigt: Der Abschnitt %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>Der Text ist zu lang.</translation>
+    </message>
+    <message>
+        <source>Rows are nested too deep.</source>
+        <translation>Die Zeilen sind zu tief verschachtelt.</translation>
+    </message>
+    <message>
+        <source>The text has the version %1; what is newer than %2 was not read.</source>
+        <translation>Der Text hat die Version %1; was neuer als %2 ist, wurde nicht gelesen.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8; it was read as Windows-1252.</source>
+        <translation>Der Text ist kein UTF-8; er wurde als Windows-1252 gelesen.</translation>
+    </message>
+    <message>
+        <source>The database has no table %1.</source>
+        <translation>Die Datenbank hat keine Tabelle %1.</translation>
+    </message>
+    <message>
+        <source>No links of the database lead from one of the tables to the others.</source>
+        <translation>Von einer der Tabellen führen keine Verknüpfungen der Datenbank zu den anderen.</translation>
+    </message>
+    <message>
+        <source>The query has no column and no condition yet.</source>
+        <translation>Die Abfrage hat noch keine Spalte und keine Bedingung.</translation>
+    </message>
+    <message>
+        <source>No database is open.</source>
+        <translation>Es ist keine Datenbank geöffnet.</translation>
+    </message>
+    <message>
+        <source>This can not be a value of “%1”: %2</source>
+        <translation>Das kann kein Wert von „%1“ sein: %2</translation>
+    </message>
+    <message>
+        <source>This condition is text that can not be executed safely: %1</source>
+        <translation>Diese Bedingung ist Text, der nicht sicher ausgeführt werden kann: %1</translation>
+    </message>
+    <message>
+        <source>A value holds a NUL character.</source>
+        <translation>Ein Wert enthält ein NUL-Zeichen.</translation>
+    </message>
+    <message>
+        <source>There is no field %1.</source>
+        <translation>Es gibt kein Feld %1.</translation>
+    </message>
+    <message>
+        <source>A text in an expression with fields can not hold “@” and a digit: %1</source>
+        <translation>Ein Text in einem Ausdruck mit Feldern darf nicht „@“ und eine Ziffer enthalten: %1</translation>
+    </message>
+    <message>
+        <source>The statement for a list of values must give two columns.</source>
+        <translation>Die Anweisung für eine Werteliste muss zwei Spalten liefern.</translation>
+    </message>
+    <message>
+        <source>The database must be given as sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name or odbc:DSN.</source>
+        <translation>Die Datenbank muss als sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name oder odbc:DSN angegeben werden.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein.</translation>
+    </message>
+    <message>
+        <source>The address of the database has an unknown or wrong option “%1”.</source>
+        <translation>Die Adresse der Datenbank hat eine unbekannte oder falsche Option „%1“.</translation>
+    </message>
+    <message>
+        <source>The address names no database.</source>
+        <translation>Die Adresse nennt keine Datenbank.</translation>
+    </message>
+    <message>
+        <source>There is no database file %1.</source>
+        <translation>Es gibt keine Datenbankdatei %1.</translation>
+    </message>
+    <message>
+        <source>The driver %1 of Qt SQL is not installed.</source>
+        <translation>Der Treiber %1 von Qt SQL ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The database %1 can not be opened: %2</source>
+        <translation>Die Datenbank %1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Only SELECT statements are executed.</source>
+        <translation>Es werden nur SELECT-Anweisungen ausgeführt.</translation>
+    </message>
+    <message>
+        <source>Only one statement is executed at a time.</source>
+        <translation>Es wird nur eine Anweisung auf einmal ausgeführt.</translation>
+    </message>
+    <message>
+        <source>A quote, comment or bracket of the statement is not closed.</source>
+        <translation>Ein Anführungszeichen, ein Kommentar oder eine Klammer der Anweisung ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character.</source>
+        <translation>Die Anweisung enthält ein NUL-Zeichen.</translation>
+    </message>
+    <message>
+        <source>The parameter %1 has no value.</source>
+        <translation>Der Parameter %1 hat keinen Wert.</translation>
+    </message>
+</context>
+<context>
     <name>operators</name>
     <message>
         <source>is equal to</source>
@@ -179,6 +302,10 @@
     <message>
         <source>Add column</source>
         <translation>Spalte hinzufügen</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>SQL lesen</translation>
     </message>
 </context>
 <context>
@@ -338,14 +465,6 @@
     <message>
         <source>Open query</source>
         <translation>Abfrage öffnen</translation>
-    </message>
-    <message>
-        <source>%1
-
-%2</source>
-        <translation>%1
-
-%2</translation>
     </message>
     <message>
         <source>Save query</source>
@@ -516,6 +635,38 @@
     <message>
         <source>Join another way...</source>
         <translation>Anders verbinden ...</translation>
+    </message>
+    <message>
+        <source>The query %1 could not be opened: %2</source>
+        <translation>Die Abfrage %1 konnte nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>The query could not be saved as %1: %2</source>
+        <translation>Die Abfrage konnte nicht als %1 gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>Die Datei %1 konnte nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>The rows could not be saved as %1: %2</source>
+        <translation>Die Zeilen konnten nicht als %1 gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>The string that begins at line %1, column %2 is not closed.</source>
+        <translation>Der Text, der in Zeile %1, Spalte %2 beginnt, ist nicht mit einem Anführungszeichen geschlossen.</translation>
+    </message>
+    <message>
+        <source>At line %1, column %2 a bracket is missing, or there is one too many.</source>
+        <translation>In Zeile %1, Spalte %2 fehlt eine Klammer, oder es ist eine zu viel da.</translation>
+    </message>
+    <message>
+        <source>The statement ends too early, at line %1, column %2.</source>
+        <translation>Die Anweisung endet zu früh, in Zeile %1, Spalte %2.</translation>
+    </message>
+    <message>
+        <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
+        <translation>Der Text ist keine SELECT-Anweisung, die gelesen werden kann: Ab Zeile %1, Spalte %2 geht er nicht wie eine weiter.</translation>
     </message>
 </context>
 <context>
@@ -697,10 +848,6 @@
         <translation>Grund</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Zeile</translation>
-    </message>
-    <message>
         <source>Parts of the statement</source>
         <translation>Teile der Anweisung</translation>
     </message>
@@ -729,6 +876,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>the string is not closed</source>
+        <translation>der Text ist nicht mit einem Anführungszeichen geschlossen</translation>
+    </message>
+    <message>
+        <source>Line, column</source>
+        <translation>Zeile, Spalte</translation>
     </message>
 </context>
 <context>
@@ -778,6 +937,10 @@
     <message>
         <source>Not run yet</source>
         <translation>Noch nicht ausgeführt</translation>
+    </message>
+    <message>
+        <source>Rows of the query before the last changes · %1</source>
+        <translation>Zeilen der Abfrage vor den letzten Änderungen · %1</translation>
     </message>
 </context>
 </TS>

@@ -37,6 +37,129 @@
     </message>
 </context>
 <context>
+    <name>messages</name>
+    <message>
+        <source>The file %1 can not be opened.</source>
+        <translation>No se puede abrir el archivo %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 can not be written.</source>
+        <translation>No se puede escribir el archivo %1.</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %2 has a wrong value of %1: %3</source>
+        <translation>El texto está dañado: en la sección %2, %1 tiene un valor incorrecto: %3</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %1 is missing.</source>
+        <translation>El texto está dañado: falta la sección %1.</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>El texto es demasiado largo.</translation>
+    </message>
+    <message>
+        <source>Rows are nested too deep.</source>
+        <translation>Las filas están anidadas demasiado profundamente.</translation>
+    </message>
+    <message>
+        <source>The text has the version %1; what is newer than %2 was not read.</source>
+        <translation>El texto tiene la versión %1; lo que es más nuevo que %2 no se ha leído.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8; it was read as Windows-1252.</source>
+        <translation>El texto no es UTF-8; se ha leído como Windows-1252.</translation>
+    </message>
+    <message>
+        <source>The database has no table %1.</source>
+        <translation>La base de datos no tiene ninguna tabla %1.</translation>
+    </message>
+    <message>
+        <source>No links of the database lead from one of the tables to the others.</source>
+        <translation>Ningún vínculo de la base de datos lleva de una de las tablas a las demás.</translation>
+    </message>
+    <message>
+        <source>The query has no column and no condition yet.</source>
+        <translation>La consulta aún no tiene columnas ni condiciones.</translation>
+    </message>
+    <message>
+        <source>No database is open.</source>
+        <translation>No hay ninguna base de datos abierta.</translation>
+    </message>
+    <message>
+        <source>This can not be a value of “%1”: %2</source>
+        <translation>Esto no puede ser un valor de «%1»: %2</translation>
+    </message>
+    <message>
+        <source>This condition is text that can not be executed safely: %1</source>
+        <translation>Esta condición es un texto que no se puede ejecutar con seguridad: %1</translation>
+    </message>
+    <message>
+        <source>A value holds a NUL character.</source>
+        <translation>Un valor contiene un carácter NUL.</translation>
+    </message>
+    <message>
+        <source>There is no field %1.</source>
+        <translation>No existe el campo %1.</translation>
+    </message>
+    <message>
+        <source>A text in an expression with fields can not hold “@” and a digit: %1</source>
+        <translation>Un texto en una expresión con campos no puede contener «@» y una cifra: %1</translation>
+    </message>
+    <message>
+        <source>The statement for a list of values must give two columns.</source>
+        <translation>La instrucción de una lista de valores debe dar dos columnas.</translation>
+    </message>
+    <message>
+        <source>The database must be given as sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name or odbc:DSN.</source>
+        <translation>La base de datos debe indicarse como sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name u odbc:DSN.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>El puerto debe ser un número del 1 al 65535.</translation>
+    </message>
+    <message>
+        <source>The address of the database has an unknown or wrong option “%1”.</source>
+        <translation>La dirección de la base de datos tiene una opción desconocida o incorrecta «%1».</translation>
+    </message>
+    <message>
+        <source>The address names no database.</source>
+        <translation>La dirección no nombra ninguna base de datos.</translation>
+    </message>
+    <message>
+        <source>There is no database file %1.</source>
+        <translation>No existe el archivo de base de datos %1.</translation>
+    </message>
+    <message>
+        <source>The driver %1 of Qt SQL is not installed.</source>
+        <translation>El controlador %1 de Qt SQL no está instalado.</translation>
+    </message>
+    <message>
+        <source>The database %1 can not be opened: %2</source>
+        <translation>No se puede abrir la base de datos %1: %2</translation>
+    </message>
+    <message>
+        <source>Only SELECT statements are executed.</source>
+        <translation>Solo se ejecutan instrucciones SELECT.</translation>
+    </message>
+    <message>
+        <source>Only one statement is executed at a time.</source>
+        <translation>Solo se ejecuta una instrucción a la vez.</translation>
+    </message>
+    <message>
+        <source>A quote, comment or bracket of the statement is not closed.</source>
+        <translation>Hay una comilla, un comentario o un paréntesis sin cerrar en la instrucción.</translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character.</source>
+        <translation>La instrucción contiene un carácter NUL.</translation>
+    </message>
+    <message>
+        <source>The parameter %1 has no value.</source>
+        <translation>El parámetro %1 no tiene valor.</translation>
+    </message>
+</context>
+<context>
     <name>operators</name>
     <message>
         <source>is equal to</source>
@@ -179,6 +302,10 @@
     <message>
         <source>Add column</source>
         <translation>Añadir columna</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>Leer SQL</translation>
     </message>
 </context>
 <context>
@@ -338,14 +465,6 @@
     <message>
         <source>Open query</source>
         <translation>Abrir consulta</translation>
-    </message>
-    <message>
-        <source>%1
-
-%2</source>
-        <translation>%1
-
-%2</translation>
     </message>
     <message>
         <source>Save query</source>
@@ -516,6 +635,38 @@
     <message>
         <source>Join another way...</source>
         <translation>Unir de otra forma...</translation>
+    </message>
+    <message>
+        <source>The query %1 could not be opened: %2</source>
+        <translation>No se ha podido abrir la consulta %1: %2</translation>
+    </message>
+    <message>
+        <source>The query could not be saved as %1: %2</source>
+        <translation>No se ha podido guardar la consulta como %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>No se ha podido leer el archivo %1: %2</translation>
+    </message>
+    <message>
+        <source>The rows could not be saved as %1: %2</source>
+        <translation>No se han podido guardar las filas como %1: %2</translation>
+    </message>
+    <message>
+        <source>The string that begins at line %1, column %2 is not closed.</source>
+        <translation>La cadena que empieza en la línea %1, columna %2 no está cerrada.</translation>
+    </message>
+    <message>
+        <source>At line %1, column %2 a bracket is missing, or there is one too many.</source>
+        <translation>En la línea %1, columna %2 falta un paréntesis o sobra uno.</translation>
+    </message>
+    <message>
+        <source>The statement ends too early, at line %1, column %2.</source>
+        <translation>La instrucción termina demasiado pronto, en la línea %1, columna %2.</translation>
+    </message>
+    <message>
+        <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
+        <translation>El texto no es una instrucción SELECT que se pueda leer: a partir de la línea %1, columna %2 no continúa como tal.</translation>
     </message>
 </context>
 <context>
@@ -697,10 +848,6 @@
         <translation>Motivo</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Línea</translation>
-    </message>
-    <message>
         <source>Parts of the statement</source>
         <translation>Partes de la instrucción</translation>
     </message>
@@ -729,6 +876,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>the string is not closed</source>
+        <translation>la cadena no está cerrada</translation>
+    </message>
+    <message>
+        <source>Line, column</source>
+        <translation>Línea, columna</translation>
     </message>
 </context>
 <context>
@@ -778,6 +937,10 @@
     <message>
         <source>Not run yet</source>
         <translation>Aún no ejecutada</translation>
+    </message>
+    <message>
+        <source>Rows of the query before the last changes · %1</source>
+        <translation>Filas de la consulta antes de los últimos cambios · %1</translation>
     </message>
 </context>
 </TS>

@@ -37,6 +37,129 @@
     </message>
 </context>
 <context>
+    <name>messages</name>
+    <message>
+        <source>The file %1 can not be opened.</source>
+        <translation>Le fichier %1 ne peut pas être ouvert.</translation>
+    </message>
+    <message>
+        <source>The file %1 can not be written.</source>
+        <translation>Le fichier %1 ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %2 has a wrong value of %1: %3</source>
+        <translation>Le texte est endommagé : dans la section %2, %1 a une valeur incorrecte : %3</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %1 is missing.</source>
+        <translation>Le texte est endommagé : la section %1 manque.</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>Le texte est trop long.</translation>
+    </message>
+    <message>
+        <source>Rows are nested too deep.</source>
+        <translation>Les lignes sont imbriquées trop profondément.</translation>
+    </message>
+    <message>
+        <source>The text has the version %1; what is newer than %2 was not read.</source>
+        <translation>Le texte a la version %1 ; ce qui est plus récent que %2 n’a pas été lu.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8; it was read as Windows-1252.</source>
+        <translation>Le texte n’est pas en UTF-8 ; il a été lu comme Windows-1252.</translation>
+    </message>
+    <message>
+        <source>The database has no table %1.</source>
+        <translation>La base de données n’a pas de table %1.</translation>
+    </message>
+    <message>
+        <source>No links of the database lead from one of the tables to the others.</source>
+        <translation>Aucun lien de la base de données ne mène d’une des tables aux autres.</translation>
+    </message>
+    <message>
+        <source>The query has no column and no condition yet.</source>
+        <translation>La requête n’a encore ni colonne ni condition.</translation>
+    </message>
+    <message>
+        <source>No database is open.</source>
+        <translation>Aucune base de données n’est ouverte.</translation>
+    </message>
+    <message>
+        <source>This can not be a value of “%1”: %2</source>
+        <translation>Ceci ne peut pas être une valeur de « %1 » : %2</translation>
+    </message>
+    <message>
+        <source>This condition is text that can not be executed safely: %1</source>
+        <translation>Cette condition est un texte qui ne peut pas être exécuté sans risque : %1</translation>
+    </message>
+    <message>
+        <source>A value holds a NUL character.</source>
+        <translation>Une valeur contient un caractère NUL.</translation>
+    </message>
+    <message>
+        <source>There is no field %1.</source>
+        <translation>Il n’y a pas de champ %1.</translation>
+    </message>
+    <message>
+        <source>A text in an expression with fields can not hold “@” and a digit: %1</source>
+        <translation>Un texte dans une expression avec des champs ne peut pas contenir « @ » et un chiffre : %1</translation>
+    </message>
+    <message>
+        <source>The statement for a list of values must give two columns.</source>
+        <translation>L’instruction d’une liste de valeurs doit donner deux colonnes.</translation>
+    </message>
+    <message>
+        <source>The database must be given as sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name or odbc:DSN.</source>
+        <translation>La base de données doit être donnée sous la forme sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name ou odbc:DSN.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>Le port doit être un nombre de 1 à 65535.</translation>
+    </message>
+    <message>
+        <source>The address of the database has an unknown or wrong option “%1”.</source>
+        <translation>L’adresse de la base de données a une option inconnue ou incorrecte « %1 ».</translation>
+    </message>
+    <message>
+        <source>The address names no database.</source>
+        <translation>L’adresse ne nomme aucune base de données.</translation>
+    </message>
+    <message>
+        <source>There is no database file %1.</source>
+        <translation>Il n’y a pas de fichier de base de données %1.</translation>
+    </message>
+    <message>
+        <source>The driver %1 of Qt SQL is not installed.</source>
+        <translation>Le pilote %1 de Qt SQL n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>The database %1 can not be opened: %2</source>
+        <translation>La base de données %1 ne peut pas être ouverte : %2</translation>
+    </message>
+    <message>
+        <source>Only SELECT statements are executed.</source>
+        <translation>Seules les instructions SELECT sont exécutées.</translation>
+    </message>
+    <message>
+        <source>Only one statement is executed at a time.</source>
+        <translation>Une seule instruction est exécutée à la fois.</translation>
+    </message>
+    <message>
+        <source>A quote, comment or bracket of the statement is not closed.</source>
+        <translation>Un guillemet, un commentaire ou une parenthèse de l’instruction n’est pas fermé.</translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character.</source>
+        <translation>L’instruction contient un caractère NUL.</translation>
+    </message>
+    <message>
+        <source>The parameter %1 has no value.</source>
+        <translation>Le paramètre %1 n’a pas de valeur.</translation>
+    </message>
+</context>
+<context>
     <name>operators</name>
     <message>
         <source>is equal to</source>
@@ -179,6 +302,10 @@
     <message>
         <source>Add column</source>
         <translation>Ajouter une colonne</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>Lire du SQL</translation>
     </message>
 </context>
 <context>
@@ -338,14 +465,6 @@
     <message>
         <source>Open query</source>
         <translation>Ouvrir une requête</translation>
-    </message>
-    <message>
-        <source>%1
-
-%2</source>
-        <translation>%1
-
-%2</translation>
     </message>
     <message>
         <source>Save query</source>
@@ -516,6 +635,38 @@
     <message>
         <source>Join another way...</source>
         <translation>Joindre autrement...</translation>
+    </message>
+    <message>
+        <source>The query %1 could not be opened: %2</source>
+        <translation>La requête %1 n’a pas pu être ouverte : %2</translation>
+    </message>
+    <message>
+        <source>The query could not be saved as %1: %2</source>
+        <translation>La requête n’a pas pu être enregistrée sous %1 : %2</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>Le fichier %1 n’a pas pu être lu : %2</translation>
+    </message>
+    <message>
+        <source>The rows could not be saved as %1: %2</source>
+        <translation>Les lignes n’ont pas pu être enregistrées sous %1 : %2</translation>
+    </message>
+    <message>
+        <source>The string that begins at line %1, column %2 is not closed.</source>
+        <translation>La chaîne qui commence à la ligne %1, colonne %2 n’est pas fermée.</translation>
+    </message>
+    <message>
+        <source>At line %1, column %2 a bracket is missing, or there is one too many.</source>
+        <translation>À la ligne %1, colonne %2, il manque une parenthèse, ou il y en a une de trop.</translation>
+    </message>
+    <message>
+        <source>The statement ends too early, at line %1, column %2.</source>
+        <translation>L’instruction se termine trop tôt, à la ligne %1, colonne %2.</translation>
+    </message>
+    <message>
+        <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
+        <translation>Le texte n’est pas une instruction SELECT lisible : à partir de la ligne %1, colonne %2, il ne continue pas comme telle.</translation>
     </message>
 </context>
 <context>
@@ -697,10 +848,6 @@
         <translation>Raison</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Ligne</translation>
-    </message>
-    <message>
         <source>Parts of the statement</source>
         <translation>Parties de l’instruction</translation>
     </message>
@@ -729,6 +876,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texte</translation>
+    </message>
+    <message>
+        <source>the string is not closed</source>
+        <translation>la chaîne n’est pas fermée</translation>
+    </message>
+    <message>
+        <source>Line, column</source>
+        <translation>Ligne, colonne</translation>
     </message>
 </context>
 <context>
@@ -778,6 +937,10 @@
     <message>
         <source>Not run yet</source>
         <translation>Pas encore exécutée</translation>
+    </message>
+    <message>
+        <source>Rows of the query before the last changes · %1</source>
+        <translation>Lignes de la requête avant les derniers changements · %1</translation>
     </message>
 </context>
 </TS>

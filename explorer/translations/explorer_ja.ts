@@ -37,6 +37,129 @@
     </message>
 </context>
 <context>
+    <name>messages</name>
+    <message>
+        <source>The file %1 can not be opened.</source>
+        <translation>ファイル %1 を開けません。</translation>
+    </message>
+    <message>
+        <source>The file %1 can not be written.</source>
+        <translation>ファイル %1 に書き込めません。</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %2 has a wrong value of %1: %3</source>
+        <translation>テキストが壊れています: セクション %2 の %1 の値が正しくありません: %3</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %1 is missing.</source>
+        <translation>テキストが壊れています: セクション %1 がありません。</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>テキストが長すぎます。</translation>
+    </message>
+    <message>
+        <source>Rows are nested too deep.</source>
+        <translation>行の入れ子が深すぎます。</translation>
+    </message>
+    <message>
+        <source>The text has the version %1; what is newer than %2 was not read.</source>
+        <translation>テキストのバージョンは %1 です。%2 より新しい部分は読み込まれませんでした。</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8; it was read as Windows-1252.</source>
+        <translation>テキストは UTF-8 ではありません。Windows-1252 として読み込みました。</translation>
+    </message>
+    <message>
+        <source>The database has no table %1.</source>
+        <translation>データベースにテーブル %1 がありません。</translation>
+    </message>
+    <message>
+        <source>No links of the database lead from one of the tables to the others.</source>
+        <translation>テーブルの一つから他のテーブルへつながるリンクがデータベースにありません。</translation>
+    </message>
+    <message>
+        <source>The query has no column and no condition yet.</source>
+        <translation>クエリにはまだ列も条件もありません。</translation>
+    </message>
+    <message>
+        <source>No database is open.</source>
+        <translation>データベースが開かれていません。</translation>
+    </message>
+    <message>
+        <source>This can not be a value of “%1”: %2</source>
+        <translation>「%1」の値にはできません: %2</translation>
+    </message>
+    <message>
+        <source>This condition is text that can not be executed safely: %1</source>
+        <translation>この条件は安全に実行できないテキストです: %1</translation>
+    </message>
+    <message>
+        <source>A value holds a NUL character.</source>
+        <translation>値に NUL 文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>There is no field %1.</source>
+        <translation>フィールド %1 はありません。</translation>
+    </message>
+    <message>
+        <source>A text in an expression with fields can not hold “@” and a digit: %1</source>
+        <translation>フィールドを含む式の文字列に「@」と数字を含めることはできません: %1</translation>
+    </message>
+    <message>
+        <source>The statement for a list of values must give two columns.</source>
+        <translation>値の一覧の文は 2 つの列を返す必要があります。</translation>
+    </message>
+    <message>
+        <source>The database must be given as sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name or odbc:DSN.</source>
+        <translation>データベースは sqlite:PATH、postgresql://user@host:port/name、mysql://user@host:port/name、odbc:DSN のいずれかの形で指定してください。</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>ポートは 1 から 65535 までの数でなければなりません。</translation>
+    </message>
+    <message>
+        <source>The address of the database has an unknown or wrong option “%1”.</source>
+        <translation>データベースのアドレスに不明または誤ったオプション「%1」があります。</translation>
+    </message>
+    <message>
+        <source>The address names no database.</source>
+        <translation>アドレスにデータベースの名前がありません。</translation>
+    </message>
+    <message>
+        <source>There is no database file %1.</source>
+        <translation>データベースファイル %1 はありません。</translation>
+    </message>
+    <message>
+        <source>The driver %1 of Qt SQL is not installed.</source>
+        <translation>Qt SQL のドライバー %1 がインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The database %1 can not be opened: %2</source>
+        <translation>データベース %1 を開けません: %2</translation>
+    </message>
+    <message>
+        <source>Only SELECT statements are executed.</source>
+        <translation>SELECT 文だけが実行されます。</translation>
+    </message>
+    <message>
+        <source>Only one statement is executed at a time.</source>
+        <translation>一度に実行できる文は 1 つだけです。</translation>
+    </message>
+    <message>
+        <source>A quote, comment or bracket of the statement is not closed.</source>
+        <translation>文の引用符、コメント、または括弧が閉じられていません。</translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character.</source>
+        <translation>文に NUL 文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>The parameter %1 has no value.</source>
+        <translation>パラメーター %1 に値がありません。</translation>
+    </message>
+</context>
+<context>
     <name>operators</name>
     <message>
         <source>is equal to</source>
@@ -179,6 +302,10 @@
     <message>
         <source>Add column</source>
         <translation>列を追加</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>SQL の読み込み</translation>
     </message>
 </context>
 <context>
@@ -338,14 +465,6 @@
     <message>
         <source>Open query</source>
         <translation>クエリを開く</translation>
-    </message>
-    <message>
-        <source>%1
-
-%2</source>
-        <translation>%1
-
-%2</translation>
     </message>
     <message>
         <source>Save query</source>
@@ -514,6 +633,38 @@
     <message>
         <source>Join another way...</source>
         <translation>別の経路で結合...</translation>
+    </message>
+    <message>
+        <source>The query %1 could not be opened: %2</source>
+        <translation>クエリ %1 を開けませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The query could not be saved as %1: %2</source>
+        <translation>クエリを %1 として保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>ファイル %1 を読み込めませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The rows could not be saved as %1: %2</source>
+        <translation>行を %1 として保存できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>The string that begins at line %1, column %2 is not closed.</source>
+        <translation>%1 行 %2 列で始まる文字列が閉じられていません。</translation>
+    </message>
+    <message>
+        <source>At line %1, column %2 a bracket is missing, or there is one too many.</source>
+        <translation>%1 行 %2 列で括弧が足りないか、余分にあります。</translation>
+    </message>
+    <message>
+        <source>The statement ends too early, at line %1, column %2.</source>
+        <translation>文が途中で終わっています (%1 行 %2 列)。</translation>
+    </message>
+    <message>
+        <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
+        <translation>読み取れる SELECT 文ではありません: %1 行 %2 列から先が文として続いていません。</translation>
     </message>
 </context>
 <context>
@@ -695,10 +846,6 @@
         <translation>理由</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>行</translation>
-    </message>
-    <message>
         <source>Parts of the statement</source>
         <translation>文の各部分</translation>
     </message>
@@ -725,6 +872,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>the string is not closed</source>
+        <translation>文字列が閉じられていません</translation>
+    </message>
+    <message>
+        <source>Line, column</source>
+        <translation>行、列</translation>
     </message>
 </context>
 <context>
@@ -773,6 +932,10 @@
     <message>
         <source>Not run yet</source>
         <translation>まだ実行していません</translation>
+    </message>
+    <message>
+        <source>Rows of the query before the last changes · %1</source>
+        <translation>最後の変更前のクエリの行 · %1</translation>
     </message>
 </context>
 </TS>

@@ -37,6 +37,129 @@
     </message>
 </context>
 <context>
+    <name>messages</name>
+    <message>
+        <source>The file %1 can not be opened.</source>
+        <translation>Не удаётся открыть файл %1.</translation>
+    </message>
+    <message>
+        <source>The file %1 can not be written.</source>
+        <translation>Не удаётся записать файл %1.</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %2 has a wrong value of %1: %3</source>
+        <translation>Текст повреждён: в разделе %2 неверное значение %1: %3</translation>
+    </message>
+    <message>
+        <source>The text is damaged: section %1 is missing.</source>
+        <translation>Текст повреждён: нет раздела %1.</translation>
+    </message>
+    <message>
+        <source>The text is too long.</source>
+        <translation>Текст слишком длинный.</translation>
+    </message>
+    <message>
+        <source>Rows are nested too deep.</source>
+        <translation>Строки вложены слишком глубоко.</translation>
+    </message>
+    <message>
+        <source>The text has the version %1; what is newer than %2 was not read.</source>
+        <translation>Версия текста %1; всё, что новее %2, не прочитано.</translation>
+    </message>
+    <message>
+        <source>The text is not UTF-8; it was read as Windows-1252.</source>
+        <translation>Текст не в кодировке UTF-8; он прочитан как Windows-1252.</translation>
+    </message>
+    <message>
+        <source>The database has no table %1.</source>
+        <translation>В базе данных нет таблицы %1.</translation>
+    </message>
+    <message>
+        <source>No links of the database lead from one of the tables to the others.</source>
+        <translation>Связи базы данных не ведут от одной из таблиц к остальным.</translation>
+    </message>
+    <message>
+        <source>The query has no column and no condition yet.</source>
+        <translation>В запросе ещё нет ни столбцов, ни условий.</translation>
+    </message>
+    <message>
+        <source>No database is open.</source>
+        <translation>База данных не открыта.</translation>
+    </message>
+    <message>
+        <source>This can not be a value of “%1”: %2</source>
+        <translation>Это не может быть значением «%1»: %2</translation>
+    </message>
+    <message>
+        <source>This condition is text that can not be executed safely: %1</source>
+        <translation>Это условие — текст, который нельзя безопасно выполнить: %1</translation>
+    </message>
+    <message>
+        <source>A value holds a NUL character.</source>
+        <translation>Значение содержит символ NUL.</translation>
+    </message>
+    <message>
+        <source>There is no field %1.</source>
+        <translation>Нет поля %1.</translation>
+    </message>
+    <message>
+        <source>A text in an expression with fields can not hold “@” and a digit: %1</source>
+        <translation>Текст в выражении с полями не может содержать «@» с цифрой: %1</translation>
+    </message>
+    <message>
+        <source>The statement for a list of values must give two columns.</source>
+        <translation>Запрос списка значений должен давать два столбца.</translation>
+    </message>
+    <message>
+        <source>The database must be given as sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name or odbc:DSN.</source>
+        <translation>База данных указывается как sqlite:PATH, postgresql://user@host:port/name, mysql://user@host:port/name или odbc:DSN.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>Порт должен быть числом от 1 до 65535.</translation>
+    </message>
+    <message>
+        <source>The address of the database has an unknown or wrong option “%1”.</source>
+        <translation>В адресе базы данных неизвестный или неверный параметр «%1».</translation>
+    </message>
+    <message>
+        <source>The address names no database.</source>
+        <translation>В адресе не названа база данных.</translation>
+    </message>
+    <message>
+        <source>There is no database file %1.</source>
+        <translation>Нет файла базы данных %1.</translation>
+    </message>
+    <message>
+        <source>The driver %1 of Qt SQL is not installed.</source>
+        <translation>Драйвер %1 для Qt SQL не установлен.</translation>
+    </message>
+    <message>
+        <source>The database %1 can not be opened: %2</source>
+        <translation>Не удаётся открыть базу данных %1: %2</translation>
+    </message>
+    <message>
+        <source>Only SELECT statements are executed.</source>
+        <translation>Выполняются только операторы SELECT.</translation>
+    </message>
+    <message>
+        <source>Only one statement is executed at a time.</source>
+        <translation>За один раз выполняется только один оператор.</translation>
+    </message>
+    <message>
+        <source>A quote, comment or bracket of the statement is not closed.</source>
+        <translation>В операторе не закрыта кавычка, комментарий или скобка.</translation>
+    </message>
+    <message>
+        <source>The statement holds a NUL character.</source>
+        <translation>Оператор содержит символ NUL.</translation>
+    </message>
+    <message>
+        <source>The parameter %1 has no value.</source>
+        <translation>У параметра %1 нет значения.</translation>
+    </message>
+</context>
+<context>
     <name>operators</name>
     <message>
         <source>is equal to</source>
@@ -179,6 +302,10 @@
     <message>
         <source>Add column</source>
         <translation>Добавить столбец</translation>
+    </message>
+    <message>
+        <source>Read SQL</source>
+        <translation>Прочитать SQL</translation>
     </message>
 </context>
 <context>
@@ -338,14 +465,6 @@
     <message>
         <source>Open query</source>
         <translation>Открыть запрос</translation>
-    </message>
-    <message>
-        <source>%1
-
-%2</source>
-        <translation>%1
-
-%2</translation>
     </message>
     <message>
         <source>Save query</source>
@@ -518,6 +637,38 @@
     <message>
         <source>Join another way...</source>
         <translation>Соединить иначе...</translation>
+    </message>
+    <message>
+        <source>The query %1 could not be opened: %2</source>
+        <translation>Не удалось открыть запрос %1: %2</translation>
+    </message>
+    <message>
+        <source>The query could not be saved as %1: %2</source>
+        <translation>Не удалось сохранить запрос как %1: %2</translation>
+    </message>
+    <message>
+        <source>The file %1 could not be read: %2</source>
+        <translation>Не удалось прочитать файл %1: %2</translation>
+    </message>
+    <message>
+        <source>The rows could not be saved as %1: %2</source>
+        <translation>Не удалось сохранить строки как %1: %2</translation>
+    </message>
+    <message>
+        <source>The string that begins at line %1, column %2 is not closed.</source>
+        <translation>Строка в кавычках, начатая в строке %1, столбце %2, не закрыта.</translation>
+    </message>
+    <message>
+        <source>At line %1, column %2 a bracket is missing, or there is one too many.</source>
+        <translation>В строке %1, столбце %2 не хватает скобки или есть лишняя.</translation>
+    </message>
+    <message>
+        <source>The statement ends too early, at line %1, column %2.</source>
+        <translation>Оператор обрывается в строке %1, столбце %2.</translation>
+    </message>
+    <message>
+        <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
+        <translation>Текст не является оператором SELECT, который можно прочитать: начиная со строки %1, столбца %2 он продолжается иначе.</translation>
     </message>
 </context>
 <context>
@@ -699,10 +850,6 @@
         <translation>Причина</translation>
     </message>
     <message>
-        <source>Line</source>
-        <translation>Строка</translation>
-    </message>
-    <message>
         <source>Parts of the statement</source>
         <translation>Части оператора</translation>
     </message>
@@ -733,6 +880,18 @@
     <message>
         <source>&amp;Undo</source>
         <translation>&amp;Отменить</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>текст</translation>
+    </message>
+    <message>
+        <source>the string is not closed</source>
+        <translation>строка в кавычках не закрыта</translation>
+    </message>
+    <message>
+        <source>Line, column</source>
+        <translation>Строка, столбец</translation>
     </message>
 </context>
 <context>
@@ -783,6 +942,10 @@
     <message>
         <source>Not run yet</source>
         <translation>Ещё не выполнялся</translation>
+    </message>
+    <message>
+        <source>Rows of the query before the last changes · %1</source>
+        <translation>Строки запроса до последних изменений · %1</translation>
     </message>
 </context>
 </TS>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QMainWindow>
 #include <QTimer>
@@ -23,6 +24,7 @@ class TKPopupMenu;
 class TKQueryPanel;
 class TKResultFieldsPanel;
 class TMessageBar;
+struct TReadProblem;
 class TResultView;
 
 /// The window of the program: columns, conditions, SQL and rows of one query over one database.
@@ -123,13 +125,15 @@ private:
     bool MayDiscard();
     void OpenFile(const QString& file);
     void SaveRows();
+    void TellWarnings();
     void TellLostFields();
+    void ReadSQLFile(const QString& file);
     std::string QueryText() const;
     void QueryLoaded(const QString& file);
 
     // main_window_sql.cpp
-    QString TryReadSQL(const QString& sql, int& line);
-    void ShowReport(const std::string& before);
+    std::optional<TReadProblem> TryReadSQL(const QString& sql);
+    void ShowReport();
     void AskForSQL();
 
     // main_window_run.cpp
@@ -138,6 +142,7 @@ private:
     void ShowGrouping();
     void RunWith(bool asking);
     TRunRequest MakeRequest();
+    std::optional<TBoundSQL> PresentStatement() const;
     std::vector<std::string> Captions() const;
     std::vector<TRunRequest::TTrial> MakeTrials() const;
     void RunFailed(const QString& message, int row);
@@ -179,8 +184,9 @@ private:
     QSplitter* queryParts = nullptr;
     QSplitter* parts = nullptr;
     QSpinBox* rowLimit = nullptr;
-    QTimer sqlTimer;  // the statement is shown when the changes of one event are over
-    QTimer liveTimer; // and run when nothing was typed for a while
+    QTimer sqlTimer;             // the statement is shown when the changes of one event are over
+    QTimer liveTimer;            // and run when nothing was typed for a while
+    bool readSQLChanged = false; // the last reading of SQL is a step
     QString queryFile;
     std::string savedText; // of the query as it was loaded or saved
     QString language;

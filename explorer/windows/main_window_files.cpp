@@ -14,6 +14,7 @@
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/text.h>
 
+#include "../data/error_text.h"
 #include "../data/sample_database.h"
 #include "connection_dialog.h"
 #include "message_bar.h"
@@ -50,7 +51,7 @@ bool TMainWindow::OpenDatabase(const TKDatabaseURL& url, const QString& structur
         if (!WaitForDatabase(running)) return false;
         opened = std::make_unique<TDatabaseSession>(url, running.Take());
     } catch (const std::exception& error) {
-        AskForDatabase(&url, ToQt(error.what()));
+        AskForDatabase(&url, ErrorText(error));
         return false;
     }
     results->Clear();
@@ -100,7 +101,7 @@ bool TMainWindow::OpenSample() {
         }
         return OpenDatabase(url);
     } catch (const std::exception& error) {
-        QMessageBox::warning(this, tr("Sample database"), ToQt(error.what()));
+        QMessageBox::warning(this, tr("Sample database"), ErrorText(error));
         return false;
     }
 }
@@ -128,7 +129,7 @@ void TMainWindow::OpenRecentDatabase(const QString& address) {
             OpenDatabase(url);
     } catch (const std::exception& error) {
         recentDatabases.Remove(address);
-        QMessageBox::warning(this, tr("Open database"), ToQt(error.what()));
+        QMessageBox::warning(this, tr("Open database"), ErrorText(error));
     }
 }
 
@@ -163,6 +164,7 @@ bool TMainWindow::IsModified() const {
 void TMainWindow::QueryLoaded(const QString& file) {
     queryFile = file;
     savedText = QueryText();
+    conditions->Editor().Stack().clear();
     results->Clear();
     queryMessages->Clear();
     FillRecentMenus();
@@ -194,7 +196,9 @@ bool TMainWindow::LoadQuery(const QString& file) {
     } catch (const std::exception& error) {
         conditions->SetActive(true);
         recentQueries.Remove(file);
-        QMessageBox::warning(this, tr("Open query"), tr("%1\n\n%2").arg(file, ToQt(error.what())));
+        QMessageBox::warning(
+            this, tr("Open query"),
+            tr("The query %1 could not be opened: %2").arg(Isolated(file), FileReason(error)));
         return false;
     }
     conditions->SetTitles(titles); // the window's language, not that of the file
@@ -203,7 +207,9 @@ bool TMainWindow::LoadQuery(const QString& file) {
     conditions->Query().SaveMainTable = true;
     recentQueries.Add(QFileInfo(file).absoluteFilePath());
     QueryLoaded(file);
+    TellWarnings();
     TellLostFields();
+    if (liveAction->isChecked()) RunWith(false);
     return true;
 }
 
@@ -211,7 +217,9 @@ bool TMainWindow::SaveQuery(const QString& file) {
     try {
         conditions->SaveToFile(file);
     } catch (const std::exception& error) {
-        QMessageBox::warning(this, tr("Save query"), ToQt(error.what()));
+        QMessageBox::warning(
+            this, tr("Save query"),
+            tr("The query could not be saved as %1: %2").arg(Isolated(file), FileReason(error)));
         return false;
     }
     queryFile = file;
@@ -252,21 +260,34 @@ bool TMainWindow::MayDiscard() {
 
 /// By its name: a query, a statement, or else a database.
 void TMainWindow::OpenFile(const QString& file) {
-    if (!MayDiscard()) return;
     const QString suffix = QFileInfo(file).suffix().toLower();
+    if (suffix == QLatin1String("sql")) return ReadSQLFile(file); // which can be undone
+    if (!MayDiscard()) return;
     if (suffix == QLatin1String("qry")) {
         LoadQuery(file);
-    } else if (suffix == QLatin1String("sql")) {
-        QFile opened(file);
-        if (opened.open(QIODevice::ReadOnly))
-            ReadSQL(QString::fromUtf8(opened.readAll()));
-        else
-            QMessageBox::warning(this, tr("Read SQL"), opened.errorString());
     } else {
         TKDatabaseURL url;
         url.database = FromQt(file);
         OpenDatabase(url);
     }
+}
+
+/// What the reading met without failing.
+void TMainWindow::TellWarnings() {
+    const TStrings& warnings = conditions->Query().LoadWarnings();
+    if (warnings.empty()) return;
+    queryMessages->Say(TMessageBar::TKind::Note,
+                       [warning = ToQt(warnings.front())] { return MessageText(warning); });
+}
+
+void TMainWindow::ReadSQLFile(const QString& file) {
+    QFile opened(file);
+    if (opened.open(QIODevice::ReadOnly))
+        ReadSQL(QString::fromUtf8(opened.readAll()));
+    else
+        QMessageBox::warning(
+            this, tr("Read SQL"),
+            tr("The file %1 could not be read: %2").arg(Isolated(file), opened.errorString()));
 }
 
 /// Rows and columns over fields that the database does not have any more.
@@ -291,10 +312,13 @@ void TMainWindow::SaveRows() {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("csv"));
     if (dialog.exec() != QDialog::Accepted) return;
+    const QString file = dialog.selectedFiles().front();
     try {
-        results->SaveAsCsv(dialog.selectedFiles().front());
+        results->SaveAsCsv(file);
     } catch (const std::exception& error) {
-        QMessageBox::warning(this, tr("Save rows"), ToQt(error.what()));
+        QMessageBox::warning(
+            this, tr("Save rows"),
+            tr("The rows could not be saved as %1: %2").arg(Isolated(file), FileReason(error)));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "main_window.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <QAction>
 #include <QApplication>
@@ -17,6 +18,7 @@
 #include <tern7/ui/panels/row_problem.h>
 #include <tern7/ui/support/text.h>
 
+#include "../data/error_text.h"
 #include "parameter_dialog.h"
 #include "result_view.h"
 
@@ -27,9 +29,9 @@ namespace {
 constexpr size_t mostTrials = 100;
 constexpr qsizetype mostSQL = 100'000; // characters that are shown
 
-/// A message that is there in one language only.
-TWording Fixed(const char* message) {
-    return [text = ToQt(message)] { return text; };
+/// A message of the library.
+TWording Message(const char* message) {
+    return [text = ToQt(message)] { return MessageText(text); };
 }
 
 /// The conditions of a query, depth first.
@@ -57,19 +59,31 @@ void TMainWindow::ShowSQL() {
     if (!session) return;
     UpdateTitle();
     UpdateActions();
+    std::optional<TBoundSQL> statement;
     try {
         conditions->BuildQuery();
         sqlText->setPlainText(ToQt(conditions->QResult().GetSQL().Text()).left(mostSQL));
         sqlText->setPlaceholderText({});
+        statement = PresentStatement();
     } catch (const std::exception& error) {
         sqlText->clear();
         const bool empty = columns->ResultFields().GetCount() == 0;
-        sqlText->setPlaceholderText(empty ? tr("Add a column to begin.") : ToQt(error.what()));
+        sqlText->setPlaceholderText(empty ? tr("Add a column to begin.") : ErrorText(error));
     }
+    results->CompareWith(statement);
     ShowGrouping();
     ShowTables();
     ShowSorting();
     if (queryMessages->Shown() == unfinishedMessage) ShowUnfinished(); // perhaps no more, or others
+}
+
+/// What would be run; none when the query can not be.
+std::optional<TBoundSQL> TMainWindow::PresentStatement() const {
+    try {
+        return conditions->QResult().GetBoundSQL();
+    } catch (const std::exception&) {
+        return {}; // a run would say why
+    }
 }
 
 /// With sums, counts and the like there is a row for each combination of the other columns.
@@ -128,6 +142,7 @@ void TMainWindow::RunWith(bool asking) {
         if (!param->HasValue() && !asking) return; // it is asked for when the user runs the query
     try {
         TRunRequest request = MakeRequest();
+        results->SetStatement(request.statement);
         results->SetCaptions(Captions());
         runner.Run(std::move(request));
         if (asking) ShowUnfinished(); // else the rows say so themselves
@@ -136,10 +151,10 @@ void TMainWindow::RunWith(bool asking) {
         TFilterCond& row = const_cast<TFilterCond&>(error.Condition());
         const int number = row.RowNum();
         queryMessages->Say(
-            TMessageBar::TKind::Warning, Fixed(error.what()), [] { return tr("Show the row"); },
+            TMessageBar::TKind::Warning, Message(error.what()), [] { return tr("Show the row"); },
             [this, number] { FocusRow(number); });
     } catch (const std::exception& error) {
-        if (asking) queryMessages->Say(TMessageBar::TKind::Warning, Fixed(error.what()));
+        if (asking) queryMessages->Say(TMessageBar::TKind::Warning, Message(error.what()));
     }
 }
 
@@ -192,10 +207,11 @@ std::vector<TRunRequest::TTrial> TMainWindow::MakeTrials() const {
 
 void TMainWindow::RunFailed(const QString& message, int row) {
     if (row < 0)
-        return results->Messages().Say(TMessageBar::TKind::Warning, [message] { return message; });
+        return results->Messages().Say(TMessageBar::TKind::Warning,
+                                       [message] { return MessageText(message); });
     results->Messages().Say(
         TMessageBar::TKind::Warning,
-        [this, message, row] { return tr("“%1”: %2").arg(Sentence(row), message); },
+        [this, message, row] { return tr("“%1”: %2").arg(Sentence(row), MessageText(message)); },
         [] { return tr("Show the row"); }, [this, row] { FocusRow(row); });
 }
 
@@ -233,7 +249,7 @@ TFilterCond* TMainWindow::RowOf(int number) const {
 QString TMainWindow::Sentence(int number) const {
     const TFilterCond* row = RowOf(number);
     if (!row) return {};
-    return ToQt(TKRowTexts(conditions->Titles()).Sentence(*row, conditions->Query().Style()));
+    return ToQt(conditions->RowTexts().Sentence(*row, conditions->Query().Style()));
 }
 
 void TMainWindow::FocusRow(int number) {

@@ -1,64 +1,101 @@
 #include "main_window.h"
 
 #include <QMessageBox>
-#include <QRegularExpression>
 
+#include <tern7/core/corekit/scanner.h>
+#include <tern7/core/global/messages.h>
 #include <tern7/core/query/read_sql/sql_report.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/text.h>
 
+#include "../data/error_text.h"
 #include "read_sql_dialog.h"
 #include "report_dialog.h"
 
 namespace tern7 {
 
-/// The message of the error and its line, or nothing.
-QString TMainWindow::TryReadSQL(const QString& sql, int& line) {
+namespace {
+
+TReadProblem Problem(const QString& text, TKTextPosition at) {
+    return {text.arg(at.line).arg(at.column), at.line, at.column};
+}
+
+TReadProblem ProblemOf(const std::string& sql, const std::exception& error) {
+    const auto* wrong = dynamic_cast<const ESQLParserError*>(&error);
+    if (!wrong) return {ErrorText(error), 0, 0};
+    const auto source = std::make_shared<const TKSourceText>(sql);
+    TKScanner scanner;
+    scanner.SetSource(source);
+    // A string that is not closed takes all that follows it.
+    if (const std::string_view open = scanner.OpenString(); !open.empty())
+        return Problem(
+            TMainWindow::tr("The string that begins at line %1, column %2 is not closed."),
+            source->PositionOf(source->OffsetOf(open)));
+    const TKTextPosition at{wrong->Line(), wrong->Column()};
+    if (std::string_view(wrong->what()).starts_with(messages::LostBracket))
+        return Problem(
+            TMainWindow::tr("At line %1, column %2 a bracket is missing, or there is one "
+                            "too many."),
+            at);
+    while (!scanner.EOS())
+        scanner.NextToken();
+    const TKTextPosition end = source->PositionOf(scanner.GetTokOffset());
+    if (at.line == end.line && at.column == end.column)
+        return Problem(TMainWindow::tr("The statement ends too early, at line %1, column %2."), at);
+    return Problem(
+        TMainWindow::tr("The text is no SELECT statement that can be read: from line %1, "
+                        "column %2 on it does not go on as one."),
+        at);
+}
+
+} // namespace
+
+/// Reads a statement as one step that can be taken back. What is wrong with it when it can not be
+/// read; nothing has happened then.
+std::optional<TReadProblem> TMainWindow::TryReadSQL(const QString& sql) {
+    conditions->CloseEdit();
     TKQuery& query = conditions->Query();
-    const std::string before = query.GetQueryString();
+    const std::string text = FromQt(sql);
+    const auto read = [&] {
+        try {
+            query.ImportSQL(text);
+        } catch (const std::exception&) {
+            query.SetActive(true);
+            throw;
+        }
+    };
     try {
-        query.ImportSQL(FromQt(sql));
+        readSQLChanged =
+            conditions->Editor().Run(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Read SQL"), read);
         return {};
     } catch (const std::exception& error) {
-        query.SetQueryString(before);
-        query.SetActive(true);
-        static const QRegularExpression lineOfError(QStringLiteral("Line: ?(\\d+)"));
-        const QString message = ToQt(error.what());
-        line = lineOfError.match(message).captured(1).toInt();
-        return message;
+        return ProblemOf(text, error);
     }
 }
 
-void TMainWindow::ShowReport(const std::string& before) {
-    TKQuery& query = conditions->Query();
-    const TSQLReport report = query.SQLReport();
+void TMainWindow::ShowReport() {
+    const TSQLReport report = conditions->Query().SQLReport();
     QueryChanged();
     if (!report.Has(TSQLReportKind::rkKeptAsText) && !report.AnyDropped()) return;
     TReportDialog dialog(report, this);
-    if (dialog.exec() == QDialog::Accepted) return;
-    query.SetQueryString(before);
-    QueryChanged();
+    if (dialog.exec() == QDialog::Rejected && readSQLChanged) conditions->Undo();
 }
 
 bool TMainWindow::ReadSQL(const QString& sql) {
     if (!session) return false;
-    const std::string before = QueryText();
-    int line = 0;
-    const QString message = TryReadSQL(sql, line);
-    if (!message.isEmpty()) {
-        QMessageBox::warning(this, tr("Read SQL"), message);
+    if (const auto problem = TryReadSQL(sql)) {
+        QMessageBox::warning(this, tr("Read SQL"), problem->message);
         return false;
     }
-    ShowReport(before);
+    ShowReport();
     return true;
 }
 
 void TMainWindow::AskForSQL() {
     if (!session) return;
-    const std::string before = QueryText();
     TReadSQLDialog dialog(
-        ShownSQL(), [this](const QString& sql, int& line) { return TryReadSQL(sql, line); }, this);
-    if (dialog.exec() == QDialog::Accepted) ShowReport(before);
+        ShownSQL(), [this](const QString& sql) { return TryReadSQL(sql); }, this);
+    if (dialog.exec() == QDialog::Accepted) ShowReport();
 }
 
 } // namespace tern7

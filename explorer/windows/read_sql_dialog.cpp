@@ -30,6 +30,7 @@ TReadSQLDialog::TReadSQLDialog(const QString& sql, TRead itsRead, QWidget* paren
     label->setBuddy(text);
     error->setWordWrap(true);
     error->hide();
+    connect(text, &QPlainTextEdit::textChanged, this, [this] { text->setExtraSelections({}); });
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(tr("&Read"));
     connect(buttons, &QDialogButtonBox::accepted, this, &TReadSQLDialog::Read);
@@ -43,15 +44,30 @@ TReadSQLDialog::TReadSQLDialog(const QString& sql, TRead itsRead, QWidget* paren
 }
 
 void TReadSQLDialog::Read() {
-    int line = 0;
-    const QString message = read(text->toPlainText(), line);
-    if (message.isEmpty()) return accept();
-    error->setText(message);
+    const std::optional<TReadProblem> problem = read(text->toPlainText());
+    if (!problem) return accept();
+    error->setText(problem->message);
     error->show();
-    if (line < 1) return;
-    const QTextBlock block = text->document()->findBlockByNumber(line - 1);
-    text->setTextCursor(QTextCursor(block));
+    text->setAccessibleDescription(problem->message);
+    if (problem->line > 0) Mark(problem->line, problem->column);
     text->setFocus();
+}
+
+/// The cursor stands where the reading stopped; the line is tinted until something is typed.
+void TReadSQLDialog::Mark(int line, int column) {
+    const QTextBlock block = text->document()->findBlockByNumber(line - 1);
+    if (!block.isValid()) return;
+    QTextCursor cursor(block);
+    cursor.setPosition(block.position() + std::clamp(column - 1, 0, block.length() - 1));
+    text->setTextCursor(cursor);
+    text->ensureCursorVisible();
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = cursor;
+    QColor tint(0xE0, 0x90, 0x00);
+    tint.setAlpha(70);
+    mark.format.setBackground(tint);
+    mark.format.setProperty(QTextFormat::FullWidthSelection, true);
+    text->setExtraSelections({mark});
 }
 
 } // namespace tern7

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include <QDialog>
 
@@ -9,18 +10,24 @@ class QPlainTextEdit;
 
 namespace tern7 {
 
+/// Why a statement can not be read, and where; line and column count from 1, 0 is nowhere.
+struct TReadProblem {
+    QString message;
+    int line = 0, column = 0;
+};
+
 /// Asks for a statement and stays open with what was typed when it can not be read.
 class TReadSQLDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// `read` gives the message of an error and its line, or an empty message.
-    using TRead = std::function<QString(const QString& sql, int& line)>;
+    using TRead = std::function<std::optional<TReadProblem>(const QString& sql)>;
 
     TReadSQLDialog(const QString& sql, TRead read, QWidget* parent = nullptr);
 
 private:
     void Read();
+    void Mark(int line, int column);
 
     TRead read;
     QPlainTextEdit* text;

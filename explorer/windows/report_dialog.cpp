@@ -50,6 +50,8 @@ QString Outcome(TSQLReportKind kind) {
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "no link of the structure"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the columns ask for other groups"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the query joins the tables in another order"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "text"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the string is not closed"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure has no such table"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure joins it in another way"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure joins these tables in another way"),
@@ -61,12 +63,14 @@ TReportDialog::TReportDialog(const TSQLReport& report, QWidget* parent) : QDialo
     setWindowTitle(tr("What was read"));
     auto* list = new QTreeWidget;
     list->setRootIsDecorated(false);
-    list->setHeaderLabels({tr("Outcome"), tr("Part"), tr("Text"), tr("Reason"), tr("Line")});
+    list->setHeaderLabels(
+        {tr("Outcome"), tr("Part"), tr("Text"), tr("Reason"), tr("Line, column")});
     int kept = 0, dropped = 0;
     for (const TSQLReportEntry& entry : report.Entries()) {
-        auto* item = new QTreeWidgetItem({Outcome(entry.kind), tr(entry.what.c_str()),
-                                          ToQt(entry.text).simplified(), tr(entry.reason.c_str()),
-                                          QString::number(entry.position.line)});
+        auto* item = new QTreeWidgetItem(
+            {Outcome(entry.kind), tr(entry.what.c_str()), ToQt(entry.text).simplified(),
+             tr(entry.reason.c_str()),
+             QStringLiteral("%1, %2").arg(entry.position.line).arg(entry.position.column)});
         for (int i = 0; i < item->columnCount(); ++i)
             item->setToolTip(i, item->text(i));
         kept += entry.kind == TSQLReportKind::rkKeptAsText;

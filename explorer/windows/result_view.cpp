@@ -73,11 +73,15 @@ void TResultView::Attach(TQueryRunner& runner) {
         for (size_t i = 0; i < columns.size() && captions.size() == columns.size(); ++i)
             columns[i].name = captions[i];
         model->SetColumns(columns);
+        shown = asked;
+        rowsAreOfRun = true;
+        CompareWith(present);
         fitted = false;
         FitColumns();
     });
     connect(&runner, &TQueryRunner::rowsRead, this,
             [this](const std::shared_ptr<TResultRows>& rows) {
+                received += static_cast<int>(rows->size());
                 model->Append(std::move(*rows));
                 if (!fitted) FitColumns();
                 fitted = true;
@@ -102,6 +106,8 @@ void TResultView::Attach(TQueryRunner& runner) {
 
 void TResultView::RunStarted() {
     messages->Clear();
+    received = 0;
+    rowsAreOfRun = false;
     sinceStart.start();
     clock.start();
     progress->show();
@@ -111,20 +117,49 @@ void TResultView::RunStarted() {
 void TResultView::RunEnded(TWording words) {
     clock.stop();
     progress->hide();
+    if (rowsAreOfRun) rowWords = words;
     Summarise(std::move(words));
     emit runEnded();
 }
 
 void TResultView::ShowCount() {
     if (!clock.isActive()) return;
-    Summarise([rows = model->rowCount(), time = sinceStart.elapsed()] {
+    Summarise([rows = received, time = sinceStart.elapsed()] {
         return tr("Running... %1, %2 s").arg(tr("%n row(s)", nullptr, rows), Seconds(time));
     });
 }
 
 void TResultView::Summarise(TWording words) {
     summaryWords = std::move(words);
-    summary->setText(summaryWords());
+    ShowSummary();
+}
+
+void TResultView::ShowSummary() {
+    const QString words = summaryWords();
+    const bool marked = outdated && !clock.isActive();
+    summary->setText(marked ? tr("Rows of the query before the last changes · %1").arg(words)
+                            : words);
+    table->setAccessibleDescription(summary->text());
+}
+
+void TResultView::SetStatement(const TBoundSQL& statement) {
+    asked = statement;
+    CompareWith(statement);
+}
+
+void TResultView::CompareWith(const std::optional<TBoundSQL>& statement) {
+    present = statement;
+    const bool same =
+        shown && present && shown->text == present->text && shown->values == present->values;
+    MarkOutdated(shown && !same);
+}
+
+void TResultView::MarkOutdated(bool value) {
+    const bool again = outdated && !value && !clock.isActive() && rowWords;
+    outdated = value;
+    if (again) summaryWords = rowWords; // perhaps another run has failed meanwhile
+    model->SetPale(value);
+    ShowSummary();
 }
 
 void TResultView::changeEvent(QEvent* event) {
@@ -132,7 +167,7 @@ void TResultView::changeEvent(QEvent* event) {
     if (event->type() == QEvent::FontChange && table) FitRows();
     if (event->type() != QEvent::LanguageChange) return;
     table->setAccessibleName(tr("Result rows"));
-    summary->setText(summaryWords());
+    ShowSummary();
 }
 
 QString TResultView::Summary() const {
@@ -142,6 +177,10 @@ QString TResultView::Summary() const {
 void TResultView::Clear() {
     model->Clear();
     messages->Clear();
+    shown.reset();
+    rowWords = nullptr;
+    outdated = false;
+    model->SetPale(false);
     Summarise([] { return tr("Not run yet"); });
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
@@ -25,6 +27,12 @@ public:
     void Attach(TQueryRunner& runner);
     /// What the columns of the next run are called; aliases are not always what users wrote.
     void SetCaptions(std::vector<std::string> list) { captions = std::move(list); }
+    /// What the next run asks the database.
+    void SetStatement(const TBoundSQL& statement);
+    /// The statement of the query as it is now, none when there is none: rows of another one are
+    /// marked.
+    void CompareWith(const std::optional<TBoundSQL>& present);
+    bool IsOutdated() const { return outdated; }
     TResultModel& Model() { return *model; }
     QTableView& Table() { return *table; }
     TMessageBar& Messages() { return *messages; }
@@ -51,19 +59,25 @@ private:
     void RunEnded(TWording words);
     void ShowCount();
     void Summarise(TWording words);
+    void ShowSummary();
+    void MarkOutdated(bool value);
     void FitColumns();
     void FitRows();
 
     TMessageBar* messages;
     QTableView* table = nullptr;
     QLabel* summary;
-    TWording summaryWords;
+    TWording summaryWords, rowWords; // of the last run, of that which the rows are of
     std::vector<std::string> captions;
+    std::optional<TBoundSQL> asked, shown, present; // of the next or last run, of the rows, now
+    bool outdated = false;
     QProgressBar* progress;
     TResultModel* model;
     QElapsedTimer sinceStart;
     QTimer clock; // shows the time that passes
     bool fitted = false;
+    int received = 0; // rows of this run
+    bool rowsAreOfRun = false;
 };
 
 } // namespace tern7

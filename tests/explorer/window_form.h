@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLocale>
+#include <QMessageBox>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -35,12 +36,14 @@ struct TAnswer {
             if (!dialog) return;
             timer.stop();
             seen = true;
+            if (const auto* box = qobject_cast<QMessageBox*>(dialog)) text = box->text();
             dialog->done(code);
         });
         timer.start(20);
     }
     QTimer timer;
     bool seen = false;
+    QString text; // of a message
 };
 
 /// The window over the sample database with the example's structure.

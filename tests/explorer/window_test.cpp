@@ -45,7 +45,7 @@ TEST_F(TWindowTest, SavedAndOpenedAgain) {
     EXPECT_EQ(window->Columns().ResultFields().GetCount(), 1);
     TAnswer answer(QDialog::Accepted);
     EXPECT_FALSE(window->SaveQuery("/no such folder/x.qry"));
-    EXPECT_TRUE(answer.seen);
+    EXPECT_TRUE(answer.text.contains("No such file or directory")) << FromQt(answer.text);
 }
 
 TEST_F(TWindowTest, DamagedQueryChangesNothing) {
@@ -69,9 +69,69 @@ TEST_F(TWindowTest, StatementIsRead) {
     Run();
     EXPECT_GT(RowCount(), 0);
     EXPECT_GT(Cell(0, 1).toDouble(), 50);
-    const TAnswer message(QDialog::Accepted);
-    EXPECT_FALSE(window->ReadSQL("selec nonsense"));
-    EXPECT_EQ(window->Columns().ResultFields().GetCount(), 2);
+}
+
+TEST_F(TWindowTest, ReadingSQLIsOneStep) {
+    AddColumn("Price");
+    TKQueryPanel& panel = window->Conditions();
+    panel.Editor().AddCondition(panel.Root(), 0); // without a field
+    const auto texts = [&] {
+        return std::pair(panel.Query().GetQueryString(), panel.Root().GetRowCount());
+    };
+    const auto before = texts();
+    const QString sql = "select quantity from order_lines where unit_price > 50 and 1 = 1";
+    for (const bool keep : {true, false}) {
+        SCOPED_TRACE(keep);
+        const TAnswer report(keep ? QDialog::Accepted : QDialog::Rejected);
+        ASSERT_TRUE(window->ReadSQL(sql));
+        EXPECT_TRUE(report.seen);
+        const auto read = texts();
+        if (keep) {
+            EXPECT_NE(read, before);
+            panel.Undo();
+        }
+        EXPECT_EQ(texts(), before);
+        panel.Redo();
+        EXPECT_NE(texts(), before);
+        panel.Undo();
+        EXPECT_EQ(texts(), before);
+    }
+    ASSERT_TRUE(window->SaveQuery(folder.filePath("one.qry")));
+    ASSERT_TRUE(window->LoadQuery(folder.filePath("one.qry")));
+    EXPECT_FALSE(panel.Editor().CanRedo()) << "a query that is opened begins anew";
+}
+
+TEST_F(TWindowTest, StatementThatCanNotBeReadSaysWhere) {
+    AddColumn("Price");
+    const struct {
+        const char *sql, *message;
+    } cases[] = {
+        {"selec nonsense", "line 1, column 1 on"},
+        {"select quantity\nfrom order_lines\nwhere (unit_price > 1", "line 3, column 22"},
+        {"select quantity, 'abc from order_lines", "string that begins at line 1, column 18"},
+    };
+    for (const auto& each : cases) {
+        const TAnswer answer(QDialog::Accepted);
+        EXPECT_FALSE(window->ReadSQL(each.sql));
+        EXPECT_TRUE(answer.text.contains(each.message)) << FromQt(answer.text);
+        EXPECT_EQ(window->Columns().ResultFields().GetCount(), 1);
+    }
+}
+
+TEST_F(TWindowTest, RowsOfAnotherQueryAreMarked) {
+    ASSERT_TRUE(window->LoadQuery(Queries("turnover.qry")));
+    Run();
+    const QString summary = window->Results().Summary();
+    TKQueryEditor& editor = window->Conditions().Editor();
+    editor.SetSQLOption(TSQLOption::soSelectDistinct, true);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window->Results().IsOutdated(); }));
+    EXPECT_TRUE(window->Results().Summary().startsWith("Rows of the query before"));
+    editor.Undo();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !window->Results().IsOutdated(); }));
+    EXPECT_EQ(window->Results().Summary(), summary);
+    editor.Redo();
+    Run();
+    EXPECT_FALSE(window->Results().IsOutdated());
 }
 
 TEST_F(TWindowTest, RunningAfterEveryChangeLeavesMenusAlone) {
@@ -92,6 +152,14 @@ TEST_F(TWindowTest, RunningAfterEveryChangeLeavesMenusAlone) {
     EXPECT_TRUE(bar->Text().contains("not finished"));
     panel.Editor().Undo();
     EXPECT_TRUE(QTest::qWaitFor([&] { return bar->Text().isEmpty(); }));
+}
+
+TEST_F(TWindowTest, OpenedQueryRunsWithEveryChange) {
+    Choose("Run after every c&hange");
+    QSignalSpy ended(window.get(), &TMainWindow::runEnded);
+    ASSERT_TRUE(window->LoadQuery(Queries("turnover.qry")));
+    ASSERT_TRUE(ended.count() == 1 || ended.wait());
+    EXPECT_EQ(RowCount(), 44);
 }
 
 TEST_F(TWindowTest, NewQueryStartsFromNoTable) {

@@ -91,6 +91,11 @@ std::string LinkTarget(std::string name) {
     return {};
 }
 
+/// The system's number of what has just failed.
+int Failure() {
+    return errno != 0 ? errno : EIO;
+}
+
 /// Opens a new file in the folder that nobody else has.
 int OpenTemporary(const std::string& folder, mode_t mode, std::string& name) {
     constexpr int maxTries = 100;
@@ -124,25 +129,30 @@ void FlushFolder(const std::string& folder) {
     if (opened.IsOpen()) ::fsync(opened.Get());
 }
 
-bool Replace(const std::string& target, std::string_view bytes) {
+/// 0, or the system's number of what failed.
+int Replace(const std::string& target, std::string_view bytes) {
     struct stat old;
     const bool exists = ::lstat(target.c_str(), &old) == 0;
-    if (exists ? !S_ISREG(old.st_mode) : errno != ENOENT) return false;
+    if (!exists && errno != ENOENT) return Failure();
+    if (exists && !S_ISREG(old.st_mode)) return S_ISDIR(old.st_mode) ? EISDIR : EINVAL;
     // A file that may not be written is not replaced either, though its folder would allow it.
-    if (exists && ::access(target.c_str(), W_OK) != 0) return false;
+    if (exists && ::access(target.c_str(), W_OK) != 0) return Failure();
 
     const std::string folder = FolderOf(target);
     std::string temporary;
     TFile file(OpenTemporary(folder, exists ? old.st_mode & 0777 : 0666, temporary));
-    if (!file.IsOpen()) return false;
+    if (!file.IsOpen()) return Failure();
+    errno = 0;
     const bool written = WriteAll(file.Get(), bytes) && (!exists || TakeOver(file.Get(), old)) &&
-                         HasSize(file.Get(), bytes.size()) && ::fsync(file.Get()) == 0;
-    if (!file.Close() || !written || std::rename(temporary.c_str(), target.c_str()) != 0) {
+                         HasSize(file.Get(), bytes.size()) && ::fsync(file.Get()) == 0 &&
+                         file.Close() && std::rename(temporary.c_str(), target.c_str()) == 0;
+    if (!written) {
+        const int reason = Failure();
         ::unlink(temporary.c_str());
-        return false;
+        return reason;
     }
     FlushFolder(folder);
-    return true;
+    return 0;
 }
 
 } // namespace
@@ -151,14 +161,19 @@ std::string ReadWholeFile(const std::string& fileName) {
     std::string bytes;
     const TFile file(IsFileName(fileName) ? ::open(fileName.c_str(), O_RDONLY | O_CLOEXEC) : -1);
     if (!file.IsOpen() || !ReadAll(file.Get(), bytes))
-        throw EKTernError(FormatMessage(messages::CanNotOpenFile, {fileName}));
+        throw EKFileError(FormatMessage(messages::CanNotOpenFile, {fileName}),
+                          IsFileName(fileName) ? Failure() : ENOENT);
     return bytes;
 }
 
 void WriteWholeFile(const std::string& fileName, std::string_view bytes) {
-    const std::string target = IsFileName(fileName) ? LinkTarget(fileName) : std::string();
-    if (target.empty() || !Replace(target, bytes))
-        throw EKTernError(FormatMessage(messages::CanNotWriteFile, {fileName}));
+    int reason = ENOENT;
+    if (IsFileName(fileName)) {
+        const std::string target = LinkTarget(fileName);
+        reason = target.empty() ? ELOOP : Replace(target, bytes);
+    }
+    if (reason != 0)
+        throw EKFileError(FormatMessage(messages::CanNotWriteFile, {fileName}), reason);
 }
 
 } // namespace tern7

@@ -1,5 +1,7 @@
 #include <tern7/core/corekit/scanner.h>
 
+#include <algorithm>
+
 namespace tern7 {
 
 TKScanner::TKScanner() : TKScanner(std::make_shared<const TKVocabulary>()) {}
@@ -42,6 +44,20 @@ std::string_view TKScanner::Rest() const {
 
 std::string_view TKScanner::Behind() const {
     return TrimRight(source->Text().substr(tokens.Behind()));
+}
+
+std::string_view TKScanner::OpenString() const {
+    if (tokens.Count() < 2) return {};
+    const size_t last = tokens.Count() - 2;
+    const std::string_view text = RealStr(last);
+    if (text.empty()) return {};
+    char close = 0;
+    if (tokens.Type(last) == TKTokenType::Literal) close = '\'';
+    if (tokens.Type(last) == TKTokenType::Name)
+        close = nameQuotes[static_cast<unsigned char>(text.front())];
+    if (close == 0) return {};
+    // inner ones are doubled
+    return std::count(text.begin() + 1, text.end(), close) % 2 == 0 ? text : std::string_view();
 }
 
 } // namespace tern7

@@ -68,6 +68,8 @@ public:
     }
     /// The source from the current token to the end, blanks at the end aside.
     std::string_view Rest() const;
+    /// The literal or quoted name that the text leaves open; empty when there is none.
+    std::string_view OpenString() const;
     /// The source behind the semicolon that ends the statement, without blanks around.
     std::string_view Behind() const;
 

@@ -307,11 +307,12 @@ void TKSQLParser::SkipTokens(uint8_t word) {
 }
 
 void TKSQLParser::Error(std::string_view message) const {
-    RaiseSQLError(message, scanner.GetTokLine());
+    RaiseSQLError(message, scanner.Source()->PositionOf(scanner.GetTokOffset()));
 }
 
-void RaiseSQLError(std::string_view message, int line) {
-    throw ESQLParserError(std::string(message) + "\r\nLine:" + std::to_string(line));
+void RaiseSQLError(std::string_view message, TKTextPosition at) {
+    throw ESQLParserError(std::string(message) + "\r\nLine:" + std::to_string(at.line), at.line,
+                          at.column);
 }
 
 } // namespace tern7

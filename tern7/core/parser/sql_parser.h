@@ -11,8 +11,8 @@
 
 namespace tern7 {
 
-/// ESQLParserError with the message and the line.
-[[noreturn]] void RaiseSQLError(std::string_view message, int line);
+/// ESQLParserError with the message and the place.
+[[noreturn]] void RaiseSQLError(std::string_view message, TKTextPosition at);
 
 /// Reads one SELECT statement into a TKParserResult. It does not check SQL in general: it takes
 /// what a query panel needs and leaves out the rest.

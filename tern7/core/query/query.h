@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -135,6 +136,9 @@ public:
     /// Between the local form of a date or time and the structure's SQL form. A text that is no
     /// date comes back as it is.
     std::string ProcessDateValue(TFieldType type, std::string_view value, bool toSQL) const;
+    /// Runs a call after which the services read and write dates in another local form. All values
+    /// follow, those of rows that undo keeps and of nested queries included; no event is raised.
+    void ChangeLocalForms(const std::function<void()>& change);
     /// The text of one condition; empty when it is unfinished.
     std::string ConditionText(const TFilterCond& condition) const;
 
@@ -293,6 +297,7 @@ private:
     void DropParams(const std::vector<std::unique_ptr<TFilterRow>>& rows);
     void BracketChanged(TFilterBracket& bracket);
     void SubQueryChanged(TFilterCond& condition);
+    void ConvertDates(bool toStored);
     void StoreSQLReport(TSQLReport report);
     void ReadingDone(bool wasActive);
 

@@ -75,13 +75,17 @@ void TKQueryRecord::OptionsChange(TSQLOptions to) {
     changes.emplace_back(TOptions{mask, now & mask});
 }
 
+void TKQueryRecord::SyntaxChanges() {
+    changes.emplace_back(TSyntax{query.SQLSyntax()});
+}
+
 void TKQueryRecord::JoiningChanges() {
     changes.emplace_back(TJoining{query.MainTableName(), query.AvoidedJoins()});
 }
 
 void TKQueryRecord::TextsChange() {
     changes.emplace_back(TTexts{query.QueryName(), query.FormatVersion(), query.Titles,
-                             query.Description, query.UserData});
+                                query.Description, query.UserData});
 }
 
 void TKQueryRecord::Append(TKQueryRecord& later) {
@@ -180,6 +184,11 @@ void TKQueryRecord::Turn(TOptions& change, bool, TToldRows&) {
     const int now = SQLOptionsToInt(query.SQLOptions());
     query.SetSQLOptions(IntToSQLOptions((now & ~change.mask) | change.other));
     change.other = now & change.mask;
+}
+
+void TKQueryRecord::Turn(TSyntax& change, bool, TToldRows&) {
+    const TSQLSyntax now = query.SQLSyntax();
+    query.SetSQLSyntax(std::exchange(change.other, now));
 }
 
 void TKQueryRecord::Turn(TJoining& change, bool, TToldRows&) {

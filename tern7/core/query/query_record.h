@@ -55,6 +55,7 @@ public:
     void ColumnMoved(int from, int to);
     void JustSortingChanges();
     void OptionsChange(TSQLOptions to);
+    void SyntaxChanges();
     /// Before the main table or the avoided joins change.
     void JoiningChanges();
     /// Before another query text is read.
@@ -89,6 +90,9 @@ private:
     struct TOptions {
         int mask, other; // only the bits that this step changed; those of the other state
     };
+    struct TSyntax {
+        TSQLSyntax other;
+    };
     struct TJoining {
         std::string mainTable;
         TAvoidedJoins avoided;
@@ -99,7 +103,7 @@ private:
         TStrings titles, description, userData;
     };
     using TChange = std::variant<TRowContents, TRowPlace, TColumnContents, TColumnPlace,
-                                 TColumnMove, TJustSorting, TOptions, TJoining, TTexts>;
+                                 TColumnMove, TJustSorting, TOptions, TSyntax, TJoining, TTexts>;
     struct TToldRow {
         TFilterRow* row;
         unsigned what; // see TFilterRow::Exchange
@@ -114,6 +118,7 @@ private:
     void Turn(TColumnMove& change, bool undo, TToldRows& told);
     void Turn(TJustSorting& change, bool undo, TToldRows& told);
     void Turn(TOptions& change, bool undo, TToldRows& told);
+    void Turn(TSyntax& change, bool undo, TToldRows& told);
     void Turn(TJoining& change, bool undo, TToldRows& told);
     void Turn(TTexts& change, bool undo, TToldRows& told);
 

@@ -30,6 +30,7 @@ void TQueryResult::SetSQLOptions(TSQLOptions value) {
 
 void TQueryResult::SetSQLSyntax(TSQLSyntax value) {
     if (value == syntax) return;
+    if (TKQueryRecord* record = query.Record()) record->SyntaxChanges();
     syntax = value;
     query.Changed();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <climits>
+#include <exception>
 #include <string>
 #include <string_view>
 
@@ -16,7 +17,8 @@ namespace tern7 {
 /// The integer of a key, `otherwise` when it is missing or empty.
 int IntInRange(const TKIniSection& section, std::string_view key, int otherwise, int low, int high);
 
-/// What the call returns; an error that it raises for the text becomes one of the query.
+/// What the call returns; an error that it raises for the text becomes one of the query, with the
+/// first one nested in it.
 template <class TCall>
 auto AsQueryError(TCall call) {
     try {
@@ -24,7 +26,7 @@ auto AsQueryError(TCall call) {
     } catch (const EKQueryPanelError&) {
         throw;
     } catch (const EKTernError& error) {
-        throw EKQueryPanelError(error.what());
+        std::throw_with_nested(EKQueryPanelError(error.what()));
     }
 }
 

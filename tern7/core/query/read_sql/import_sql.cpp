@@ -16,6 +16,7 @@ constexpr std::string_view noTable = "the structure has no such table";
 constexpr std::string_view unknownNames = "it names what the structure does not have";
 constexpr std::string_view aliasChanged = "another column has this alias";
 constexpr std::string_view notSaid = "a query can not say it";
+constexpr std::string_view notClosed = "the string is not closed";
 
 bool HasNonAsciiChar(std::string_view text) {
     return std::any_of(text.begin(), text.end(),
@@ -84,7 +85,7 @@ void TSQLImporter::Parse(std::string_view sql) {
         const TImportNode* const deep = condition ? FirstTooDeep(*condition) : nullptr;
         if (!deep) return;
         parser.Tokens().GotoBookmark(deep->body.from);
-        RaiseSQLError(messages::WrongSQL, parser.Tokens().GetTokLine());
+        RaiseSQLError(messages::WrongSQL, source->PositionOf(parser.Tokens().GetTokOffset()));
     };
     refuseDeep(statement.where);
     for (const TImportTable& table : statement.tables)
@@ -113,6 +114,7 @@ TSQLReport TSQLImporter::Fill() {
     const TSQLRest& rest = parser.Result().Rest;
     if (!rest.text.empty())
         report.Add(TReport::rkDropped, "rest", rest.text, source->OffsetOf(rest.text), notSaid);
+    ReportOpenString();
     CheckGrouping();
     if (failure.empty())
         CheckJoins();
@@ -127,6 +129,13 @@ void TSQLImporter::Report(TSQLReportKind kind, std::string_view what, TTokenRang
                           std::string_view reason) {
     const std::string_view text = parser.Written(range);
     report.Add(kind, what, text, source->OffsetOf(text), reason);
+}
+
+/// A string that is not closed takes all that follows it.
+void TSQLImporter::ReportOpenString() {
+    const std::string_view text = parser.Tokens().OpenString();
+    if (!text.empty())
+        report.Add(TReport::rkKeptAsText, "text", text, source->OffsetOf(text), notClosed);
 }
 
 std::string TSQLImporter::Rewrite(TTokenRange range) {

@@ -81,6 +81,7 @@ private:
     bool IsBuiltInOrder() const;
     void CheckJoins();
 
+    void ReportOpenString();
     void Report(TSQLReportKind kind, std::string_view what, TTokenRange range,
                 std::string_view reason = {});
     std::string Rewrite(TTokenRange range);

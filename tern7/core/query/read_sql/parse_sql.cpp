@@ -80,7 +80,7 @@ TSQLReport TSQLReader::Read(std::string_view sql) {
     parser.Parse();
     source = parser.Result().Source();
     if (const TSQLCondition* deep = FirstTooDeep(parser.Result().Where()))
-        RaiseSQLError(messages::WrongSQL, parser.Result().PositionOf(deep->Source()).line);
+        RaiseSQLError(messages::WrongSQL, parser.Result().PositionOf(deep->Source()));
     AddResultFields();
     ProcessSQLBracket(query.Root(), parser.Result().Where());
     const TSQLRest& rest = parser.Result().Rest;
