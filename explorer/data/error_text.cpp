@@ -9,6 +9,7 @@
 
 #include <tern7/core/corekit/files.h>
 #include <tern7/core/global/messages.h>
+#include <tern7/ui/support/bidi_text.h>
 #include <tern7/ui/support/text.h>
 
 namespace tern7 {
@@ -128,10 +129,6 @@ const EKFileError* FileErrorIn(const std::exception& error, EKFileError& found) 
 }
 
 } // namespace
-
-QString Isolated(const QString& text) {
-    return QChar(0x2068) + text + QChar(0x2069); // first strong isolate, pop
-}
 
 QString MessageText(const QString& message) {
     for (const TWords& each : words) {

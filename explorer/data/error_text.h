@@ -13,7 +13,5 @@ QString ErrorText(const std::exception& error);
 /// Why a file could not be read or written: what the system says ("Permission denied"), else the
 /// message of the error.
 QString FileReason(const std::exception& error);
-/// A piece of text, a path for one, that reads in its own direction inside of another.
-QString Isolated(const QString& text);
 
 } // namespace tern7

@@ -12,6 +12,7 @@
 #include <tern7/core/global/errors.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/result_fields_panel.h>
+#include <tern7/ui/support/bidi_text.h>
 #include <tern7/ui/support/text.h>
 
 #include "../data/error_text.h"
