@@ -97,6 +97,11 @@ std::vector<int> TFieldTree::Selected() const {
     return fields;
 }
 
+bool TFieldTree::IsAtField() const {
+    const QTreeWidgetItem* current = tree->currentItem();
+    return current && !IsGroup(*current);
+}
+
 void TFieldTree::Search(const QString& text) {
     const bool all = TTextSearch(text).IsEmpty();
     int hits = 0;

@@ -25,6 +25,8 @@ public:
     /// The IDs of the fields in the order of the tree; a selected group stands for its fields in
     /// sight.
     std::vector<int> Selected() const;
+    /// The current line is a field and no group.
+    bool IsAtField() const;
     QTreeWidget* Tree() const { return tree; }
     QLineEdit* SearchField() const { return search; }
 

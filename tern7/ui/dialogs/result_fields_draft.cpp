@@ -6,6 +6,8 @@
 #include <QCoreApplication>
 
 #include <tern7/core/query/row_text.h>
+#include <tern7/ui/dialogs/field_names.h>
+#include <tern7/ui/support/plain_line.h>
 #include <tern7/ui/support/text.h>
 
 namespace tern7 {
@@ -22,7 +24,7 @@ TResultFieldsDraft::TResultFieldsDraft(const TRFieldList& source)
 
 namespace {
 
-/// What would change the statement around the column.
+/// What would change the statement around the column, or how it looks.
 void RequireWhole(const std::string& text) {
     if (const std::optional<size_t> at = UnclosedAt(text))
         throw EKExpressionError(
@@ -34,6 +36,25 @@ void RequireWhole(const std::string& text) {
                                     "tern7::T_dlgRFieldsEdit",
                                     "A comment or semicolon can not stand in an expression")),
                                 *at);
+    const QString shown = ToQt(text);
+    const auto turning = std::find_if(shown.begin(), shown.end(), TurnsDirection);
+    if (turning != shown.end())
+        throw EKExpressionError(
+            FromQt(QCoreApplication::translate(
+                "tern7::T_dlgRFieldsEdit",
+                "An invisible character that turns the direction of text can not stand in an "
+                "expression")),
+            FromQt(shown.left(turning - shown.begin())).size());
+}
+
+/// What stands in the braces that begin at `position`; inside, "}" is doubled.
+std::string NameInBraces(std::string_view text, size_t position) {
+    std::string name;
+    for (size_t i = position + 1; i < text.size(); ++i) {
+        if (text[i] == '}' && (++i >= text.size() || text[i] != '}')) break;
+        name += text[i];
+    }
+    return name;
 }
 
 } // namespace
@@ -67,7 +88,7 @@ bool TResultFieldsDraft::SetExpression(int i, const std::string& text) {
         row.typed.clear();
         return true;
     } catch (const EKExpressionError& error) {
-        row.problem = TProblem{error.what(), error.Position()};
+        row.problem = TProblem{error.what(), error.Position(), HintAt(text, error.Position())};
         row.typed = text;
         return false;
     } catch (const EKQueryPanelError& error) { // the structure is gone
@@ -75,6 +96,34 @@ bool TResultFieldsDraft::SetExpression(int i, const std::string& text) {
         row.typed = text;
         return false;
     }
+}
+
+QString TResultFieldsDraft::TProblem::Text() const {
+    return hint.isEmpty() ? ToQt(message) : ToQt(message) + '\n' + hint;
+}
+
+QString TResultFieldsDraft::HintAt(const std::string& text, size_t position) {
+    constexpr size_t most = 4;
+    const TKCustomDBStructure* structure = query.DbStruct();
+    const bool isName = position < text.size() && text[position] == '{' &&
+                        text.find('}', position) != std::string::npos;
+    if (!structure || !isName) return {};
+    const std::string name = NameInBraces(text, position);
+    std::vector<TDSField*> fields = FieldsOfName(*structure, name);
+    const bool isAmbiguous = fields.size() > 1;
+    if (!isAmbiguous) fields = FieldsLikeName(*structure, name, most);
+    if (fields.empty()) return {};
+    QStringList names;
+    for (size_t i = 0; i < fields.size() && i < most; ++i) // each in its own direction
+        names << QStringLiteral("\u2068%1\u2069").arg(ToQt(Operand(*fields[i])));
+    if (fields.size() > most) names << QStringLiteral("...");
+    const QString listed = names.join(QStringLiteral(", "));
+    return isAmbiguous
+               ? QCoreApplication::translate("tern7::T_dlgRFieldsEdit",
+                                             "More than one field has this name: %1")
+                     .arg(listed)
+               : QCoreApplication::translate("tern7::T_dlgRFieldsEdit", "Perhaps it is meant: %1")
+                     .arg(listed);
 }
 
 std::string TResultFieldsDraft::Operand(TDSField& field) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include <QString>
+
 #include <tern7/core/query/formula_text.h>
 #include <tern7/core/query/query.h>
 
@@ -23,6 +25,9 @@ public:
     struct TProblem {
         std::string message;
         size_t position; ///< offset in bytes in the text
+        QString hint =
+            {}; ///< what may be meant, for the screen; empty when there is nothing to say
+        QString Text() const;
     };
 
     /// None when there is no such field, or the structure is gone.
@@ -84,6 +89,8 @@ private:
     TResultField& Column(int i) const { return *Row(i).column; }
     /// The name of a field in braces.
     std::string Operand(TDSField& field);
+    /// What to say about a field in braces that was not found.
+    QString HintAt(const std::string& text, size_t position);
     int Insert(int index, TResultField* column);
     void Rank(const std::vector<int>& order);
 

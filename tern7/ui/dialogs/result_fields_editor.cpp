@@ -5,7 +5,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QKeyEvent>
+#include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -13,9 +13,11 @@
 #include <QSplitter>
 #include <QTableView>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include <tern7/core/titles/default_titles.h>
+#include <tern7/ui/dialogs/mnemonics.h>
 #include <tern7/ui/support/text.h>
 
 namespace tern7 {
@@ -73,6 +75,9 @@ T_dlgRFieldsEdit::T_dlgRFieldsEdit(const TRFieldList& list, const TStrings& titl
     const int unit = fontMetrics().averageCharWidth();
     resize(unit * 120, fontMetrics().height() * 32);
 
+    for (QWidget* widget : {static_cast<QWidget*>(fields->SearchField()),
+                            static_cast<QWidget*>(fields->Tree()), static_cast<QWidget*>(function)})
+        widget->installEventFilter(this);
     fields->Fill(list.Query()->RequireStruct());
     connect(columnsView->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &T_dlgRFieldsEdit::ShowState);
@@ -87,6 +92,7 @@ T_dlgRFieldsEdit::T_dlgRFieldsEdit(const TRFieldList& list, const TStrings& titl
         sorted, &TSortedColumnsModel::entered, this, [this] { ShowSorted(CurrentSorted()); },
         Qt::QueuedConnection);
     ShowIcons();
+    GiveMnemonics(*this);
     ShowColumns(0);
     ShowSorted(0);
     fields->SearchField()->setFocus();
@@ -126,13 +132,22 @@ void T_dlgRFieldsEdit::AddFields(TAggregate aggregate) {
     int at = CurrentColumn() < 0 ? draft.Count() : CurrentColumn() + 1;
     const std::vector<TDSField*> chosen = ChosenFields();
     if (chosen.empty()) return;
+    EndEditing();
     for (TDSField* field : chosen)
         draft.AddField(at++, *field, aggregate);
     ShowColumns(at - 1);
+    fields->SearchField()->selectAll(); // the next name is typed over this one
+}
+
+/// What is being typed in the grid counts, whatever is done next.
+void T_dlgRFieldsEdit::EndEditing() {
+    QWidget* used = focusWidget();
+    if (used && used != columnsView && columnsView->isAncestorOf(used)) columnsView->setFocus();
 }
 
 /// Joins all chosen fields, one after the other; without a column they make one.
 void T_dlgRFieldsEdit::Join(char operation) {
+    EndEditing();
     std::vector<TDSField*> chosen = ChosenFields();
     int at = CurrentColumn();
     if (at < 0 && !chosen.empty()) {
@@ -142,6 +157,7 @@ void T_dlgRFieldsEdit::Join(char operation) {
     for (TDSField* field : chosen)
         draft.Join(at, operation, *field);
     ShowColumns(at);
+    fields->SearchField()->selectAll();
 }
 
 void T_dlgRFieldsEdit::NewColumn() {
@@ -252,7 +268,7 @@ void T_dlgRFieldsEdit::ShowState() {
     function->setCurrentIndex(at < 0 ? 0 : static_cast<int>(draft.Aggregate(at)));
     QString wrong;
     if (!readable)
-        wrong = ToQt(draft.Problem(at)->message);
+        wrong = draft.Problem(at)->Text();
     else if (at >= 0 && at == draft.FirstUnfinished())
         wrong = tr("This column has no expression yet");
     else if (at >= 0 && draft.LacksFields(at))
@@ -288,56 +304,6 @@ void T_dlgRFieldsEdit::changeEvent(QEvent* event) {
     QDialog::changeEvent(event);
     const QEvent::Type type = event->type();
     if (type == QEvent::PaletteChange || type == QEvent::LayoutDirectionChange) ShowIcons();
-}
-
-bool T_dlgRFieldsEdit::ColumnsKey(int key, Qt::KeyboardModifiers modifiers) {
-    const bool plain = modifiers == Qt::NoModifier, control = modifiers == Qt::ControlModifier;
-    if (plain && key == Qt::Key_Insert)
-        NewColumn();
-    else if (plain && key == Qt::Key_Delete)
-        DeleteColumn();
-    else if (control && (key == Qt::Key_Up || key == Qt::Key_Down))
-        MoveColumn(key == Qt::Key_Up ? -1 : 1);
-    else if (plain && (key == Qt::Key_Return || key == Qt::Key_Enter))
-        columnsView->edit(columnsView->currentIndex());
-    else
-        return false;
-    return true;
-}
-
-bool T_dlgRFieldsEdit::SortedKey(int key, Qt::KeyboardModifiers modifiers) {
-    const bool plain = modifiers == Qt::NoModifier, control = modifiers == Qt::ControlModifier;
-    if (plain && key == Qt::Key_Delete)
-        Unsort();
-    else if (control && (key == Qt::Key_Up || key == Qt::Key_Down))
-        MoveSorted(key == Qt::Key_Up ? -1 : 1);
-    else if (plain && (key == Qt::Key_Return || key == Qt::Key_Enter))
-        sortedView->edit(sorted->index(CurrentSorted(), TSortedColumnsModel::Sorting));
-    else
-        return false;
-    return true;
-}
-
-bool T_dlgRFieldsEdit::eventFilter(QObject* watched, QEvent* event) {
-    // a key that an open editor has not taken comes by here too
-    const auto* view = qobject_cast<QWidget*>(watched);
-    if (event->type() != QEvent::KeyPress || !view || !view->hasFocus())
-        return QDialog::eventFilter(watched, event);
-    const auto* key = static_cast<QKeyEvent*>(event);
-    const Qt::KeyboardModifiers modifiers = key->modifiers() & ~Qt::KeypadModifier;
-    if (watched == columnsView && ColumnsKey(key->key(), modifiers)) return true;
-    if (watched == sortedView && SortedKey(key->key(), modifiers)) return true;
-    return QDialog::eventFilter(watched, event);
-}
-
-/// Enter in a field or list is not yet OK.
-void T_dlgRFieldsEdit::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    const bool onButton = qobject_cast<QAbstractButton*>(focusWidget()) != nullptr;
-    if (enter && event->modifiers() & Qt::ControlModifier)
-        accept();
-    else if (!enter || onButton)
-        QDialog::keyPressEvent(event);
 }
 
 } // namespace tern7

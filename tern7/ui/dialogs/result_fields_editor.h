@@ -14,6 +14,7 @@
 class QCheckBox;
 class QComboBox;
 class QDialogButtonBox;
+class QKeyEvent;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -34,6 +35,10 @@ namespace tern7 {
 ///     Orders             |*  | Field Name | Sorting type     |
 ///     [Add]              |/
 ///     [Help]                                           [OK] [Cancel]
+///
+/// All of it can be done by keys: each caption has its letter for Alt, the hints of the buttons
+/// name their keys. A name typed into the search and Enter makes a column, Ctrl and + - * / join
+/// the field found to the current column; in the tree these signs do so without Ctrl.
 class T_dlgRFieldsEdit : public QDialog {
     Q_OBJECT
 
@@ -72,7 +77,7 @@ private:
     QWidget* MakeSorted();
     QWidget* MakeButtons();
     QTableView* MakeView(TDraftModel& model, const QString& name, int wideColumn);
-    QToolButton* MakeTool(TDialogIcon icon, const QString& hint,
+    QToolButton* MakeTool(TDialogIcon icon, const QString& hint, const char* keys,
                           void (T_dlgRFieldsEdit::*action)());
     void ShowIcons();
 
@@ -92,8 +97,13 @@ private:
     void SortedUp() { MoveSorted(-1); }
     void SortedDown() { MoveSorted(1); }
     void SetFunction(int aggregate);
+    void EndEditing();
+
+    // keys
+    bool FieldsKey(const QWidget& part, const QKeyEvent& event);
     bool ColumnsKey(int key, Qt::KeyboardModifiers modifiers);
     bool SortedKey(int key, Qt::KeyboardModifiers modifiers);
+    bool DialogKey(const QKeyEvent& event);
 
     // showing
     int CurrentColumn() const;

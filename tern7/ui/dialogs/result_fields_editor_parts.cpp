@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -17,10 +18,21 @@
 
 namespace tern7 {
 
+namespace {
+
+/// A hint with its keys, which are written from left to right everywhere.
+QString KeyHint(const QString& hint, const char* keys) {
+    const QString shown =
+        QKeySequence(QString::fromLatin1(keys)).toString(QKeySequence::NativeText);
+    return QStringLiteral("%1 (\u2066%2\u2069)").arg(hint, shown);
+}
+
+} // namespace
+
 QWidget* T_dlgRFieldsEdit::MakeFields() {
     auto* part = new QWidget(this);
     auto* caption = new QLabel(Title("ttlFields"), part);
-    caption->setBuddy(fields);
+    caption->setBuddy(fields->Tree());
     fields->Tree()->setAccessibleName(ToQt(PlainTitle(FromQt(caption->text()))));
     add = new QPushButton(Title("ttlAddBtnCaption"), part);
     add->setToolTip(Title("ttlAddBtnHint"));
@@ -40,10 +52,11 @@ QWidget* T_dlgRFieldsEdit::MakeFields() {
     return part;
 }
 
-QToolButton* T_dlgRFieldsEdit::MakeTool(TDialogIcon icon, const QString& hint,
+/// The keys are handled by the dialog (DialogKey and what it asks).
+QToolButton* T_dlgRFieldsEdit::MakeTool(TDialogIcon icon, const QString& hint, const char* keys,
                                         void (T_dlgRFieldsEdit::*action)()) {
     auto* button = new QToolButton(this);
-    button->setToolTip(hint);
+    button->setToolTip(KeyHint(hint, keys));
     button->setAccessibleName(hint);
     button->setFocusPolicy(Qt::StrongFocus);
     button->setAutoRaise(true);
@@ -56,8 +69,8 @@ QWidget* T_dlgRFieldsEdit::MakeJoinButtons() {
     auto* part = new QWidget(this);
     auto* layout = new QVBoxLayout(part);
     layout->setContentsMargins({});
-    create =
-        MakeTool(TDialogIcon::Create, Title("ttlMakeFldHint"), &T_dlgRFieldsEdit::CreateColumn);
+    create = MakeTool(TDialogIcon::Create, Title("ttlMakeFldHint"), "Return",
+                      &T_dlgRFieldsEdit::CreateColumn);
     layout->addStretch(1);
     layout->addWidget(create);
     layout->addSpacing(layout->spacing() * 2);
@@ -65,12 +78,13 @@ QWidget* T_dlgRFieldsEdit::MakeJoinButtons() {
         TDialogIcon icon;
         const char* key;
         char operation;
-    } operations[] = {{TDialogIcon::Plus, "ttlAddRFldHint", '+'},
-                      {TDialogIcon::Minus, "ttlSubRFldHint", '-'},
-                      {TDialogIcon::Times, "ttlMulRFldHint", '*'},
-                      {TDialogIcon::Divide, "ttlDivRFldHint", '/'}};
+        const char* keys;
+    } operations[] = {{TDialogIcon::Plus, "ttlAddRFldHint", '+', "Ctrl++"},
+                      {TDialogIcon::Minus, "ttlSubRFldHint", '-', "Ctrl+-"},
+                      {TDialogIcon::Times, "ttlMulRFldHint", '*', "Ctrl+*"},
+                      {TDialogIcon::Divide, "ttlDivRFldHint", '/', "Ctrl+/"}};
     for (const auto& each : operations) {
-        QToolButton* button = MakeTool(each.icon, Title(each.key), nullptr);
+        QToolButton* button = MakeTool(each.icon, Title(each.key), each.keys, nullptr);
         connect(button, &QToolButton::clicked, this,
                 [this, operation = each.operation] { Join(operation); });
         joins.push_back(button);
@@ -125,15 +139,19 @@ QWidget* T_dlgRFieldsEdit::MakeColumns() {
     problem->hide();
     auto* caption = new QLabel(Title("ttlResFields"), part);
     caption->setBuddy(columnsView);
+    auto* functionCaption = new QLabel(tr("Function"), part);
+    functionCaption->setBuddy(function);
     auto* head = new QHBoxLayout;
     head->addWidget(caption);
     head->addStretch();
+    head->addWidget(functionCaption);
     head->addWidget(function);
     head->addWidget(
-        MakeTool(TDialogIcon::New, Title("ttlNewFldHint"), &T_dlgRFieldsEdit::NewColumn));
-    remove = MakeTool(TDialogIcon::Delete, Title("ttlDelFldHint"), &T_dlgRFieldsEdit::DeleteColumn);
-    up = MakeTool(TDialogIcon::Up, tr("Move up"), &T_dlgRFieldsEdit::ColumnUp);
-    down = MakeTool(TDialogIcon::Down, tr("Move down"), &T_dlgRFieldsEdit::ColumnDown);
+        MakeTool(TDialogIcon::New, Title("ttlNewFldHint"), "Ins", &T_dlgRFieldsEdit::NewColumn));
+    remove = MakeTool(TDialogIcon::Delete, Title("ttlDelFldHint"), "Del",
+                      &T_dlgRFieldsEdit::DeleteColumn);
+    up = MakeTool(TDialogIcon::Up, tr("Move up"), "Ctrl+Up", &T_dlgRFieldsEdit::ColumnUp);
+    down = MakeTool(TDialogIcon::Down, tr("Move down"), "Ctrl+Down", &T_dlgRFieldsEdit::ColumnDown);
     for (QToolButton* button : {remove, up, down})
         head->addWidget(button);
     auto* layout = new QVBoxLayout(part);
@@ -155,9 +173,11 @@ QWidget* T_dlgRFieldsEdit::MakeSorted() {
     connect(justSorting, &QCheckBox::toggled, this, [this](bool on) { draft.SetJustSorting(on); });
     auto* caption = new QLabel(Title("ttlSortCaption"), part);
     caption->setBuddy(sortedView);
-    sort = MakeTool(TDialogIcon::Sort, Title("ttlSortRFldHint"), &T_dlgRFieldsEdit::SortColumn);
-    sortedUp = MakeTool(TDialogIcon::Up, tr("Move up"), &T_dlgRFieldsEdit::SortedUp);
-    sortedDown = MakeTool(TDialogIcon::Down, tr("Move down"), &T_dlgRFieldsEdit::SortedDown);
+    sort = MakeTool(TDialogIcon::Sort, Title("ttlSortRFldHint"), "Ctrl+S",
+                    &T_dlgRFieldsEdit::SortColumn);
+    sortedUp = MakeTool(TDialogIcon::Up, tr("Move up"), "Ctrl+Up", &T_dlgRFieldsEdit::SortedUp);
+    sortedDown =
+        MakeTool(TDialogIcon::Down, tr("Move down"), "Ctrl+Down", &T_dlgRFieldsEdit::SortedDown);
     auto* head = new QHBoxLayout;
     head->addWidget(caption);
     head->addStretch();
@@ -174,6 +194,8 @@ QWidget* T_dlgRFieldsEdit::MakeSorted() {
 QWidget* T_dlgRFieldsEdit::MakeButtons() {
     buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     buttons->button(QDialogButtonBox::Ok)->setText(Title("ttlOkBtnCaption"));
+    buttons->button(QDialogButtonBox::Ok)
+        ->setToolTip(KeyHint(Title("ttlOkBtnCaption"), "Ctrl+Return"));
     buttons->button(QDialogButtonBox::Cancel)->setText(Title("ttlCancelBtnCaption"));
     help = buttons->addButton(Title("ttlHelpBtnCaption"), QDialogButtonBox::HelpRole);
     help->hide();

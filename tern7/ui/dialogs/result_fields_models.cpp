@@ -5,6 +5,7 @@
 #include <QPalette>
 
 #include <tern7/ui/support/colors.h>
+#include <tern7/ui/support/plain_line.h>
 #include <tern7/ui/support/text.h>
 #include <tern7/ui/support/tool_tip_text.h>
 
@@ -35,10 +36,10 @@ QVariant TResultColumnsModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return ToQt(expression ? draft.Expression(row) : draft.Caption(row));
     case Qt::ToolTipRole:
-        if (problem) return ToolTipText(ToQt(problem->message));
+        if (problem) return ToolTipText(problem->Text());
         return ToolTipText(ToQt(expression ? draft.Expression(row) : draft.Caption(row)));
     case Qt::AccessibleDescriptionRole:
-        return problem ? ToQt(problem->message) : QString();
+        return problem ? problem->Text() : QString();
     case Qt::ForegroundRole:
         return problem && expression ? ProblemColor() : QVariant();
     case problemRole:
@@ -51,11 +52,12 @@ QVariant TResultColumnsModel::data(const QModelIndex& index, int role) const {
 
 bool TResultColumnsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (!index.isValid() || role != Qt::EditRole) return false;
-    const std::string text = FromQt(value.toString());
-    if (index.column() == Expression)
-        draft.SetExpression(index.row(), text);
-    else if (!Trim(text).empty())
-        draft.SetCaption(index.row(), text);
+    if (index.column() == Expression) {
+        draft.SetExpression(index.row(), FromQt(value.toString()));
+    } else {
+        const std::string caption = FromQt(PlainLine(value.toString()));
+        if (!Trim(caption).empty()) draft.SetCaption(index.row(), caption);
+    }
     emit dataChanged(index.siblingAtColumn(0), index.siblingAtColumn(1));
     emit entered(index.row());
     return true;

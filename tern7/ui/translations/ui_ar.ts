@@ -417,6 +417,18 @@
         <source>There is no field in it: fields stand in braces, {Name}</source>
         <translation>لا يوجد حقل في التعبير: تُكتب الحقول بين أقواس معقوفة، {الاسم}</translation>
     </message>
+    <message>
+        <source>An invisible character that turns the direction of text can not stand in an expression</source>
+        <translation>لا يمكن أن يرد في التعبير حرف غير مرئي يغيّر اتجاه النص</translation>
+    </message>
+    <message>
+        <source>More than one field has this name: %1</source>
+        <translation>أكثر من حقل يحمل هذا الاسم: %1</translation>
+    </message>
+    <message>
+        <source>Perhaps it is meant: %1</source>
+        <translation>ربما المقصود: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>

@@ -417,6 +417,18 @@
         <source>There is no field in it: fields stand in braces, {Name}</source>
         <translation>Der Ausdruck enthält kein Feld: Felder stehen in geschweiften Klammern, {Name}</translation>
     </message>
+    <message>
+        <source>An invisible character that turns the direction of text can not stand in an expression</source>
+        <translation>Ein unsichtbares Zeichen, das die Schreibrichtung umkehrt, kann nicht in einem Ausdruck stehen</translation>
+    </message>
+    <message>
+        <source>More than one field has this name: %1</source>
+        <translation>Mehrere Felder heißen so: %1</translation>
+    </message>
+    <message>
+        <source>Perhaps it is meant: %1</source>
+        <translation>Vielleicht ist gemeint: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>

@@ -417,6 +417,18 @@
         <source>There is no field in it: fields stand in braces, {Name}</source>
         <translation>La expresión no contiene ningún campo: los campos van entre llaves, {Nombre}</translation>
     </message>
+    <message>
+        <source>An invisible character that turns the direction of text can not stand in an expression</source>
+        <translation>Un carácter invisible que cambia la dirección del texto no puede estar en una expresión</translation>
+    </message>
+    <message>
+        <source>More than one field has this name: %1</source>
+        <translation>Varios campos tienen este nombre: %1</translation>
+    </message>
+    <message>
+        <source>Perhaps it is meant: %1</source>
+        <translation>Quizá se refiera a: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>

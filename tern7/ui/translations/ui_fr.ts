@@ -417,6 +417,18 @@
         <source>There is no field in it: fields stand in braces, {Name}</source>
         <translation>L’expression ne contient aucun champ : les champs s’écrivent entre accolades, {Nom}</translation>
     </message>
+    <message>
+        <source>An invisible character that turns the direction of text can not stand in an expression</source>
+        <translation>Un caractère invisible qui change le sens du texte ne peut pas figurer dans une expression</translation>
+    </message>
+    <message>
+        <source>More than one field has this name: %1</source>
+        <translation>Plusieurs champs portent ce nom : %1</translation>
+    </message>
+    <message>
+        <source>Perhaps it is meant: %1</source>
+        <translation>Vouliez-vous dire : %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>

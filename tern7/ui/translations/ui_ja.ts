@@ -417,6 +417,18 @@
         <source>There is no field in it: fields stand in braces, {Name}</source>
         <translation>式にフィールドがありません。フィールドは波かっこで囲みます: {名前}</translation>
     </message>
+    <message>
+        <source>An invisible character that turns the direction of text can not stand in an expression</source>
+        <translation>テキストの方向を変える見えない文字は式に使えません</translation>
+    </message>
+    <message>
+        <source>More than one field has this name: %1</source>
+        <translation>この名前のフィールドが複数あります: %1</translation>
+    </message>
+    <message>
+        <source>Perhaps it is meant: %1</source>
+        <translation>もしかして: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>

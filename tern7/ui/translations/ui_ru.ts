@@ -417,6 +417,18 @@
         <source>There is no field in it: fields stand in braces, {Name}</source>
         <translation>В выражении нет полей: поля пишутся в фигурных скобках, {Имя}</translation>
     </message>
+    <message>
+        <source>An invisible character that turns the direction of text can not stand in an expression</source>
+        <translation>Невидимый символ, меняющий направление текста, не может стоять в выражении</translation>
+    </message>
+    <message>
+        <source>More than one field has this name: %1</source>
+        <translation>Так называется несколько полей: %1</translation>
+    </message>
+    <message>
+        <source>Perhaps it is meant: %1</source>
+        <translation>Возможно, имелось в виду: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgSubQuery</name>
