@@ -8,13 +8,14 @@
 #include <QSettings>
 #include <QStandardPaths>
 #include <QTextStream>
+#include <QThreadPool>
 #include <QTimer>
 
 #include <tern7/core/global/errors.h>
 #include <tern7/ui/support/text.h>
 
 #include "data/language.h"
-#include "run/abandoned.h"
+#include "run/background.h"
 #include "windows/main_window.h"
 
 namespace {
@@ -22,6 +23,7 @@ namespace {
 using namespace tern7;
 
 constexpr int paintTime = 300; // milliseconds until a window stands still
+constexpr int shortWait = 300; // for connections to close
 constexpr int longestRun = 60'000;
 
 /// An address, or the path of a SQLite file.
@@ -116,7 +118,9 @@ int main(int argc, char** argv) {
         result = parser.isSet(screenshot) ? Screenshot(window, parser.value(screenshot))
                                           : QApplication::exec();
     }
-    // Statements that were given up still wait for their servers, and nobody waits for them.
-    if (TAbandoned::Any()) std::_Exit(result);
+    // Statements that were given up, and lists, still wait for their servers; nobody waits for
+    // them.
+    if (!WaitForBackground(shortWait) || QThreadPool::globalInstance()->activeThreadCount() > 0)
+        std::_Exit(result);
     return result;
 }

@@ -4,14 +4,12 @@
 #include <condition_variable>
 #include <exception>
 #include <mutex>
-#include <optional>
-#include <thread>
 
 #include <tern7/core/global/errors.h>
 #include <tern7/sql/bde_info.h>
 #include <tern7/sql/connection.h>
 
-#include "abandoned.h"
+#include "background.h"
 
 namespace tern7 {
 
@@ -49,7 +47,7 @@ public:
         : url(std::move(itsUrl)), structureFile(std::move(file)), owner(&itsOwner) {}
 
     void Start() {
-        std::thread([self = shared_from_this()] { self->Work(); }).detach();
+        RunInBackground([self = shared_from_this()] { self->Work(); });
     }
 
     bool WaitFor(int milliseconds) {
@@ -61,7 +59,6 @@ public:
     void Leave() {
         const std::lock_guard guard(lock);
         owner = nullptr;
-        if (!isEnded) abandoned.emplace();
     }
 
     std::unique_ptr<TKCustomDBStructure> Take() {
@@ -85,7 +82,6 @@ private:
         structure = std::move(made);
         error = failure;
         isEnded = true;
-        abandoned.reset();
         ended.notify_all();
         if (owner)
             QMetaObject::invokeMethod(owner, &TDatabaseOpener::finished, Qt::QueuedConnection);
@@ -128,7 +124,6 @@ private:
     TDatabaseOpener* owner;
     std::unique_ptr<TKCustomDBStructure> structure;
     std::exception_ptr error;
-    std::optional<TAbandoned> abandoned;
     std::chrono::steady_clock::time_point told;
     bool isEnded = false;
 };

@@ -5,14 +5,13 @@
 #include <exception>
 #include <mutex>
 #include <optional>
-#include <thread>
 
 #include <QElapsedTimer>
 
 #include <tern7/sql/connection.h>
 #include <tern7/ui/support/text.h>
 
-#include "abandoned.h"
+#include "background.h"
 #include "interrupt.h"
 
 namespace tern7 {
@@ -33,7 +32,7 @@ public:
     TWorker(TQueryRunner& owner, TKDatabaseURL itsUrl) : url(std::move(itsUrl)), runner(&owner) {}
 
     void Start() {
-        std::thread([self = shared_from_this()] { self->Work(); }).detach();
+        RunInBackground([self = shared_from_this()] { self->Work(); });
     }
 
     // --- called by the runner
@@ -50,7 +49,6 @@ public:
         cancelled = true;
         const std::lock_guard guard(lock);
         if (next) return true; // not begun; it will see that it is cancelled
-        if (!connected) return false;
         if (!interrupt) return false;
         interrupt();
         return true;
@@ -62,10 +60,7 @@ public:
         const std::lock_guard guard(lock);
         runner = nullptr;
         stopped = true;
-        if (busy) {
-            abandoned.emplace();
-            if (interrupt) interrupt();
-        }
+        if (busy && interrupt) interrupt();
         wake.notify_one();
     }
 
@@ -83,31 +78,50 @@ private:
                 request = std::move(next);
                 next.reset();
             }
+            Serve(connection, *request);
+        }
+        Drop(connection);
+    }
+
+    void Serve(std::unique_ptr<TKConnection>& connection, const TRunRequest& request) {
+        const bool wasOpen = connection != nullptr;
+        try {
             try {
                 if (!connection) connection = Connect();
-                Execute(*connection, *request);
-            } catch (const std::exception& error) {
-                // A statement that was interrupted fails, which is no error then.
-                if (cancelled)
-                    TellCancelled();
-                else
-                    TellError(connection.get(), *request, error.what());
+                Execute(*connection, request);
+            } catch (const std::exception&) {
+                // one that was open before may have been lost meanwhile
+                if (cancelled || !wasOpen || Answers(*connection)) throw;
+                Drop(connection);
+                connection = Connect();
+                Execute(*connection, request);
             }
+        } catch (const std::exception& error) {
+            // A statement that was interrupted fails, which is no error then.
+            if (cancelled)
+                TellCancelled();
+            else
+                TellError(connection.get(), request, error.what());
         }
-        {
-            const std::lock_guard guard(lock);
-            interrupt = nullptr;
-        }
-        connection.reset();
-        abandoned.reset();
     }
 
     std::unique_ptr<TKConnection> Connect() {
         auto connection = std::make_unique<TKConnection>(url);
         const std::lock_guard guard(lock);
         interrupt = MakeInterrupt(connection->Database());
-        connected = true;
         return connection;
+    }
+
+    void Drop(std::unique_ptr<TKConnection>& connection) {
+        {
+            const std::lock_guard guard(lock);
+            interrupt = nullptr;
+        }
+        connection.reset();
+    }
+
+    static bool Answers(const TKConnection& connection) {
+        return !IsRefused(connection, {"SELECT 1", {}});
     }
 
     void Execute(const TKConnection& connection, const TRunRequest& request) {
@@ -149,9 +163,12 @@ private:
                    const std::string& message) {
         int row = -1;
         for (const TRunRequest::TTrial& trial : request.trials) {
-            if (!connection || cancelled || row >= 0) break;
-            if (IsRefused(*connection, trial.statement)) row = trial.row;
+            if (!connection || cancelled) break;
+            if (!IsRefused(*connection, trial.statement)) continue;
+            row = trial.row;
+            break;
         }
+        if (cancelled) return TellCancelled();
         Tell([row, text = ToQt(message)](TQueryRunner& to) {
             to.StopRunning();
             emit to.failed(text, row);
@@ -189,9 +206,7 @@ private:
     TQueryRunner* runner;
     std::optional<TRunRequest> next;
     std::function<void()> interrupt;
-    bool connected = false;
     bool stopped = false;
-    std::optional<TAbandoned> abandoned;
     std::atomic<bool> cancelled = false;
 };
 

@@ -21,7 +21,7 @@ struct TRunRequest {
     TBoundSQL statement;
     long long rowLimit = 0; ///< 0 for all rows
     struct TTrial {
-        int row; ///< the number that is told
+        int row; ///< the number that is told; -1 names none
         TBoundSQL statement;
     };
     std::vector<TTrial> trials;
@@ -31,7 +31,8 @@ struct TRunRequest {
 /// another `Run` cancels the one before. All signals come in the thread of this object.
 ///
 /// A cancelled SQLite statement is interrupted. Elsewhere the result is abandoned: its connection
-/// is closed in the background when the server has answered, and the next run opens a new one.
+/// is closed in the background when the server has answered, and the next run opens a new one. So
+/// it does after a connection was lost.
 class TQueryRunner : public QObject {
     Q_OBJECT
 

@@ -125,8 +125,10 @@ void TConnectionDialog::SetUrl(const TKDatabaseURL& url) {
      : url.driver == TDriver::ODBC ? source
                                    : database)
         ->setText(ToQt(url.database));
+    given = url;
     user->setText(ToQt(url.user));
-    if (!url.host.empty()) host->setText(ToQt(url.host));
+    // options may say where the server is
+    if (!url.host.empty() || !url.options.empty()) host->setText(ToQt(url.host));
     if (url.port > 0) port->setValue(url.port);
     if (pages->currentIndex() == 1) password->setFocus();
 }
@@ -138,6 +140,7 @@ TKDatabaseURL TConnectionDialog::Url() const {
         url.database = FromQt((pages->currentIndex() == 0 ? file : source)->text().trimmed());
         return url;
     }
+    if (url.driver == given.driver) url.options = given.options;
     url.host = FromQt(host->text().trimmed());
     url.port = port->value();
     url.database = FromQt(database->text().trimmed());

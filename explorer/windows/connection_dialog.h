@@ -34,6 +34,8 @@ private:
     void CheckComplete();
     void BrowseFile();
 
+    TKDatabaseURL given; // its options have no fields
+
     QComboBox* kind;
     QStackedWidget* pages;
     QLineEdit* file;

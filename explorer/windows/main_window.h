@@ -38,7 +38,7 @@ public:
     // --- database
     /// Opens a database and begins a new query; shows why when it can not be opened. The structure
     /// is imported, or loaded from the file when one is given. False when nothing changed.
-    bool OpenDatabase(const TKDatabaseURL& url, const QString& structureFile = {});
+    bool OpenDatabase(const TKDatabaseURL& address, const QString& structureFile = {});
     bool OpenSample();
     bool HasDatabase() const { return session != nullptr; }
 

@@ -59,7 +59,7 @@ QAction* TMainWindow::Action(const char* text, const QKeySequence& keys,
     auto* action = new QAction(this);
     Worded([action, text] { action->setText(tr(text)); });
     action->setShortcut(keys);
-    connect(action, &QAction::triggered, this, whenTriggered);
+    if (whenTriggered) connect(action, &QAction::triggered, this, whenTriggered);
     return action;
 }
 
@@ -85,10 +85,13 @@ void TMainWindow::MakeActions() {
 
 void TMainWindow::MakeFileMenu() {
     QMenu* menu = Menu(QT_TR_NOOP("&File"));
-    menu->addAction(Action(QT_TR_NOOP("Open &database..."), QKeySequence("Ctrl+D"),
-                           [this] { AskForDatabase(); }));
+    menu->addAction(Action(QT_TR_NOOP("Open &database..."), QKeySequence("Ctrl+D"), [this] {
+        if (MayDiscard()) AskForDatabase();
+    }));
     recentDatabaseMenu = Menu(QT_TR_NOOP("Recent d&atabases"), menu);
-    menu->addAction(Action(QT_TR_NOOP("Sa&mple database"), {}, [this] { OpenSample(); }));
+    menu->addAction(Action(QT_TR_NOOP("Sa&mple database"), {}, [this] {
+        if (MayDiscard()) OpenSample();
+    }));
     menu->addSeparator();
     menu->addAction(Action(QT_TR_NOOP("&New query"), QKeySequence::New, [this] {
         if (MayDiscard()) NewQuery();

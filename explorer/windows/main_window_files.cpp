@@ -44,8 +44,13 @@ QString QueryFilter() {
 
 // --- databases
 
-bool TMainWindow::OpenDatabase(const TKDatabaseURL& url, const QString& structureFile) {
+bool TMainWindow::OpenDatabase(const TKDatabaseURL& address, const QString& structureFile) {
     if (opener) return false; // one at a time
+    TKDatabaseURL url = address;
+    // to be found again from any folder
+    if (const QFileInfo file(ToQt(url.database));
+        url.driver == TKDatabaseURL::TDriver::SQLite && file.exists())
+        url.database = FromQt(file.absoluteFilePath());
     std::unique_ptr<TDatabaseSession> opened;
     try {
         TDatabaseOpener running(url, FromQt(structureFile));
@@ -108,7 +113,6 @@ bool TMainWindow::OpenSample() {
 }
 
 void TMainWindow::AskForDatabase(const TKDatabaseURL* preset, const QString& error) {
-    if (error.isEmpty() && !MayDiscard()) return;
     auto* dialog = new TConnectionDialog(this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (preset) dialog->SetUrl(*preset);

@@ -19,6 +19,7 @@
 #include <tern7/ui/support/text.h>
 
 #include "../data/error_text.h"
+#include "../run/background.h"
 #include "parameter_dialog.h"
 #include "result_view.h"
 
@@ -27,6 +28,7 @@ namespace tern7 {
 namespace {
 
 constexpr size_t mostTrials = 100;
+constexpr int mostAtOnce = 3;          // statements in the background
 constexpr qsizetype mostSQL = 100'000; // characters that are shown
 
 /// A message of the library.
@@ -116,6 +118,8 @@ void TMainWindow::RunWith(bool asking) {
     if (!session) return;
     // nothing moves or closes below the hands of somebody who is choosing
     if (!asking && QApplication::activePopupWidget()) return liveTimer.start();
+    // nor do statements that were given up pile up on a server
+    if (!asking && BackgroundCount() > mostAtOnce) return liveTimer.start();
     if (asking) {
         conditions->CloseEdit();
         queryMessages->Clear();
@@ -191,6 +195,9 @@ std::vector<TRunRequest::TTrial> TMainWindow::MakeTrials() const {
     if (copies.size() != rows.size()) return trials;
     for (TFilterCond* row : copies)
         row->SetEnabled(false);
+    // none is to blame for what is refused without any
+    alone.BuildQuery();
+    trials.push_back({-1, alone.QResult().GetBoundSQL()});
     for (size_t i = 0; i < copies.size(); ++i) {
         if (!rows[i]->GetEnabled()) continue;
         copies[i]->SetEnabled(true);

@@ -23,8 +23,9 @@ QString WithoutSecret(QString text, const QString& secret) {
 }
 
 QString Words(const QSqlError& error) {
-    const QString words = error.databaseText().trimmed();
-    return words.isEmpty() ? error.driverText().trimmed() : words;
+    for (const QString& words : {error.databaseText().trimmed(), error.driverText().trimmed()})
+        if (!words.isEmpty()) return words;
+    return QStringLiteral("The database gives no reason");
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QtSql/QSqlQuery>
 
 #include <tern7/sql/connection.h>
 #include <tern7/sql/driver_call.h>
@@ -20,6 +21,7 @@ struct TEngineOfTest {
     const char* name;
     const char* variable;
     const char* slowExpression; // takes much longer than a test waits
+    const char* endings;        // of a server: the statements that end the connections of others
 };
 
 void PrintTo(const TEngineOfTest& engine, std::ostream* out) {
@@ -29,9 +31,14 @@ void PrintTo(const TEngineOfTest& engine, std::ostream* out) {
 constexpr TEngineOfTest engines[] = {
     {"SQLite", nullptr,
      "{Freight} + (WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
-     "SELECT count(*) FROM n)"},
-    {"PostgreSQL", "TERN7_TEST_POSTGRESQL", "{Freight} + (SELECT count(*) FROM pg_sleep(20))"},
-    {"MariaDB", "TERN7_TEST_MARIADB", "{Freight} + SLEEP(20)"},
+     "SELECT count(*) FROM n)",
+     nullptr},
+    {"PostgreSQL", "TERN7_TEST_POSTGRESQL", "{Freight} + (SELECT count(*) FROM pg_sleep(20))",
+     "SELECT 'SELECT pg_terminate_backend(' || pid || ')' FROM pg_stat_activity "
+     "WHERE datname = current_database() AND pid <> pg_backend_pid()"},
+    {"MariaDB", "TERN7_TEST_MARIADB", "{Freight} + SLEEP(20)",
+     "SELECT CONCAT('KILL ', id) FROM information_schema.processlist "
+     "WHERE db = DATABASE() AND id <> CONNECTION_ID()"},
 };
 
 /// A database of the server with the sample in it, made once; empty where there is no server.
@@ -130,7 +137,7 @@ TEST_P(TProgramTest, SlowQueryIsCancelledWhileTheWindowLives) {
     Build();
     window->Columns().ResultFields().AddByExpression("Slow", TSortingType::stNoSort,
                                                      GetParam().slowExpression);
-    std::array<qint64, 3> times{}; // other work on the machine may disturb one or two
+    std::array<qint64, 3> times{}; // other work on the machine may disturb one
     for (qint64& time : times) {
         QSignalSpy ended(window.get(), &TMainWindow::runEnded);
         int ticks = 0;
@@ -149,13 +156,36 @@ TEST_P(TProgramTest, SlowQueryIsCancelledWhileTheWindowLives) {
         time = clock.elapsed();
         EXPECT_FALSE(window->IsRunning());
     }
-    EXPECT_LT(*std::min_element(times.begin(), times.end()), 200);
+    std::sort(times.begin(), times.end());
+    EXPECT_LT(times[1], 200);
 
     // The next one runs as if nothing had been.
     window->Conditions().Undo();
     window->Columns().ResultFields().Delete(2);
     Run();
     EXPECT_GT(RowCount(), 10) << FromQt(window->Results().Messages().Text());
+}
+
+TEST_P(TProgramTest, LostConnectionIsOpenedAgain) {
+    if (!GetParam().endings) GTEST_SKIP() << "no server, no connection to lose";
+    Build();
+    Run();
+    const int paid = RowCount();
+    ASSERT_GT(paid, 10);
+    {
+        const TKConnection other(url, TKConnection::TMode::ReadWrite);
+        QSqlQuery endings(other.Database());
+        ASSERT_TRUE(endings.exec(GetParam().endings));
+        QStringList statements;
+        while (endings.next())
+            statements << endings.value(0).toString();
+        ASSERT_FALSE(statements.isEmpty());
+        for (const QString& statement : statements)
+            Execute(other.Database(), statement);
+    }
+    Run();
+    EXPECT_EQ(RowCount(), paid) << FromQt(window->Results().Messages().Text());
+    EXPECT_EQ(window->Results().Messages().Text(), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Engines, TProgramTest, testing::ValuesIn(engines),

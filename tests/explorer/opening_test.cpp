@@ -11,7 +11,7 @@
 #include <unistd.h>
 #endif
 
-#include <explorer/run/abandoned.h>
+#include <explorer/run/background.h>
 
 namespace tern7 {
 
@@ -67,12 +67,12 @@ TEST_F(TWindowTest, DatabaseThatDoesNotAnswerIsGivenUp) {
     EXPECT_GT(ticks, 10);
 
     // The database before is still there.
-    EXPECT_TRUE(TAbandoned::Any());
+    EXPECT_GT(BackgroundCount(), 0);
     AddColumn("Price");
     Run();
     EXPECT_GT(RowCount(), 10);
     server.Close();
-    EXPECT_TRUE(QTest::qWaitFor([] { return !TAbandoned::Any(); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return BackgroundCount() == 1; }));
 }
 
 #endif

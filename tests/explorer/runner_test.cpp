@@ -6,7 +6,7 @@
 #include <QTest>
 
 #include <explorer/data/sample_database.h>
-#include <explorer/run/abandoned.h>
+#include <explorer/run/background.h>
 #include <explorer/run/query_runner.h>
 #include <tern7/ui/support/text.h>
 
@@ -88,7 +88,7 @@ TEST_F(TRunnerTest, AnotherRunTakesOver) {
     EXPECT_EQ(rowCount, 1);
     EXPECT_EQ(cancelled.count(), 1);
     // The thread of the first ends by itself.
-    EXPECT_TRUE(QTest::qWaitFor([] { return !TAbandoned::Any(); }));
+    EXPECT_TRUE(QTest::qWaitFor([] { return BackgroundCount() == 1; }));
 }
 
 TEST_F(TRunnerTest, RefusedStatementNamesItsTrial) {
@@ -99,6 +99,11 @@ TEST_F(TRunnerTest, RefusedStatementNamesItsTrial) {
     ASSERT_TRUE(failed.wait());
     EXPECT_TRUE(error.contains("nonsense")) << FromQt(error);
     EXPECT_EQ(errorRow, 4);
+    request = Statement("SELECT nonsense FROM cities");
+    request.trials = {{-1, {"SELECT nonsense FROM cities", {}}}, {3, request.statement}};
+    runner.Run(std::move(request));
+    ASSERT_TRUE(failed.wait());
+    EXPECT_EQ(errorRow, -1) << "it is refused without the rows too";
     runner.Run(Statement("DELETE FROM cities"));
     ASSERT_TRUE(failed.wait());
     EXPECT_EQ(errorRow, -1);

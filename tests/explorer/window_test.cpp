@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QTableView>
 
 #include <tern7/core/corekit/files.h>
@@ -187,6 +188,20 @@ TEST_F(TWindowTest, TablesAreJoinedAnotherWay) {
     EXPECT_TRUE(shows("currency"));
     ASSERT_TRUE(window->LoadQuery(folder.filePath("way.qry")));
     EXPECT_TRUE(shows("cities"));
+}
+
+TEST_F(TWindowTest, EverySwitchSwitches) {
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (!action->isCheckable()) continue;
+        const bool before = action->isChecked();
+        action->trigger();
+        EXPECT_TRUE(action->isChecked() != before || action->actionGroup())
+            << FromQt(action->text());
+        action->trigger();
+    }
+    EXPECT_TRUE(window->findChild<QPlainTextEdit*>()->isVisible()) << "SQL is shown again";
+    window->SetLanguage("en");
+    window->SetLook(TMainWindow::TLook::System);
 }
 
 TEST_F(TWindowTest, EmptyQuerySaysWhatIsMissing) {
