@@ -20,6 +20,7 @@
 
 namespace tern7 {
 
+class TAccessibleRows;
 class TDropDownLabel;
 class TFilterRowView;
 class TKPopupMenu;
@@ -287,6 +288,9 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+    // --- for the accessible object, which is not owned
+    void SetAccessibleRows(TAccessibleRows* rows) { accessibleRows = rows; }
+
     // --- for the row views
     TSQLListReader& ListReader() const { return *listReader; }
     const TKRowTexts& RowTexts() const { return *rowTexts; }
@@ -433,6 +437,7 @@ private:
     TKPopupMenu* listMenu;
     TSQLListReader* listReader;
     TRowDrag* rowDrag;
+    TAccessibleRows* accessibleRows = nullptr;
     QPointer<TFilterRowView> waitingView; // where listMenu stands
     int waitingValue = 0;
     TFilterRow* current = nullptr;             // none: the root
@@ -449,6 +454,7 @@ private:
     QList<QIcon> images;
     bool titlesKnown = false;
     bool linesKnown = false;
+    bool linesTold = true;   // to the accessible object
     bool viewsFresh = false; // every view shows its row as it is
     bool layoutPosted = false;
     bool redrawn = false; // the next layout draws all of it

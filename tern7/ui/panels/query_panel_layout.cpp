@@ -11,6 +11,7 @@
 #include <tern7/ui/controls/drop_down_edit.h>
 #include <tern7/ui/controls/flat_check_box.h>
 #include <tern7/ui/controls/round_button.h>
+#include <tern7/ui/panels/accessible_panel.h>
 #include <tern7/ui/panels/filter_row_view.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/text_size.h>
@@ -92,6 +93,7 @@ void TKQueryPanel::BuildLines() {
     if (linesKnown) return;
     lines.Build(*query);
     linesKnown = redrawn = true;
+    linesTold = false;
 }
 
 void TKQueryPanel::Lay() {
@@ -110,6 +112,7 @@ void TKQueryPanel::Lay() {
     // behind the controls' own: Qt draws an opaque ground that is asked for first, with all that
     // stands on it, and then the controls once more
     if (std::exchange(redrawn, false)) viewport()->update();
+    if (!std::exchange(linesTold, true) && accessibleRows) accessibleRows->LinesPlaced();
 }
 
 int TKQueryPanel::LabelLeft(int level, bool header) const {

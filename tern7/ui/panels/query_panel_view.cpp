@@ -1,6 +1,7 @@
 // What the panel does when the query tells that something happened.
 
 #include <tern7/ui/controls/drop_down_label.h>
+#include <tern7/ui/panels/accessible_panel.h>
 #include <tern7/ui/panels/filter_row_view.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/row_drag.h>
@@ -17,8 +18,9 @@ bool IsWithin(const TFilterRow& row, const TFilterRow& around) {
 
 } // namespace
 
-void TKQueryPanel::RowsAdded(TFilterBracket&, int, int) {
+void TKQueryPanel::RowsAdded(TFilterBracket& parent, int index, int count) {
     linesKnown = false;
+    if (accessibleRows) accessibleRows->RowsCome(parent, index, count);
     // in the and/or style the marks of the rows beside move
     if (query->Style() == TQPStyle::psAndOr) viewsFresh = false;
     Invalidate();
@@ -26,6 +28,7 @@ void TKQueryPanel::RowsAdded(TFilterBracket&, int, int) {
 
 /// Nothing may refer to the rows when this returns.
 void TKQueryPanel::RowsRemoved(TFilterBracket& parent, int index, int count) {
+    if (accessibleRows) accessibleRows->RowsGo(parent, index, count);
     for (int i = index; i < index + count; ++i) {
         if (rowDrag->Row() && IsWithin(*rowDrag->Row(), *parent.GetRow(i))) rowDrag->Cancel();
         DropViewsBelow(*parent.GetRow(i));
@@ -66,6 +69,7 @@ void TKQueryPanel::RowChanged(TFilterRow& row) {
         viewsFresh = false;
     else if (TFilterRowView* view = ExistingView(row))
         view->Refresh();
+    if (accessibleRows) accessibleRows->RowChanged(row);
     Invalidate(row.IsBracket());
 }
 
@@ -82,6 +86,7 @@ void TKQueryPanel::ParametersChanged() {
 
 void TKQueryPanel::EverythingChanged() {
     linesKnown = false;
+    if (accessibleRows) accessibleRows->AllRowsCome();
     lines.Clear();
     viewsFresh = false;
     widest = 0;

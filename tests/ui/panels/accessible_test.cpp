@@ -69,4 +69,31 @@ TEST_F(TPanelAccessibleTest, RowsOutOfSight) {
     EXPECT_EQ(Panel()->childCount(), 2);
 }
 
+TEST_F(TPanelAccessibleTest, ARowStaysTheSameObjectAndGoesWithItsRow) {
+    const auto add = [this](TFilterBracket& to, const std::string& city) {
+        return TShop::Add(to, "C.city", "Equal", city);
+    };
+    add(panel->Root(), "Rome");
+    QAccessibleInterface* rome = Panel()->child(1);
+    TFilterBracket* bracket = panel->Root().InsertBracket(0);
+    add(*bracket, "Oslo");
+    const QAccessible::Id oslo = QAccessible::uniqueId(Panel()->child(2));
+    EXPECT_EQ(Name(2), "City is equal to Oslo") << "also before the panel was laid out";
+    EXPECT_EQ(Panel()->indexOfChild(rome), 3);
+    EXPECT_EQ(Panel()->child(3), rome);
+    Settle();
+    panel->Appearance().SetStyle(TQPStyle::psAndOr);
+    QAccessibleInterface* all = Panel()->child(0);
+    EXPECT_EQ(Name(0), "(City is equal to Oslo)");
+    panel->Appearance().SetStyle(TQPStyle::psGroups);
+    EXPECT_EQ(Panel()->indexOfChild(all), 2);
+    panel->DeleteRow(*bracket);
+    EXPECT_EQ(QAccessible::accessibleInterface(oslo), nullptr);
+    EXPECT_EQ(Panel()->indexOfChild(rome), 1);
+    EXPECT_EQ(Panel()->childCount(), 3);
+    const QAccessible::Id last = QAccessible::uniqueId(rome);
+    panel->ClearAll();
+    EXPECT_EQ(QAccessible::accessibleInterface(last), nullptr);
+}
+
 } // namespace tern7
