@@ -34,6 +34,14 @@ TKDatabaseURL DatabaseOf(const QString& text) {
     return url;
 }
 
+/// Says what goes wrong, and ends the program.
+void FailOn(TMainWindow& window) {
+    window.OnTrouble = [](const QString& message) {
+        QTextStream(stderr) << message << "\n";
+        std::_Exit(1);
+    };
+}
+
 int Screenshot(TMainWindow& window, const QString& file) {
     const auto grab = [&window, file] {
         const bool saved = window.grab().save(file);
@@ -42,8 +50,9 @@ int Screenshot(TMainWindow& window, const QString& file) {
     };
     const auto later = [&window, grab] { QTimer::singleShot(paintTime, &window, grab); };
     QObject::connect(&window, &TMainWindow::runEnded, &window, later);
-    QTimer::singleShot(longestRun, &window, grab);
-    if (window.HasDatabase()) window.RunQuery();
+    QTimer::singleShot(longestRun, &window,
+                       [&window] { window.OnTrouble(QStringLiteral("The query takes too long")); });
+    window.RunQuery();
     if (!window.IsRunning()) later();
     return QCoreApplication::exec();
 }
@@ -105,11 +114,12 @@ int main(int argc, char** argv) {
         const QStringList sides = parser.value(size).split(u'x');
         if (sides.size() == 2) window.resize(sides[0].toInt(), sides[1].toInt());
         window.show();
+        if (parser.isSet(screenshot)) FailOn(window);
         try {
             if (parser.isSet(database))
                 window.OpenDatabase(DatabaseOf(parser.value(database)), parser.value(structure));
             else
-                window.OpenSample();
+                parser.isSet(screenshot) ? window.OpenSample() : window.OpenLast();
         } catch (const std::exception& error) {
             QTextStream(stderr) << ToQt(error.what()) << "\n";
             return 2;

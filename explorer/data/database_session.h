@@ -12,14 +12,18 @@ namespace tern7 {
 /// A database that was opened and the structure that queries over it are made of.
 class TDatabaseSession {
 public:
+    /// The file is that of the structure; empty when it was imported.
     TDatabaseSession(const TKDatabaseURL& address,
-                     std::unique_ptr<TKCustomDBStructure> itsStructure);
+                     std::unique_ptr<TKCustomDBStructure> itsStructure, std::string file);
     ~TDatabaseSession();
     TDatabaseSession(const TDatabaseSession&) = delete;
     TDatabaseSession& operator=(const TDatabaseSession&) = delete;
 
     const TKDatabaseURL& Url() const { return url; }
     TKCustomDBStructure& Structure() { return *structure; }
+    const std::string& StructureFile() const { return structureFile; }
+    /// Not in the program's language but as it is delivered. EKTernError.
+    void SaveStructure(const std::string& file);
     /// The operators in the program's present language.
     void TranslateOperators() { operatorCaptions.Translate(*structure); }
 
@@ -27,6 +31,7 @@ private:
     TKDatabaseURL url;
     TSessionInfo info;
     std::unique_ptr<TKCustomDBStructure> structure;
+    std::string structureFile;
     TOperatorCaptions operatorCaptions;
 };
 

@@ -43,13 +43,22 @@ TOperatorCaptions::TOperatorCaptions(const TKCustomDBStructure& structure) {
 }
 
 void TOperatorCaptions::Translate(TKCustomDBStructure& structure) const {
+    Name(structure, Translated);
+}
+
+void TOperatorCaptions::Deliver(TKCustomDBStructure& structure) const {
+    Name(structure, [](std::string_view text) { return std::string(text); });
+}
+
+void TOperatorCaptions::Name(TKCustomDBStructure& structure,
+                             std::string (*worded)(std::string_view)) const {
     const TDSUpdate update(structure);
     for (const TDefaultOperator& each : DefaultOperators) {
         if (std::find(names.begin(), names.end(), each.name) == names.end()) continue;
         TDSOperator* op = structure.OperatorByName(each.name);
         if (!op) continue;
-        op->SetDisplayName(Translated(each.caption));
-        if (!each.valFormat.empty()) op->SetValFormat(Translated(each.valFormat));
+        op->SetDisplayName(worded(each.caption));
+        if (!each.valFormat.empty()) op->SetValFormat(worded(each.valFormat));
     }
 }
 

@@ -14,8 +14,12 @@ public:
     explicit TOperatorCaptions(const TKCustomDBStructure& structure);
 
     void Translate(TKCustomDBStructure& structure) const;
+    /// As the core delivers them.
+    void Deliver(TKCustomDBStructure& structure) const;
 
 private:
+    void Name(TKCustomDBStructure& structure, std::string (*worded)(std::string_view)) const;
+
     std::vector<std::string> names; // of the operators with the default caption
 };
 

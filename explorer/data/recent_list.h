@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 namespace tern7 {
 
@@ -11,11 +12,14 @@ public:
     explicit TRecentList(QString settingsKey) : key(std::move(settingsKey)) {}
 
     QStringList Entries() const;
-    void Add(const QString& entry);
+    /// What was noted with an entry goes with it.
+    void Add(const QString& entry, const QString& note = {});
+    QString NoteOf(const QString& entry) const;
     void Remove(const QString& entry);
 
 private:
-    void Store(const QStringList& entries) const;
+    void Store(const QStringList& entries, QVariantMap notes) const;
+    QVariantMap Notes() const;
 
     QString key;
 };

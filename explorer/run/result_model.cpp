@@ -7,6 +7,7 @@
 #include <QPalette>
 
 #include <tern7/ui/support/text.h>
+#include <tern7/ui/support/tool_tip_text.h>
 
 namespace tern7 {
 
@@ -98,7 +99,7 @@ QVariant TResultModel::data(const QModelIndex& index, int role) const {
         if (cell.kind == TKind::Null) return tr("No value");
         const QString text = CellText(cell);
         const bool whole = text.size() < 40 && !text.contains(u'\n');
-        return whole ? QVariant() : QVariant(text.left(mostHint).toHtmlEscaped());
+        return whole ? QVariant() : QVariant(ToolTipText(text.left(mostHint)));
     }
     case Qt::TextAlignmentRole:
         return static_cast<int>((IsNumber(cell.kind) ? Qt::AlignRight : Qt::AlignLeading) |

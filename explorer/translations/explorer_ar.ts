@@ -307,6 +307,10 @@
         <source>Read SQL</source>
         <translation>قراءة SQL</translation>
     </message>
+    <message>
+        <source>Delete column</source>
+        <translation>حذف العمود</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMainWindow</name>
@@ -675,6 +679,61 @@
     <message>
         <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
         <translation>النص ليس عبارة SELECT يمكن قراءتها: ابتداءً من السطر %1، العمود %2 لا يستمر كعبارة كهذه.</translation>
+    </message>
+    <message>
+        <source>S&amp;tructure</source>
+        <translation>ال&amp;بنية</translation>
+    </message>
+    <message>
+        <source>&amp;Open structure...</source>
+        <translation>&amp;فتح بنية...</translation>
+    </message>
+    <message>
+        <source>&amp;Save structure as...</source>
+        <translation>&amp;حفظ البنية باسم...</translation>
+    </message>
+    <message>
+        <source>&amp;Import it anew</source>
+        <translation>ا&amp;ستيرادها من جديد</translation>
+    </message>
+    <message>
+        <source>Structures (*.str);;All files (*)</source>
+        <translation>البُنى (*.str);;كل الملفات (*)</translation>
+    </message>
+    <message>
+        <source>Open structure</source>
+        <translation>فتح بنية</translation>
+    </message>
+    <message>
+        <source>The structure %1 could not be opened: %2</source>
+        <translation>تعذّر فتح البنية %1: %2</translation>
+    </message>
+    <message>
+        <source>Save structure</source>
+        <translation>حفظ البنية</translation>
+    </message>
+    <message>
+        <source>The structure could not be saved as %1: %2</source>
+        <translation>تعذّر حفظ البنية باسم %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>لا أعمدة (%n) تشير إلى حقول غير موجودة في قاعدة البيانات.</numerusform>
+            <numerusform>عمود واحد (%n) من هذا الاستعلام يشير إلى حقل غير موجود في قاعدة البيانات. اختر حقلًا آخر أو أزله.</numerusform>
+            <numerusform>عمودان (%n) من هذا الاستعلام يشيران إلى حقول غير موجودة في قاعدة البيانات. اختر غيرها أو أزلهما.</numerusform>
+            <numerusform>%n أعمدة من هذا الاستعلام تشير إلى حقول غير موجودة في قاعدة البيانات. اختر غيرها أو أزلها.</numerusform>
+            <numerusform>%n عمودًا من هذا الاستعلام تشير إلى حقول غير موجودة في قاعدة البيانات. اختر غيرها أو أزلها.</numerusform>
+            <numerusform>%n عمود من هذا الاستعلام تشير إلى حقول غير موجودة في قاعدة البيانات. اختر غيرها أو أزلها.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>إزالتها</translation>
+    </message>
+    <message>
+        <source>The query asks for the value of %1.</source>
+        <translation>يطلب الاستعلام قيمة %1.</translation>
     </message>
 </context>
 <context>

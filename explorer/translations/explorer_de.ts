@@ -307,6 +307,10 @@
         <source>Read SQL</source>
         <translation>SQL lesen</translation>
     </message>
+    <message>
+        <source>Delete column</source>
+        <translation>Spalte löschen</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMainWindow</name>
@@ -667,6 +671,57 @@
     <message>
         <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
         <translation>Der Text ist keine SELECT-Anweisung, die gelesen werden kann: Ab Zeile %1, Spalte %2 geht er nicht wie eine weiter.</translation>
+    </message>
+    <message>
+        <source>S&amp;tructure</source>
+        <translation>Stru&amp;ktur</translation>
+    </message>
+    <message>
+        <source>&amp;Open structure...</source>
+        <translation>Struktur &amp;öffnen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save structure as...</source>
+        <translation>Struktur &amp;speichern unter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Import it anew</source>
+        <translation>&amp;Neu einlesen</translation>
+    </message>
+    <message>
+        <source>Structures (*.str);;All files (*)</source>
+        <translation>Strukturen (*.str);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Open structure</source>
+        <translation>Struktur öffnen</translation>
+    </message>
+    <message>
+        <source>The structure %1 could not be opened: %2</source>
+        <translation>Die Struktur %1 konnte nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Save structure</source>
+        <translation>Struktur speichern</translation>
+    </message>
+    <message>
+        <source>The structure could not be saved as %1: %2</source>
+        <translation>Die Struktur konnte nicht als %1 gespeichert werden: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>%n Spalte dieser Abfrage bezieht sich auf ein Feld, das die Datenbank nicht hat. Wählen Sie ein anderes, oder entfernen Sie sie.</numerusform>
+            <numerusform>%n Spalten dieser Abfrage beziehen sich auf Felder, die die Datenbank nicht hat. Wählen Sie andere, oder entfernen Sie sie.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>The query asks for the value of %1.</source>
+        <translation>Die Abfrage fragt nach dem Wert von %1.</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,13 @@
             <numerusform>%n conditions are not finished and take no part (%1).</numerusform>
         </translation>
     </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>%n column of this query refers to a field that the database does not have. Choose another, or remove it.</numerusform>
+            <numerusform>%n columns of this query refer to fields that the database does not have. Choose others, or remove them.</numerusform>
+        </translation>
+    </message>
 </context>
 <context>
     <name>tern7::TReportDialog</name>

@@ -307,6 +307,10 @@
         <source>Read SQL</source>
         <translation>Leer SQL</translation>
     </message>
+    <message>
+        <source>Delete column</source>
+        <translation>Eliminar columna</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMainWindow</name>
@@ -667,6 +671,57 @@
     <message>
         <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
         <translation>El texto no es una instrucción SELECT que se pueda leer: a partir de la línea %1, columna %2 no continúa como tal.</translation>
+    </message>
+    <message>
+        <source>S&amp;tructure</source>
+        <translation>Es&amp;tructura</translation>
+    </message>
+    <message>
+        <source>&amp;Open structure...</source>
+        <translation>&amp;Abrir estructura...</translation>
+    </message>
+    <message>
+        <source>&amp;Save structure as...</source>
+        <translation>&amp;Guardar estructura como...</translation>
+    </message>
+    <message>
+        <source>&amp;Import it anew</source>
+        <translation>&amp;Importarla de nuevo</translation>
+    </message>
+    <message>
+        <source>Structures (*.str);;All files (*)</source>
+        <translation>Estructuras (*.str);;Todos los archivos (*)</translation>
+    </message>
+    <message>
+        <source>Open structure</source>
+        <translation>Abrir estructura</translation>
+    </message>
+    <message>
+        <source>The structure %1 could not be opened: %2</source>
+        <translation>No se pudo abrir la estructura %1: %2</translation>
+    </message>
+    <message>
+        <source>Save structure</source>
+        <translation>Guardar estructura</translation>
+    </message>
+    <message>
+        <source>The structure could not be saved as %1: %2</source>
+        <translation>No se pudo guardar la estructura como %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>%n columna de esta consulta se refiere a un campo que la base de datos no tiene. Elija otro o quítela.</numerusform>
+            <numerusform>%n columnas de esta consulta se refieren a campos que la base de datos no tiene. Elija otros o quítelas.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>Quitarlas</translation>
+    </message>
+    <message>
+        <source>The query asks for the value of %1.</source>
+        <translation>La consulta pide el valor de %1.</translation>
     </message>
 </context>
 <context>

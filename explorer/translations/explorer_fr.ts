@@ -307,6 +307,10 @@
         <source>Read SQL</source>
         <translation>Lire du SQL</translation>
     </message>
+    <message>
+        <source>Delete column</source>
+        <translation>Supprimer la colonne</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMainWindow</name>
@@ -667,6 +671,57 @@
     <message>
         <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
         <translation>Le texte n’est pas une instruction SELECT lisible : à partir de la ligne %1, colonne %2, il ne continue pas comme telle.</translation>
+    </message>
+    <message>
+        <source>S&amp;tructure</source>
+        <translation>S&amp;tructure</translation>
+    </message>
+    <message>
+        <source>&amp;Open structure...</source>
+        <translation>&amp;Ouvrir une structure...</translation>
+    </message>
+    <message>
+        <source>&amp;Save structure as...</source>
+        <translation>&amp;Enregistrer la structure sous...</translation>
+    </message>
+    <message>
+        <source>&amp;Import it anew</source>
+        <translation>&amp;Importer à nouveau</translation>
+    </message>
+    <message>
+        <source>Structures (*.str);;All files (*)</source>
+        <translation>Structures (*.str);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Open structure</source>
+        <translation>Ouvrir une structure</translation>
+    </message>
+    <message>
+        <source>The structure %1 could not be opened: %2</source>
+        <translation>La structure %1 n&apos;a pas pu être ouverte : %2</translation>
+    </message>
+    <message>
+        <source>Save structure</source>
+        <translation>Enregistrer la structure</translation>
+    </message>
+    <message>
+        <source>The structure could not be saved as %1: %2</source>
+        <translation>La structure n&apos;a pas pu être enregistrée sous %1 : %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>%n colonne de cette requête se réfère à un champ que la base de données n’a pas. Choisissez-en un autre ou retirez-la.</numerusform>
+            <numerusform>%n colonnes de cette requête se réfèrent à des champs que la base de données n’a pas. Choisissez-en d’autres ou retirez-les.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>Les retirer</translation>
+    </message>
+    <message>
+        <source>The query asks for the value of %1.</source>
+        <translation>La requête demande la valeur de %1.</translation>
     </message>
 </context>
 <context>

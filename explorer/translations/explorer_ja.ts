@@ -307,6 +307,10 @@
         <source>Read SQL</source>
         <translation>SQL の読み込み</translation>
     </message>
+    <message>
+        <source>Delete column</source>
+        <translation>列を削除</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMainWindow</name>
@@ -665,6 +669,56 @@
     <message>
         <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
         <translation>読み取れる SELECT 文ではありません: %1 行 %2 列から先が文として続いていません。</translation>
+    </message>
+    <message>
+        <source>S&amp;tructure</source>
+        <translation>構造(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Open structure...</source>
+        <translation>構造を開く(&amp;O)...</translation>
+    </message>
+    <message>
+        <source>&amp;Save structure as...</source>
+        <translation>構造に名前を付けて保存(&amp;S)...</translation>
+    </message>
+    <message>
+        <source>&amp;Import it anew</source>
+        <translation>再インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Structures (*.str);;All files (*)</source>
+        <translation>構造 (*.str);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Open structure</source>
+        <translation>構造を開く</translation>
+    </message>
+    <message>
+        <source>The structure %1 could not be opened: %2</source>
+        <translation>構造 %1 を開けませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Save structure</source>
+        <translation>構造を保存</translation>
+    </message>
+    <message>
+        <source>The structure could not be saved as %1: %2</source>
+        <translation>構造を %1 として保存できませんでした: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>このクエリの %n 列は、データベースにないフィールドを参照しています。別のフィールドを選ぶか、削除してください。</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>削除する</translation>
+    </message>
+    <message>
+        <source>The query asks for the value of %1.</source>
+        <translation>クエリには %1 の値が必要です。</translation>
     </message>
 </context>
 <context>

@@ -307,6 +307,10 @@
         <source>Read SQL</source>
         <translation>Прочитать SQL</translation>
     </message>
+    <message>
+        <source>Delete column</source>
+        <translation>Удалить столбец</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMainWindow</name>
@@ -669,6 +673,58 @@
     <message>
         <source>The text is no SELECT statement that can be read: from line %1, column %2 on it does not go on as one.</source>
         <translation>Текст не является оператором SELECT, который можно прочитать: начиная со строки %1, столбца %2 он продолжается иначе.</translation>
+    </message>
+    <message>
+        <source>S&amp;tructure</source>
+        <translation>С&amp;труктура</translation>
+    </message>
+    <message>
+        <source>&amp;Open structure...</source>
+        <translation>&amp;Открыть структуру...</translation>
+    </message>
+    <message>
+        <source>&amp;Save structure as...</source>
+        <translation>&amp;Сохранить структуру как...</translation>
+    </message>
+    <message>
+        <source>&amp;Import it anew</source>
+        <translation>&amp;Импортировать заново</translation>
+    </message>
+    <message>
+        <source>Structures (*.str);;All files (*)</source>
+        <translation>Структуры (*.str);;Все файлы (*)</translation>
+    </message>
+    <message>
+        <source>Open structure</source>
+        <translation>Открыть структуру</translation>
+    </message>
+    <message>
+        <source>The structure %1 could not be opened: %2</source>
+        <translation>Не удалось открыть структуру %1: %2</translation>
+    </message>
+    <message>
+        <source>Save structure</source>
+        <translation>Сохранить структуру</translation>
+    </message>
+    <message>
+        <source>The structure could not be saved as %1: %2</source>
+        <translation>Не удалось сохранить структуру как %1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n column(s) of this query refer to fields that the database does not have. Choose others, or remove them.</source>
+        <translation>
+            <numerusform>%n столбец запроса ссылается на поле, которого нет в базе данных. Выберите другое или удалите его.</numerusform>
+            <numerusform>%n столбца запроса ссылаются на поля, которых нет в базе данных. Выберите другие или удалите их.</numerusform>
+            <numerusform>%n столбцов запроса ссылаются на поля, которых нет в базе данных. Выберите другие или удалите их.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Remove them</source>
+        <translation>Удалить их</translation>
+    </message>
+    <message>
+        <source>The query asks for the value of %1.</source>
+        <translation>Запрос требует значения: %1.</translation>
     </message>
 </context>
 <context>

@@ -37,6 +37,7 @@ TConnectionDialog::TConnectionDialog(QWidget* parent)
     pages->addWidget(MakeSourcePage());
 
     error->setWordWrap(true);
+    error->setTextFormat(Qt::PlainText);
     error->setTextInteractionFlags(Qt::TextSelectableByMouse);
     error->hide();
 

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QSettings>
@@ -40,6 +41,7 @@ TMainWindow::TMainWindow(QWidget* parent)
     MakeActions();
 
     conditions->OnChange = [this](TKQueryPanel&) { QueryChanged(); };
+    connect(&runner, &TQueryRunner::columnsRead, this, [this] { shownColumns = askedColumns; });
     results->Attach(runner);
     connect(&runner, &TQueryRunner::failed, this, &TMainWindow::RunFailed);
     connect(&runner, &TQueryRunner::started, this, &TMainWindow::UpdateActions);
@@ -64,6 +66,7 @@ TMainWindow::TMainWindow(QWidget* parent)
 TMainWindow::~TMainWindow() {
     // The panels let go of the structure before the session does.
     conditions->OnChange = nullptr;
+    conditions->Editor().Stack().disconnect(this);
     delete columns;
     delete conditions;
 }
@@ -134,6 +137,7 @@ QWidget* TMainWindow::MakeColumnsPart() {
     columns->SetResultFields(&conditions->QResult().ResultFields());
     QWidget* part = Part(QT_TR_NOOP("C&olumns"), columns);
     grouping = new QLabel;
+    grouping->setTextFormat(Qt::PlainText);
     grouping->setWordWrap(true);
     grouping->hide();
     part->layout()->addWidget(grouping);
@@ -182,6 +186,7 @@ void TMainWindow::RestoreState() {
         queryParts->setSizes({380, 620});
     }
     sqlAction->setChecked(settings.value(QStringLiteral("window/sql"), true).toBool());
+    andOrAction->setChecked(settings.value(QStringLiteral("view/andOr"), false).toBool());
     liveAction->setChecked(settings.value(QStringLiteral("run/live"), false).toBool());
     rowLimit->setValue(settings.value(QStringLiteral("run/limit"), 1000).toInt());
     SetZoom(settings.value(QStringLiteral("view/zoom"), 100).toInt());
@@ -195,6 +200,7 @@ void TMainWindow::StoreState() const {
     settings.setValue(QStringLiteral("window/parts"), parts->saveState());
     settings.setValue(QStringLiteral("window/query"), queryParts->saveState());
     settings.setValue(QStringLiteral("window/sql"), sqlAction->isChecked());
+    settings.setValue(QStringLiteral("view/andOr"), andOrAction->isChecked());
     settings.setValue(QStringLiteral("run/live"), liveAction->isChecked());
     settings.setValue(QStringLiteral("run/limit"), rowLimit->value());
     settings.setValue(QStringLiteral("view/zoom"), zoom);
@@ -209,6 +215,13 @@ void TMainWindow::UpdateTitle() {
     setWindowTitle(database.isEmpty() ? QStringLiteral("tern7")
                                       : QStringLiteral("%1[*] – %2 – tern7").arg(name, database));
     setWindowModified(IsModified());
+}
+
+void TMainWindow::Warn(const QString& title, const QString& text) {
+    if (OnTrouble) return OnTrouble(text);
+    QMessageBox box(QMessageBox::Warning, title, text, QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText); // it quotes files and databases
+    box.exec();
 }
 
 void TMainWindow::changeEvent(QEvent* event) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -25,6 +26,7 @@ class TKQueryPanel;
 class TKResultFieldsPanel;
 class TMessageBar;
 struct TReadProblem;
+class TResultField;
 class TResultView;
 
 /// The window of the program: columns, conditions, SQL and rows of one query over one database.
@@ -40,7 +42,12 @@ public:
     /// is imported, or loaded from the file when one is given. False when nothing changed.
     bool OpenDatabase(const TKDatabaseURL& address, const QString& structureFile = {});
     bool OpenSample();
+    /// The database that was open last; a server's password is asked for. At first the sample.
+    bool OpenLast();
     bool HasDatabase() const { return session != nullptr; }
+
+    /// Called instead of all message boxes and questions, where nobody is there to answer them.
+    std::function<void(const QString& message)> OnTrouble;
 
     // --- query files
     bool LoadQuery(const QString& file);
@@ -90,6 +97,7 @@ private:
     void RestoreState();
     void StoreState() const;
     void UpdateTitle();
+    void Warn(const QString& title, const QString& text);
 
     // main_window_actions.cpp
     void MakeActions();
@@ -113,9 +121,14 @@ private:
     void Step(const char* name, const std::function<void()>& change);
     void ShowSteps();
 
-    // main_window_files.cpp
+    // main_window_databases.cpp
     bool WaitForDatabase(TDatabaseOpener& running);
     void AskForDatabase(const TKDatabaseURL* preset = nullptr, const QString& error = {});
+    void UseStructure(const QString& file);
+    QString KnownStructure(const TKDatabaseURL& url);
+    bool CanReadStructure(const QString& file);
+    void AskForStructure();
+    void SaveStructure();
     void OpenRecentDatabase(const QString& address);
     void FillRecentMenus();
     void NewQuery();
@@ -127,6 +140,8 @@ private:
     void SaveRows();
     void TellWarnings();
     void TellLostFields();
+    std::vector<int> LostColumns() const;
+    void RemoveLostColumns();
     void ReadSQLFile(const QString& file);
     std::string QueryText() const;
     void QueryLoaded(const QString& file);
@@ -151,6 +166,7 @@ private:
     QString Sentence(int number) const;
     void FocusRow(int number);
     void SortBy(int column);
+    int PresentPlace(int shownColumn) const;
     void ShowSorting();
     void AddColumn();
     void EditColumns();
@@ -188,6 +204,9 @@ private:
     QTimer liveTimer;            // and run when nothing was typed for a while
     bool readSQLChanged = false; // the last reading of SQL is a step
     QString queryFile;
+    std::optional<TStrings> fileTitles; // the captions that it has
+    // of the rows that are asked for and shown; only compared, for they may have gone since
+    std::vector<const TResultField*> askedColumns, shownColumns;
     std::string savedText; // of the query as it was loaded or saved
     QString language;
     TLook look = TLook::System;
@@ -199,6 +218,7 @@ private:
     std::vector<std::function<void()>> wordings;
     QMenu* recentDatabaseMenu = nullptr;
     QMenu* recentQueryMenu = nullptr;
+    QMenu* structureMenu = nullptr;
     QAction* saveAction = nullptr;
     QAction* undoAction = nullptr;
     QAction* redoAction = nullptr;
@@ -207,6 +227,7 @@ private:
     QAction* liveAction = nullptr;
     QAction* distinctAction = nullptr;
     QAction* sqlAction = nullptr;
+    QAction* andOrAction = nullptr;
     QAction* addColumnAction = nullptr;
     QAction* editColumnsAction = nullptr;
     QAction* startTableAction = nullptr;

@@ -92,6 +92,13 @@ void TMainWindow::MakeFileMenu() {
     menu->addAction(Action(QT_TR_NOOP("Sa&mple database"), {}, [this] {
         if (MayDiscard()) OpenSample();
     }));
+    structureMenu = Menu(QT_TR_NOOP("S&tructure"), menu);
+    structureMenu->addAction(
+        Action(QT_TR_NOOP("&Open structure..."), {}, [this] { AskForStructure(); }));
+    structureMenu->addAction(
+        Action(QT_TR_NOOP("&Save structure as..."), {}, [this] { SaveStructure(); }));
+    structureMenu->addAction(
+        Action(QT_TR_NOOP("&Import it anew"), {}, [this] { UseStructure({}); }));
     menu->addSeparator();
     menu->addAction(Action(QT_TR_NOOP("&New query"), QKeySequence::New, [this] {
         if (MayDiscard()) NewQuery();
@@ -188,6 +195,7 @@ void TMainWindow::UpdateActions() {
     addColumnAction->setEnabled(HasDatabase());
     editColumnsAction->setEnabled(HasDatabase());
     startTableAction->setEnabled(HasDatabase());
+    structureMenu->setEnabled(HasDatabase());
     saveRowsAction->setEnabled(results->Model().rowCount() > 0 && !running);
     distinctAction->setChecked(conditions->SQLOptions().Contains(TSQLOption::soSelectDistinct));
 }

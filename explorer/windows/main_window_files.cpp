@@ -1,23 +1,20 @@
 #include "main_window.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMessageBox>
-#include <QProgressDialog>
 
+#include <tern7/core/corekit/files.h>
 #include <tern7/core/global/errors.h>
+#include <tern7/core/query/query_text.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/bidi_text.h>
 #include <tern7/ui/support/text.h>
 
 #include "../data/error_text.h"
-#include "../data/sample_database.h"
-#include "connection_dialog.h"
 #include "message_bar.h"
 #include "result_view.h"
 
@@ -25,136 +22,32 @@ namespace tern7 {
 
 namespace {
 
-/// The busy cursor while it lives.
-class TBusy {
-public:
-    TBusy() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~TBusy() { QApplication::restoreOverrideCursor(); }
-    TBusy(const TBusy&) = delete;
-    TBusy& operator=(const TBusy&) = delete;
-};
-
-constexpr int shortWait = 150; // milliseconds that nobody takes for a standstill
-
 QString QueryFilter() {
     return TMainWindow::tr("Queries (*.qry);;All files (*)");
 }
 
+/// The captions that a file came with, in the query while it is saved.
+class TFileTitles {
+public:
+    TFileTitles(TKQuery& owner, const std::optional<TStrings>& titles)
+        : query(owner), shown(owner.Titles) {
+        if (!titles) return;
+        query.Titles = *titles;
+        query.SaveTitles = true;
+    }
+    ~TFileTitles() {
+        query.Titles.swap(shown);
+        query.SaveTitles = false;
+    }
+    TFileTitles(const TFileTitles&) = delete;
+    TFileTitles& operator=(const TFileTitles&) = delete;
+
+private:
+    TKQuery& query;
+    TStrings shown;
+};
+
 } // namespace
-
-// --- databases
-
-bool TMainWindow::OpenDatabase(const TKDatabaseURL& address, const QString& structureFile) {
-    if (opener) return false; // one at a time
-    TKDatabaseURL url = address;
-    // to be found again from any folder
-    if (const QFileInfo file(ToQt(url.database));
-        url.driver == TKDatabaseURL::TDriver::SQLite && file.exists())
-        url.database = FromQt(file.absoluteFilePath());
-    std::unique_ptr<TDatabaseSession> opened;
-    try {
-        TDatabaseOpener running(url, FromQt(structureFile));
-        if (!WaitForDatabase(running)) return false;
-        opened = std::make_unique<TDatabaseSession>(url, running.Take());
-    } catch (const std::exception& error) {
-        AskForDatabase(&url, ErrorText(error));
-        return false;
-    }
-    results->Clear();
-    conditions->SetDbStruct(&opened->Structure());
-    session = std::move(opened); // the old structure goes when nobody looks at it any more
-    runner.SetDatabase(url);
-    if (const std::string address = url.Address(); !address.empty())
-        recentDatabases.Add(ToQt(address));
-    NewQuery();
-    return true;
-}
-
-/// Waits with a dialog that can be cancelled. False when it was.
-bool TMainWindow::WaitForDatabase(TDatabaseOpener& running) {
-    {
-        const TBusy busy;
-        if (running.WaitFor(shortWait)) return true;
-    }
-    opener = &running;
-    QProgressDialog progress(this);
-    progress.setWindowTitle(tr("Open database"));
-    progress.setWindowModality(Qt::ApplicationModal);
-    progress.setMinimumDuration(0);
-    progress.setAutoReset(false);
-    progress.setRange(0, 0);
-    progress.setLabelText(tr("Waiting for the database..."));
-    connect(&running, &TDatabaseOpener::tablesRead, &progress, [&progress](int count, int all) {
-        progress.setRange(0, all);
-        progress.setValue(count);
-        progress.setLabelText(tr("Reading table %1 of %2...").arg(count).arg(all));
-    });
-    QEventLoop loop;
-    connect(&running, &TDatabaseOpener::finished, &loop, &QEventLoop::quit);
-    connect(&progress, &QProgressDialog::canceled, &loop, &QEventLoop::quit);
-    progress.show();
-    if (!running.IsFinished()) loop.exec();
-    opener = nullptr;
-    return running.IsFinished() && !progress.wasCanceled();
-}
-
-bool TMainWindow::OpenSample() {
-    try {
-        TKDatabaseURL url;
-        {
-            const TBusy busy;
-            url.database = FromQt(SampleDatabase());
-        }
-        return OpenDatabase(url);
-    } catch (const std::exception& error) {
-        QMessageBox::warning(this, tr("Sample database"), ErrorText(error));
-        return false;
-    }
-}
-
-void TMainWindow::AskForDatabase(const TKDatabaseURL* preset, const QString& error) {
-    auto* dialog = new TConnectionDialog(this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    if (preset) dialog->SetUrl(*preset);
-    if (!error.isEmpty()) dialog->ShowError(error);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] { OpenDatabase(dialog->Url()); });
-    dialog->QDialog::open();
-}
-
-void TMainWindow::OpenRecentDatabase(const QString& address) {
-    if (!MayDiscard()) return;
-    try {
-        const TKDatabaseURL url = ParseDatabaseURL(FromQt(address));
-        // A server may want a password, which is not kept.
-        const bool mayAsk = url.driver == TKDatabaseURL::TDriver::PostgreSQL ||
-                            url.driver == TKDatabaseURL::TDriver::MySQL;
-        if (mayAsk)
-            AskForDatabase(&url, {});
-        else
-            OpenDatabase(url);
-    } catch (const std::exception& error) {
-        recentDatabases.Remove(address);
-        QMessageBox::warning(this, tr("Open database"), ErrorText(error));
-    }
-}
-
-void TMainWindow::FillRecentMenus() {
-    const auto fill = [this](QMenu& menu, const QStringList& entries,
-                             const std::function<void(const QString&)>& open) {
-        menu.clear();
-        for (const QString& entry : entries) {
-            QString shown = entry;
-            QAction* action = menu.addAction(shown.replace(u'&', QStringLiteral("&&")));
-            connect(action, &QAction::triggered, this, [open, entry] { open(entry); });
-        }
-        menu.menuAction()->setEnabled(!entries.isEmpty());
-    };
-    fill(*recentDatabaseMenu, recentDatabases.Entries(),
-         [this](const QString& address) { OpenRecentDatabase(address); });
-    fill(*recentQueryMenu, recentQueries.Entries(), [this](const QString& file) {
-        if (MayDiscard()) LoadQuery(file);
-    });
-}
 
 // --- queries
 
@@ -168,6 +61,7 @@ bool TMainWindow::IsModified() const {
 
 void TMainWindow::QueryLoaded(const QString& file) {
     queryFile = file;
+    fileTitles.reset();
     savedText = QueryText();
     conditions->Editor().Stack().clear();
     results->Clear();
@@ -196,22 +90,27 @@ void TMainWindow::NewQuery() {
 
 bool TMainWindow::LoadQuery(const QString& file) {
     const TStrings titles = conditions->Titles();
+    bool hasTitles = false;
     try {
+        hasTitles = ReadQueryTextHead(ReadWholeFile(FromQt(file))).hasTitles;
+        conditions->Query().SaveTitles = hasTitles;
         conditions->LoadFromFile(file);
     } catch (const std::exception& error) {
+        conditions->Query().SaveTitles = false;
         conditions->SetActive(true);
-        recentQueries.Remove(file);
-        QMessageBox::warning(
-            this, tr("Open query"),
-            tr("The query %1 could not be opened: %2").arg(Isolated(file), FileReason(error)));
+        if (!QFileInfo::exists(file)) recentQueries.Remove(file);
+        Warn(tr("Open query"),
+             tr("The query %1 could not be opened: %2").arg(Isolated(file), FileReason(error)));
         return false;
     }
+    const TStrings titlesOfFile = conditions->Query().Titles;
     conditions->SetTitles(titles); // the window's language, not that of the file
     conditions->Query().SaveTitles = false;
     conditions->Query().SaveSQLOptions = true;
     conditions->Query().SaveMainTable = true;
     recentQueries.Add(QFileInfo(file).absoluteFilePath());
     QueryLoaded(file);
+    if (hasTitles) fileTitles = titlesOfFile;
     TellWarnings();
     TellLostFields();
     if (liveAction->isChecked()) RunWith(false);
@@ -219,12 +118,13 @@ bool TMainWindow::LoadQuery(const QString& file) {
 }
 
 bool TMainWindow::SaveQuery(const QString& file) {
+    conditions->CloseEdit(); // what is being typed belongs to it
     try {
+        const TFileTitles titles(conditions->Query(), fileTitles);
         conditions->SaveToFile(file);
     } catch (const std::exception& error) {
-        QMessageBox::warning(
-            this, tr("Save query"),
-            tr("The query could not be saved as %1: %2").arg(Isolated(file), FileReason(error)));
+        Warn(tr("Save query"),
+             tr("The query could not be saved as %1: %2").arg(Isolated(file), FileReason(error)));
         return false;
     }
     queryFile = file;
@@ -247,6 +147,7 @@ bool TMainWindow::SaveNow() {
 }
 
 bool TMainWindow::SaveAs() {
+    conditions->CloseEdit();
     QFileDialog dialog(this, tr("Save query"), queryFile, QueryFilter());
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("qry"));
@@ -255,6 +156,7 @@ bool TMainWindow::SaveAs() {
 
 /// Asks about changes that are not saved.
 bool TMainWindow::MayDiscard() {
+    conditions->CloseEdit(); // what is being typed is a change, too
     if (!session || !IsModified()) return true;
     const auto answer = QMessageBox::question(
         this, tr("Unsaved changes"), tr("The query was changed. Save the changes?"),
@@ -263,23 +165,26 @@ bool TMainWindow::MayDiscard() {
     return answer == QMessageBox::Discard;
 }
 
-/// By its name: a query, a statement, or else a database.
+/// By its name: a query, a statement, a structure, or else a database.
 void TMainWindow::OpenFile(const QString& file) {
     const QString suffix = QFileInfo(file).suffix().toLower();
     if (suffix == QLatin1String("sql")) return ReadSQLFile(file); // which can be undone
+    if (suffix == QLatin1String("str")) return UseStructure(file);
     if (!MayDiscard()) return;
     if (suffix == QLatin1String("qry")) {
         LoadQuery(file);
     } else {
         TKDatabaseURL url;
-        url.database = FromQt(file);
-        OpenDatabase(url);
+        url.database = FromQt(QFileInfo(file).absoluteFilePath());
+        OpenDatabase(url, KnownStructure(url));
     }
 }
 
 /// What the reading met without failing.
 void TMainWindow::TellWarnings() {
-    const TStrings& warnings = conditions->Query().LoadWarnings();
+    TStrings warnings = session->Structure().LoadWarnings();
+    const TStrings& ofQuery = conditions->Query().LoadWarnings();
+    warnings.insert(warnings.begin(), ofQuery.begin(), ofQuery.end());
     if (warnings.empty()) return;
     queryMessages->Say(TMessageBar::TKind::Note,
                        [warning = ToQt(warnings.front())] { return MessageText(warning); });
@@ -290,26 +195,54 @@ void TMainWindow::ReadSQLFile(const QString& file) {
     if (opened.open(QIODevice::ReadOnly))
         ReadSQL(QString::fromUtf8(opened.readAll()));
     else
-        QMessageBox::warning(
-            this, tr("Read SQL"),
-            tr("The file %1 could not be read: %2").arg(Isolated(file), opened.errorString()));
+        Warn(tr("Read SQL"),
+             tr("The file %1 could not be read: %2").arg(Isolated(file), opened.errorString()));
 }
 
-/// Rows and columns over fields that the database does not have any more.
+/// Rows and columns over fields that the database does not have any more. Rows take no part;
+/// without a column of the query there is no statement.
 void TMainWindow::TellLostFields() {
-    int lost = 0;
+    int rows = 0;
     for (const TUnfinishedRow& row : conditions->Query().UnfinishedRows())
-        lost += row.reason == TUnfinished::UnknownField;
-    const TRFieldList& list = columns->ResultFields();
-    for (int i = 0; i < list.GetCount(); ++i)
-        for (int k = 0; k < list.GetItem(i)->GetDSFieldCount(); ++k)
-            lost += list.GetItem(i)->GetDSField(k) == session->Structure().PlaceholderField();
+        rows += row.reason == TUnfinished::UnknownField;
+    const int lost = static_cast<int>(LostColumns().size());
     if (lost > 0)
-        queryMessages->Say(TMessageBar::TKind::Warning, [lost] {
+        queryMessages->Say(
+            TMessageBar::TKind::Warning,
+            [lost] {
+                return tr("%n column(s) of this query refer to fields that the database does not "
+                          "have. Choose others, or remove them.",
+                          nullptr, lost);
+            },
+            [] { return tr("Remove them"); }, [this] { RemoveLostColumns(); });
+    else if (rows > 0)
+        queryMessages->Say(TMessageBar::TKind::Warning, [rows] {
             return tr("%n row(s) of this query refer to fields that the database does not have. "
                       "They are marked and take no part.",
-                      nullptr, lost);
+                      nullptr, rows);
         });
+}
+
+/// Their places, the last one first.
+std::vector<int> TMainWindow::LostColumns() const {
+    std::vector<int> lost;
+    const TRFieldList& list = columns->ResultFields();
+    for (int i = list.GetCount(); i-- > 0;) {
+        const TResultField& column = *list.GetItem(i);
+        bool isLost = false;
+        for (int k = 0; k < column.GetDSFieldCount(); ++k)
+            isLost = isLost || !column.GetDSField(k) || column.GetDSField(k)->IsPlaceholder();
+        if (isLost) lost.push_back(i);
+    }
+    return lost;
+}
+
+void TMainWindow::RemoveLostColumns() {
+    Step(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Delete column"), [this] {
+        for (const int column : LostColumns())
+            columns->ResultFields().Delete(column);
+    });
+    TellLostFields(); // rows may be left
 }
 
 void TMainWindow::SaveRows() {
@@ -321,9 +254,8 @@ void TMainWindow::SaveRows() {
     try {
         results->SaveAsCsv(file);
     } catch (const std::exception& error) {
-        QMessageBox::warning(
-            this, tr("Save rows"),
-            tr("The rows could not be saved as %1: %2").arg(Isolated(file), FileReason(error)));
+        Warn(tr("Save rows"),
+             tr("The rows could not be saved as %1: %2").arg(Isolated(file), FileReason(error)));
     }
 }
 

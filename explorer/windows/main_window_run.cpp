@@ -137,17 +137,24 @@ void TMainWindow::RunWith(bool asking) {
     }
     const TKQuery& query = conditions->Query();
     const std::vector<TSQLParam*> params = query.AllParams();
-    if (asking && !params.empty()) {
+    if (asking && !params.empty() && !OnTrouble) {
         TParameterDialog dialog(query, this);
         if (dialog.exec() != QDialog::Accepted) return;
         dialog.Apply();
     }
-    for (const TSQLParam* param : params)
-        if (!param->HasValue() && !asking) return; // it is asked for when the user runs the query
+    for (const TSQLParam* param : params) {
+        if (param->HasValue()) continue;
+        if (OnTrouble)
+            return OnTrouble(tr("The query asks for the value of %1.").arg(ToQt(param->Caption())));
+        if (!asking) return; // it is asked for when the user runs the query
+    }
     try {
         TRunRequest request = MakeRequest();
         results->SetStatement(request.statement);
         results->SetCaptions(Captions());
+        askedColumns.clear();
+        for (int i = 0; i < columns->ResultFields().GetCount(); ++i)
+            askedColumns.push_back(columns->ResultFields().GetItem(i));
         runner.Run(std::move(request));
         if (asking) ShowUnfinished(); // else the rows say so themselves
     } catch (const EKWrongValueError& error) {
@@ -213,6 +220,7 @@ std::vector<TRunRequest::TTrial> TMainWindow::MakeTrials() const {
 }
 
 void TMainWindow::RunFailed(const QString& message, int row) {
+    if (OnTrouble) return OnTrouble(message);
     if (row < 0)
         return results->Messages().Say(TMessageBar::TKind::Warning,
                                        [message] { return MessageText(message); });
@@ -267,18 +275,28 @@ void TMainWindow::FocusRow(int number) {
 
 void TMainWindow::SortBy(int column) {
     TRFieldList& list = columns->ResultFields();
-    if (list.JustSorting() || column >= list.GetCount()) return ShowSorting();
-    TResultField& clicked = *list.GetItem(column);
+    const int place = PresentPlace(column);
+    if (list.JustSorting() || place < 0) return ShowSorting();
+    TResultField& clicked = *list.GetItem(place);
     const TSortingType wanted = clicked.Sorting() == TSortingType::stAscending
                                     ? TSortingType::stDescending
                                     : TSortingType::stAscending;
     Step(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Sort"), [&] {
         for (int i = 0; i < list.GetCount(); ++i)
-            if (i != column) list.GetItem(i)->SetSorting(TSortingType::stNoSort);
+            if (i != place) list.GetItem(i)->SetSorting(TSortingType::stNoSort);
         clicked.SetSorting(wanted);
         clicked.SetSortOrder(1);
     });
     RunWith(true);
+}
+
+/// Where the column of the query is that a column of the shown rows came from; -1 when it has gone.
+int TMainWindow::PresentPlace(int shownColumn) const {
+    const TRFieldList& list = columns->ResultFields();
+    const auto shown = static_cast<size_t>(shownColumn);
+    for (int i = 0; i < list.GetCount() && shown < shownColumns.size(); ++i)
+        if (list.GetItem(i) == shownColumns[shown]) return i;
+    return -1;
 }
 
 /// The mark in the header of the column that rows are sorted by first.
@@ -290,9 +308,12 @@ void TMainWindow::ShowSorting() {
         if (column.Sorting() == TSortingType::stNoSort) continue;
         if (first < 0 || column.SortOrder() < list.GetItem(first)->SortOrder()) first = i;
     }
-    if (list.JustSorting() || first >= results->Model().columnCount()) first = -1;
     const bool down = first >= 0 && list.GetItem(first)->Sorting() == TSortingType::stDescending;
-    results->ShowSorted(first, down ? Qt::DescendingOrder : Qt::AscendingOrder);
+    int shown = -1;
+    for (int i = 0; i < results->Model().columnCount() && shown < 0 && first >= 0; ++i)
+        if (PresentPlace(i) == first) shown = i;
+    results->ShowSorted(list.JustSorting() ? -1 : shown,
+                        down ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
 void TMainWindow::EditColumns() {

@@ -84,7 +84,7 @@ void TMainWindow::ShowReport() {
 bool TMainWindow::ReadSQL(const QString& sql) {
     if (!session) return false;
     if (const auto problem = TryReadSQL(sql)) {
-        QMessageBox::warning(this, tr("Read SQL"), problem->message);
+        Warn(tr("Read SQL"), problem->message);
         return false;
     }
     ShowReport();

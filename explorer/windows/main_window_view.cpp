@@ -66,11 +66,11 @@ void TMainWindow::MakeViewMenu() {
     connect(sqlAction, &QAction::toggled, sqlPart, &QWidget::setVisible);
     menu->addAction(sqlAction);
 
-    QAction* andOr = Switch(QT_TR_NOOP("And/or &words instead of brackets"), {});
-    connect(andOr, &QAction::toggled, this, [this](bool on) {
+    andOrAction = Switch(QT_TR_NOOP("And/or &words instead of brackets"), {});
+    connect(andOrAction, &QAction::toggled, this, [this](bool on) {
         conditions->Appearance().SetStyle(on ? TQPStyle::psAndOr : TQPStyle::psGroups);
     });
-    menu->addAction(andOr);
+    menu->addAction(andOrAction);
     menu->addSeparator();
 
     QMenu* languageMenu = Menu(QT_TR_NOOP("&Language"), menu);

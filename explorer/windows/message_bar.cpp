@@ -25,6 +25,7 @@ TMessageBar::TMessageBar(QWidget* parent)
     setAutoFillBackground(true);
     setFrameShape(QFrame::StyledPanel);
     label->setWordWrap(true);
+    label->setTextFormat(Qt::PlainText); // it quotes values and databases
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     close->setText(QStringLiteral("×"));
     close->setAutoRaise(true);
@@ -77,16 +78,20 @@ void TMessageBar::Word() {
 void TMessageBar::Colour() {
     const QColor base = parentWidget() ? parentWidget()->palette().color(QPalette::Window)
                                        : palette().color(QPalette::Window);
-    QPalette tinted = parentWidget() ? parentWidget()->palette() : palette();
+    QPalette tinted; // all else is that of the window
     tinted.setColor(QPalette::Window,
                     Tinted(base, shownKind == TKind::Warning ? QColor(0xE0, 0x90, 0x00)
                                                              : QColor(0x30, 0x80, 0xE0)));
+    isColouring = true;
     setPalette(tinted);
+    isColouring = false;
 }
 
 void TMessageBar::changeEvent(QEvent* event) {
     QFrame::changeEvent(event);
-    if (event->type() == QEvent::StyleChange && isVisible()) Colour();
+    const bool isLook =
+        event->type() == QEvent::StyleChange || event->type() == QEvent::PaletteChange;
+    if (isLook && !isColouring && shownText) Colour();
     if (event->type() == QEvent::LanguageChange) Word();
 }
 

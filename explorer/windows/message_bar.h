@@ -43,6 +43,7 @@ private:
     std::function<void()> whenPressed;
     TKind shownKind = TKind::Note;
     int number = 0;
+    bool isColouring = false;
 };
 
 } // namespace tern7

@@ -28,6 +28,7 @@ TReadSQLDialog::TReadSQLDialog(const QString& sql, TRead itsRead, QWidget* paren
         tr("A &SELECT statement over the tables of this database takes the place of the query:"));
     label->setWordWrap(true);
     label->setBuddy(text);
+    error->setTextFormat(Qt::PlainText);
     error->setWordWrap(true);
     error->hide();
     connect(text, &QPlainTextEdit::textChanged, this, [this] { text->setExtraSelections({}); });

@@ -72,12 +72,15 @@ void TResultView::Attach(TQueryRunner& runner) {
     connect(&runner, &TQueryRunner::columnsRead, this, [this](std::vector<TKResultColumn> columns) {
         for (size_t i = 0; i < columns.size() && captions.size() == columns.size(); ++i)
             columns[i].name = captions[i];
+        const std::vector<int> widths = WidthsFor(columns);
         model->SetColumns(columns);
         shown = asked;
         rowsAreOfRun = true;
         CompareWith(present);
-        fitted = false;
         FitColumns();
+        for (size_t i = 0; i < widths.size(); ++i)
+            table->setColumnWidth(static_cast<int>(i), widths[i]);
+        fitted = !widths.empty();
     });
     connect(&runner, &TQueryRunner::rowsRead, this,
             [this](const std::shared_ptr<TResultRows>& rows) {
@@ -193,6 +196,18 @@ void TResultView::FitColumns() {
     table->resizeColumnsToContents();
     for (int i = 0; i < model->columnCount(); ++i)
         table->setColumnWidth(i, std::min(table->columnWidth(i) + 8, widestColumn));
+}
+
+/// As users have made them, when the columns are those that are shown.
+std::vector<int> TResultView::WidthsFor(const std::vector<TKResultColumn>& columns) const {
+    std::vector<int> widths;
+    if (model->columnCount() != static_cast<int>(columns.size())) return widths;
+    for (int i = 0; i < model->columnCount(); ++i) {
+        const QVariant name = model->headerData(i, Qt::Horizontal, Qt::DisplayRole);
+        if (name.toString() != ToQt(columns[static_cast<size_t>(i)].name)) return {};
+        widths.push_back(table->columnWidth(i));
+    }
+    return widths;
 }
 
 void TResultView::ShowSorted(int column, Qt::SortOrder order) {

@@ -62,6 +62,7 @@ private:
     void ShowSummary();
     void MarkOutdated(bool value);
     void FitColumns();
+    std::vector<int> WidthsFor(const std::vector<TKResultColumn>& columns) const;
     void FitRows();
 
     TMessageBar* messages;
