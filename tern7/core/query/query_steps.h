@@ -12,6 +12,11 @@ public:
     virtual ~TKQuerySteps() = default;
     /// One step under a name out of all that the call changes.
     virtual void RunStep(const std::string& name, const std::function<void()>& change) = 0;
+    /// The same as part of the last step, when that has the name `last`; else a step of its own.
+    virtual void ContinueStep(const std::string& /*last*/, const std::string& name,
+                              const std::function<void()>& change) {
+        RunStep(name, change);
+    }
     /// Nothing happens when there is nothing to take back, or to do again.
     virtual void UndoStep() = 0;
     virtual void RedoStep() = 0;

@@ -45,10 +45,12 @@ public:
         if (done) editor.Replay(*record, false);
         done = true;
     }
-    int id() const override { return typed.condition ? 1 : -1; }
+    int id() const override { return 1; }
     bool mergeWith(const QUndoCommand* other) override {
         const auto* later = static_cast<const TCommand*>(other);
-        if (!(later->typed == typed)) return false;
+        const bool continued = !later->typed.last.empty() && later->typed.last == name.constData();
+        const bool typedOn = typed.condition && later->typed == typed;
+        if (!continued && !typedOn) return false;
         record->Append(*later->record);
         return true;
     }
@@ -90,6 +92,13 @@ void TKQueryEditor::TranslateSteps() {
 
 void TKQueryEditor::RunStep(const std::string& name, const std::function<void()>& change) {
     Run(ToQt(name), change);
+}
+
+void TKQueryEditor::ContinueStep(const std::string& last, const std::string& name,
+                                 const std::function<void()>& change) {
+    TTyped continued;
+    continued.last = last;
+    Run(ToQt(name), change, continued);
 }
 
 bool TKQueryEditor::Run(const QString& text, const std::function<void()>& change,

@@ -152,15 +152,19 @@ public:
 private:
     class TCommand;
     void RunStep(const std::string& name, const std::function<void()>& change) override;
+    void ContinueStep(const std::string& last, const std::string& name,
+                      const std::function<void()>& change) override;
     void UndoStep() override { Undo(); }
     void RedoStep() override { Redo(); }
     void ForgetSteps() override { Forget(); }
     void QueryDestroyed() override;
 
+    /// What a step may be put together with: the one before it.
     struct TTyped {
         const TFilterCond* condition = nullptr; // none: nothing is being typed
         int valueNumber = 0;
         int session = 0;
+        std::string last = {}; ///< a step of this name; empty: none
         bool operator==(const TTyped&) const = default;
     };
     bool Run(const QString& text, const std::function<void()>& change, const TTyped& typed);

@@ -7,6 +7,7 @@
 #include <tern7/core/structure/offered_fields.h>
 #include <tern7/ui/controls/drop_down_list_box.h>
 #include <tern7/ui/controls/editor_events.h>
+#include <tern7/ui/panels/column_drag.h>
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/colors.h>
 #include <tern7/ui/support/text.h>
@@ -57,6 +58,7 @@ void TResultFieldRow::MakeControls() {
     const auto showMenu = [this] { panel.RowButtonClick(*this, button); };
     connect(button, &QPushButton::clicked, this, showMenu);
     connect(button, &QWidget::customContextMenuRequested, this, showMenu);
+    panel.drag->Watch(*button);
     MakeFieldLabel();
     MakeSortLabel();
 }
@@ -73,8 +75,9 @@ void TResultFieldRow::MakeFieldLabel() {
     fieldLabel->BeforeDropDown = [alive](TDropDownLabel*) {
         if (alive) alive->FillFields();
     };
-    connect(fieldLabel, &TDropDownLabel::droppedUp, this, [this](bool accepted) {
+    connect(fieldLabel, &TDropDownLabel::droppedUp, this, [this, alive](bool accepted) {
         if (accepted) FieldChosen();
+        if (alive && panel.newRow == this) panel.newRow = nullptr;
     });
     connect(fieldLabel, &TDropDownLabel::rightClicked, this,
             [this] { panel.RowButtonClick(*this, fieldLabel); });

@@ -16,6 +16,8 @@ namespace tern7 {
 
 namespace {
 
+constexpr const char* addColumn = QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add column");
+
 /// What a column is called that shows this field.
 std::string CaptionOf(const TDSField& field) {
     return TKRowTexts().FieldText(field);
@@ -23,12 +25,18 @@ std::string CaptionOf(const TDSField& field) {
 
 } // namespace
 
-/// Every change by the user goes through here.
+/// Every change by the user goes through here. What continues a step of the name `last` is part of
+/// it where it comes just behind.
 void TKResultFieldsPanel::Edit(const char* name,
-                               const std::function<void(TResultFieldsEdit&)>& step) {
+                               const std::function<void(TResultFieldsEdit&)>& step,
+                               const char* last) {
     TResultFieldsEdit edit(*fields);
     const QPointer<TKResultFieldsPanel> alive(this);
-    fields->Query()->RunStep(name, [&] { step(edit); });
+    TKQuerySteps* steps = fields->Query()->Steps();
+    if (last && steps)
+        steps->ContinueStep(last, name, [&] { step(edit); });
+    else
+        fields->Query()->RunStep(name, [&] { step(edit); });
     if (!alive) return;
     EnsureRows();
     Changed();
@@ -56,8 +64,7 @@ void TKResultFieldsPanel::InsertRow(int index) {
     if (offered.empty()) return;
     TDSField& field = *offered.front().field;
     const QPointer<TKResultFieldsPanel> alive(this);
-    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add column"),
-         [&](TResultFieldsEdit& edit) { edit.Insert(index, field, CaptionOf(field)); });
+    Edit(addColumn, [&](TResultFieldsEdit& edit) { edit.Insert(index, field, CaptionOf(field)); });
     if (alive) FocusRow(index, TPart::Field);
 }
 
@@ -79,6 +86,14 @@ void TKResultFieldsPanel::MoveRow(int from, int to) {
     if (from == to) return;
     Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Move column"),
          [&](TResultFieldsEdit& edit) { edit.Move(from, to); });
+}
+
+void TKResultFieldsPanel::CopyRow(int from, int to) {
+    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Duplicate column"),
+         [&](TResultFieldsEdit& edit) {
+             edit.Duplicate(from);
+             edit.Move(from + 1, to);
+         });
 }
 
 void TKResultFieldsPanel::MoveRowUp(int index) {
@@ -125,8 +140,10 @@ void TKResultFieldsPanel::RowFieldChosen(TResultFieldRow& row, int fieldID) {
     const bool same =
         column.Formula() == "@1" && column.GetDSFieldCount() == 1 && column.GetDSField(0) == field;
     if (same) return LayLater(); // the caption may be that of the menu
-    Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Choose field"),
-         [&](TResultFieldsEdit& edit) { edit.Replace(column, *field, CaptionOf(*field)); });
+    Edit(
+        QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Choose field"),
+        [&](TResultFieldsEdit& edit) { edit.Replace(column, *field, CaptionOf(*field)); },
+        newRow == &row ? addColumn : nullptr);
 }
 
 void TKResultFieldsPanel::RowSortingChosen(TResultFieldRow& row) {
@@ -135,8 +152,15 @@ void TKResultFieldsPanel::RowSortingChosen(TResultFieldRow& row) {
          [&](TResultFieldsEdit& edit) { edit.SetSorting(*row.Field(), row.Sorting()); });
 }
 
+/// The new row shows the first field until another one is chosen from its list, which opens at
+/// once.
 void TKResultFieldsPanel::AddRowLabelClick() {
+    const QPointer<TKResultFieldsPanel> alive(this);
+    const int before = ResultFields().GetCount();
     AddRow();
+    if (!alive || Rows().GetCount() != before + 1) return;
+    newRow = rows[before];
+    rows[before]->FieldLabel()->DropDown();
 }
 
 // --- the row menu

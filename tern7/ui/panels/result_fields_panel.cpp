@@ -12,6 +12,7 @@
 #include <tern7/core/query/row_text.h>
 #include <tern7/core/titles/default_titles.h>
 #include <tern7/ui/controls/popup_menu.h>
+#include <tern7/ui/panels/column_drag.h>
 #include <tern7/ui/panels/db_structure.h>
 #include <tern7/ui/panels/query_editor.h>
 #include <tern7/ui/panels/query_panel.h>
@@ -24,7 +25,8 @@ TKResultFieldsPanel::TKResultFieldsPanel(QWidget* parent)
     : QScrollArea(parent), titles(DefaultResultFieldsPanelTitles(), {}),
       own(std::make_unique<TKQuery>()), ownEditor(std::make_unique<TKQueryEditor>(*own)),
       fields(&own->QResult().ResultFields()), canvas(new QWidget(this)),
-      addLabel(new TDropDownLabel(canvas)), rowMenu(new TKPopupMenu(this)) {
+      addLabel(new TDropDownLabel(canvas)), rowMenu(new TKPopupMenu(this)),
+      drag(new TColumnDrag(*this)) {
     titleLines = DefaultResultFieldsPanelTitles();
     ownName = tr("Result fields");
     setAccessibleName(ownName);

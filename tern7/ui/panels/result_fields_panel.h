@@ -16,6 +16,7 @@ namespace tern7 {
 class TKPopupMenu;
 class TKQueryEditor;
 class TKQueryPanel;
+class TColumnDrag;
 class TKResultFieldsPanel;
 class TResultFieldsEdit;
 
@@ -77,6 +78,8 @@ public:
     TRFieldList& ResultFields();
 
     const TResultFieldRows& Rows();
+    /// Rows are dragged by their numbers.
+    TColumnDrag& Drag() const { return *drag; }
     /// The row that has the focus, -1 when none has.
     int CurrentRow();
     TDropDownLabel* AddLabel() const { return addLabel; }
@@ -127,6 +130,7 @@ protected:
 
 private:
     friend class TResultFieldRow;
+    friend class TColumnDrag;
 
     // TKQueryView
     void RowsAdded(TFilterBracket&, int, int) override {}
@@ -188,13 +192,15 @@ private:
     // what the user does
     void InsertRow(int index);
     void AddRowLabelClick();
+    void CopyRow(int from, int to);
     void RowButtonClick(TResultFieldRow& row, QWidget* below);
     void MakeRowMenu();
     void EnableMenuItems(int row);
     void MenuItemClick(void (TKResultFieldsPanel::*operation)(int));
     void RowFieldChosen(TResultFieldRow& row, int fieldID);
     void RowSortingChosen(TResultFieldRow& row);
-    void Edit(const char* name, const std::function<void(TResultFieldsEdit&)>& step);
+    void Edit(const char* name, const std::function<void(TResultFieldsEdit&)>& step,
+              const char* last = nullptr);
     void Replay(void (TKQuerySteps::*step)());
     bool RowKey(int key, Qt::KeyboardModifiers modifiers);
     bool Holds(const TResultFieldRow& row) const;
@@ -211,6 +217,8 @@ private:
     TDropDownLabel* addLabel;
     TKPopupMenu* rowMenu;
     QPointer<TResultFieldRow> menuRow;
+    QPointer<TResultFieldRow> newRow; // its field is being chosen for the first time
+    TColumnDrag* drag;
     QSize extent; // of the rows and the add label
     QString structName;
     QString queryPanelName;

@@ -1,6 +1,7 @@
 #include <tern7/core/global/messages.h>
 #include <tern7/ui/controls/drop_down_list_box.h>
 #include <tern7/ui/dialogs/result_fields_draft.h>
+#include <tern7/ui/panels/column_drag.h>
 #include <tern7/ui/panels/db_structure.h>
 #include <tern7/ui/panels/query_editor.h>
 #include <tern7/ui/panels/query_panel.h>
@@ -60,19 +61,28 @@ void EditAtRandom(TResultFieldsDraft& draft, const TKCustomDBStructure& structur
 
 TEST(ResultFieldsPanel, BuiltByMouse) {
     TResultFieldsForm form;
+    TKQueryEditor editor(form.query);
     ASSERT_TRUE(form.Open());
     int changes = 0;
     form.panel->OnChange = [&](TKResultFieldsPanel*) { ++changes; };
-    Click(form.panel->AddLabel());
+    Click(form.panel->AddLabel()); // the new row asks for its field
+    EXPECT_EQ(form.Texts(), QStringList{"1 City Not Sorted"});
+    ASSERT_TRUE(form.Row(0).FieldLabel()->Dropped());
+    Press(Qt::Key_Escape);
+    ASSERT_TRUE(form.Open());
     EXPECT_EQ(form.Texts(), QStringList{"1 City Not Sorted"});
     Click(form.panel->AddLabel());
-    Click(form.Row(1).FieldLabel());
     Press({Qt::Key_Down, Qt::Key_Right, Qt::Key_Down, Qt::Key_Return}); // Orders, Quantity
     Click(form.Row(1).SortLabel());
     Press({Qt::Key_End, Qt::Key_Return});
     EXPECT_EQ(form.Texts(), (QStringList{"1 City Not Sorted", "2 Quantity Descending"}));
     EXPECT_EQ(form.Model(), (QStringList{"City=C.city", "Quantity=O.quantity 2#1"}));
     EXPECT_EQ(changes, 4);
+    editor.Undo();
+    editor.Undo(); // added and chosen is one step
+    EXPECT_EQ(form.Texts(), QStringList{"1 City Not Sorted"});
+    editor.Redo();
+    editor.Redo();
     form.query.BuildQuery();
     EXPECT_EQ(form.query.QResult().GetSQL().Text(),
               "SELECT DISTINCT C.city as City, O.quantity as Quantity\n"
@@ -85,7 +95,9 @@ TEST(ResultFieldsPanel, BuiltByKeys) {
     TResultFieldsForm form;
     ASSERT_TRUE(form.Open());
     form.panel->AddLabel()->setFocus();
-    Press({Qt::Key_Return});
+    Press({Qt::Key_Return, Qt::Key_Escape}); // the first field stays
+    ASSERT_TRUE(form.Open()); // no window manager gives it back what a closed menu had
+    QCoreApplication::processEvents();
     EXPECT_TRUE(form.Row(0).FieldLabel()->hasFocus());
     Press({Qt::Key_Tab, Qt::Key_Space, Qt::Key_Down, Qt::Key_Return});   // ascending
     Press({Qt::Key_Insert, Qt::Key_Return, Qt::Key_Up, Qt::Key_Return}); // the last: Note
@@ -109,6 +121,60 @@ TEST(ResultFieldsPanel, BuiltByKeys) {
     EXPECT_TRUE(form.panel->AddLabel()->hasFocus());
     Press(Qt::Key_Delete);
     EXPECT_TRUE(form.Columns().IsEmpty());
+}
+
+TEST(ResultFieldsPanel, RowsAreDraggedByTheirNumbers) {
+    TResultFieldsForm form;
+    for (const char* field : {"City", "Price", "Note"})
+        form.Add(field, ("{" + std::string(field) + "}").c_str());
+    TKQueryEditor editor(form.query);
+    ASSERT_TRUE(form.Open());
+    const QString first = form.Model().join(' ');
+    const int height = form.Row(1).Button()->y() - form.Row(0).Button()->y();
+    const struct {
+        int row;
+        double gap;
+        int key; // while it is dragged
+        const char* columns;
+    } cases[] = {
+        {0, 1.9, 0, "Price City Note"},
+        {0, 9, 0, "Price Note City"},
+        {2, 0.2, 0, "Note City Price"},
+        {2, -4, 0, "Note City Price"},
+        {1, 2, 0, "City Price Note"},
+        {1, 0, Qt::Key_Escape, "City Price Note"},
+        {2, 0, Qt::Key_Alt, "Note City Price Note"},
+        {0, 3, Qt::Key_Alt, "City Price Note City"},
+    };
+    for (const bool fromRight : {false, true})
+        for (const auto& c : cases) {
+            SCOPED_TRACE(std::to_string(c.row) + " to " + std::to_string(c.gap));
+            form.setLayoutDirection(fromRight ? Qt::RightToLeft : Qt::LeftToRight);
+            QCoreApplication::processEvents();
+            const QPoint from = form.Row(c.row).Button()->mapTo(&form, QPoint(5, 5));
+            const QPoint to(from.x() + 20, form.Row(0).Button()->mapTo(&form, QPoint()).y() +
+                                               static_cast<int>(c.gap * height));
+            QWindow* window = form.windowHandle();
+            QTest::mousePress(window, Qt::LeftButton, {}, from);
+            QTest::mouseMove(window, from + QPoint(20, 0));
+            QTest::mouseMove(window, to);
+            EXPECT_EQ(form.panel->Drag().Row(), &form.Row(c.row));
+            EXPECT_TRUE(form.panel->Drag().Indicator()->isVisible());
+            if (c.key) QTest::keyPress(&form, Qt::Key(c.key));
+            QTest::mouseRelease(window, Qt::LeftButton,
+                                c.key == Qt::Key_Alt ? Qt::AltModifier : Qt::NoModifier, to);
+            if (c.key) QTest::keyRelease(&form, Qt::Key(c.key));
+            QStringList names;
+            for (const auto& column : form.Columns())
+                names << ToQt(column->Caption());
+            EXPECT_EQ(names.join(' '), c.columns);
+            EXPECT_FALSE(form.panel->Drag().Indicator()->isVisible());
+            EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+            EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+            editor.Undo();
+            EXPECT_EQ(form.Model().join(' '), first);
+            EXPECT_FALSE(editor.CanUndo());
+        }
 }
 
 TEST(ResultFieldsPanel, RowMenu) {
