@@ -44,6 +44,21 @@ QString SystemLanguage() {
     return known.front().code;
 }
 
+namespace {
+
+/// The forms of dates and numbers: the system's where it speaks the language.
+QLocale LocaleOf(const QString& code) {
+    const QLocale ofLanguage(code);
+    if (code == SystemLanguage() || QLocale::system().language() == ofLanguage.language())
+        return QLocale::system();
+    // with the digits that databases write
+    if (ofLanguage.language() == QLocale::Arabic)
+        return {QLocale::Arabic, QLocale::UnitedArabEmirates};
+    return ofLanguage;
+}
+
+} // namespace
+
 void InstallLanguage(const QString& code) {
     static QPointer<QTranslator> qt, program; // go with the application object
     InitProgramTranslations();
@@ -51,6 +66,7 @@ void InstallLanguage(const QString& code) {
             QLibraryInfo::path(QLibraryInfo::TranslationsPath));
     InstallTranslations(code);
     Replace(program, QStringLiteral("explorer_") + code, QStringLiteral(":/tern7/translations"));
+    QLocale::setDefault(LocaleOf(code));
     QApplication::setLayoutDirection(QLocale(code).textDirection());
 }
 

@@ -8,7 +8,7 @@ namespace tern7 {
 QString SystemLanguage();
 
 /// The whole program speaks a language of TitleLanguages from now on: its own texts, the library's
-/// and Qt's. Mirrors the windows for a language that is read from the right.
+/// and Qt's, dates and numbers in its forms (QLocale's default). Mirrors the windows for a language that is read from the right.
 void InstallLanguage(const QString& code);
 
 } // namespace tern7

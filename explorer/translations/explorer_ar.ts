@@ -327,10 +327,6 @@
         <translation>ال&amp;شروط</translation>
     </message>
     <message>
-        <source>S&amp;QL</source>
-        <translation>S&amp;QL</translation>
-    </message>
-    <message>
         <source>New query</source>
         <translation>استعلام جديد</translation>
     </message>
@@ -734,6 +730,110 @@
     <message>
         <source>The query asks for the value of %1.</source>
         <translation>يطلب الاستعلام قيمة %1.</translation>
+    </message>
+    <message>
+        <source>SQ&amp;L</source>
+        <translation>SQ&amp;L</translation>
+    </message>
+    <message>
+        <source>Add co&amp;ndition...</source>
+        <translation>إضافة &amp;شرط...</translation>
+    </message>
+    <message>
+        <source>To the next label</source>
+        <translation>إلى الكلمة التالية</translation>
+    </message>
+    <message>
+        <source>To the row above or below</source>
+        <translation>إلى الصف الأعلى أو الأسفل</translation>
+    </message>
+    <message>
+        <source>Open the label: its menu, list or editor</source>
+        <translation>فتح الكلمة: قائمتها أو محررها</translation>
+    </message>
+    <message>
+        <source>Close it, and leave all as it was</source>
+        <translation>إغلاقها وترك كل شيء كما كان</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;تعليمات</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;دليل</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>دليل</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;المفاتيح</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>المفاتيح</translation>
+    </message>
+    <message>
+        <source>&amp;About tern7-explorer</source>
+        <translation>&amp;حول tern7-explorer</translation>
+    </message>
+    <message>
+        <source>%1: choose what the result shows; type to search the menu. A click on the blue words of a column chooses another field, or sorts.</source>
+        <translation>%1: اختر ما تعرضه النتيجة؛ واكتب للبحث في القائمة. النقر على الكلمات الزرقاء لعمود يختار حقلًا آخر أو يرتّب.</translation>
+    </message>
+    <message>
+        <source>%1: choose a field, then click on the blue words to change what is compared. Brackets say whether all, any or none of their conditions apply.</source>
+        <translation>%1: اختر حقلًا ثم انقر الكلمات الزرقاء لتغيير ما يُقارَن. تحدد الأقواس هل تنطبق كل شروطها أو أيٌّ منها أو لا شيء منها.</translation>
+    </message>
+    <message>
+        <source>%1: captions, formulas, sums and counts. With a sum there is one row for each combination of the other columns.</source>
+        <translation>%1: العناوين والصيغ والمجاميع والأعداد. مع المجموع يكون هناك صف واحد لكل تركيبة من الأعمدة الأخرى.</translation>
+    </message>
+    <message>
+        <source>%1: the tables that the query joins stand below the columns; where several ways lead from one to the other, choose the one that is meant.</source>
+        <translation>%1: الجداول التي يربطها الاستعلام مذكورة تحت الأعمدة؛ وحيث تقود عدة طرق من جدول إلى آخر، اختر الطريق المقصود.</translation>
+    </message>
+    <message>
+        <source>%1: the rows appear below. A click on a header sorts by that column.</source>
+        <translation>%1: تظهر الصفوف في الأسفل. النقر على رأس عمود يرتّب حسبه.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the query, %2 its rows for other programs.</source>
+        <translation>%1 يحفظ الاستعلام، و%2 صفوفه لبرامج أخرى.</translation>
+    </message>
+    <message>
+        <source>%1: every step can be taken back.</source>
+        <translation>%1: يمكن التراجع عن كل خطوة.</translation>
+    </message>
+    <message>
+        <source>A query shows columns of a database, for the records that its conditions let through.</source>
+        <translation>يعرض الاستعلام أعمدة من قاعدة بيانات، للسجلات التي تمر من شروطه.</translation>
+    </message>
+    <message>
+        <source>%1 leads to other databases; a file of SQLite can be dropped on the window. Databases are only read, never changed.</source>
+        <translation>%1 يقود إلى قواعد بيانات أخرى؛ ويمكن إفلات ملف SQLite على النافذة. تُقرأ قواعد البيانات فقط ولا تُغيَّر أبدًا.</translation>
+    </message>
+    <message>
+        <source>On a condition or column</source>
+        <translation>على شرط أو عمود</translation>
+    </message>
+    <message>
+        <source>Between the blue words</source>
+        <translation>بين الكلمات الزرقاء</translation>
+    </message>
+    <message>
+        <source>With Qt %1.</source>
+        <translation>باستخدام Qt %1.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright 2026 the tern7 authors.</source>
+        <translation>الرخصة: MIT. حقوق النشر 2026 لمؤلفي tern7.</translation>
+    </message>
+    <message>
+        <source>About tern7-explorer</source>
+        <translation>حول tern7-explorer</translation>
     </message>
 </context>
 <context>

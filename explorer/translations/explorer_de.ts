@@ -324,11 +324,7 @@
     </message>
     <message>
         <source>Con&amp;ditions</source>
-        <translation>&amp;Bedingungen</translation>
-    </message>
-    <message>
-        <source>S&amp;QL</source>
-        <translation>S&amp;QL</translation>
+        <translation>Bed&amp;ingungen</translation>
     </message>
     <message>
         <source>New query</source>
@@ -722,6 +718,110 @@
     <message>
         <source>The query asks for the value of %1.</source>
         <translation>Die Abfrage fragt nach dem Wert von %1.</translation>
+    </message>
+    <message>
+        <source>SQ&amp;L</source>
+        <translation>SQ&amp;L</translation>
+    </message>
+    <message>
+        <source>Add co&amp;ndition...</source>
+        <translation>Bedingung &amp;hinzufügen ...</translation>
+    </message>
+    <message>
+        <source>To the next label</source>
+        <translation>Zum nächsten Wort</translation>
+    </message>
+    <message>
+        <source>To the row above or below</source>
+        <translation>Zur Zeile darüber oder darunter</translation>
+    </message>
+    <message>
+        <source>Open the label: its menu, list or editor</source>
+        <translation>Das Wort öffnen: sein Menü, seine Liste oder sein Eingabefeld</translation>
+    </message>
+    <message>
+        <source>Close it, and leave all as it was</source>
+        <translation>Schließen und alles lassen, wie es war</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Anleitung</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Anleitung</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;About tern7-explorer</source>
+        <translation>&amp;Über tern7-explorer</translation>
+    </message>
+    <message>
+        <source>%1: choose what the result shows; type to search the menu. A click on the blue words of a column chooses another field, or sorts.</source>
+        <translation>%1: wählen, was das Ergebnis zeigt; Tippen durchsucht das Menü. Ein Klick auf die blauen Wörter einer Spalte wählt ein anderes Feld oder sortiert.</translation>
+    </message>
+    <message>
+        <source>%1: choose a field, then click on the blue words to change what is compared. Brackets say whether all, any or none of their conditions apply.</source>
+        <translation>%1: ein Feld wählen, dann auf die blauen Wörter klicken, um zu ändern, was verglichen wird. Klammern sagen, ob alle, eine oder keine ihrer Bedingungen zutreffen.</translation>
+    </message>
+    <message>
+        <source>%1: captions, formulas, sums and counts. With a sum there is one row for each combination of the other columns.</source>
+        <translation>%1: Überschriften, Formeln, Summen und Anzahlen. Mit einer Summe gibt es eine Zeile für jede Kombination der anderen Spalten.</translation>
+    </message>
+    <message>
+        <source>%1: the tables that the query joins stand below the columns; where several ways lead from one to the other, choose the one that is meant.</source>
+        <translation>%1: Unter den Spalten stehen die Tabellen, die die Abfrage verbindet; wo mehrere Wege von einer zur anderen führen, den gemeinten wählen.</translation>
+    </message>
+    <message>
+        <source>%1: the rows appear below. A click on a header sorts by that column.</source>
+        <translation>%1: Die Zeilen erscheinen unten. Ein Klick auf eine Überschrift sortiert nach dieser Spalte.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the query, %2 its rows for other programs.</source>
+        <translation>%1 bewahrt die Abfrage auf, %2 ihre Zeilen für andere Programme.</translation>
+    </message>
+    <message>
+        <source>%1: every step can be taken back.</source>
+        <translation>%1: Jeder Schritt kann zurückgenommen werden.</translation>
+    </message>
+    <message>
+        <source>A query shows columns of a database, for the records that its conditions let through.</source>
+        <translation>Eine Abfrage zeigt Spalten einer Datenbank, für die Datensätze, die ihre Bedingungen durchlassen.</translation>
+    </message>
+    <message>
+        <source>%1 leads to other databases; a file of SQLite can be dropped on the window. Databases are only read, never changed.</source>
+        <translation>%1 führt zu anderen Datenbanken; eine SQLite-Datei kann auf das Fenster gezogen werden. Datenbanken werden nur gelesen, nie verändert.</translation>
+    </message>
+    <message>
+        <source>On a condition or column</source>
+        <translation>Auf einer Bedingung oder Spalte</translation>
+    </message>
+    <message>
+        <source>Between the blue words</source>
+        <translation>Zwischen den blauen Wörtern</translation>
+    </message>
+    <message>
+        <source>With Qt %1.</source>
+        <translation>Mit Qt %1.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright 2026 the tern7 authors.</source>
+        <translation>Lizenz: MIT. Copyright 2026 die Autoren von tern7.</translation>
+    </message>
+    <message>
+        <source>About tern7-explorer</source>
+        <translation>Über tern7-explorer</translation>
     </message>
 </context>
 <context>

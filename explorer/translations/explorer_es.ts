@@ -327,10 +327,6 @@
         <translation>Con&amp;diciones</translation>
     </message>
     <message>
-        <source>S&amp;QL</source>
-        <translation>S&amp;QL</translation>
-    </message>
-    <message>
         <source>New query</source>
         <translation>Consulta nueva</translation>
     </message>
@@ -722,6 +718,110 @@
     <message>
         <source>The query asks for the value of %1.</source>
         <translation>La consulta pide el valor de %1.</translation>
+    </message>
+    <message>
+        <source>SQ&amp;L</source>
+        <translation>SQ&amp;L</translation>
+    </message>
+    <message>
+        <source>Add co&amp;ndition...</source>
+        <translation>Añadir co&amp;ndición...</translation>
+    </message>
+    <message>
+        <source>To the next label</source>
+        <translation>A la palabra siguiente</translation>
+    </message>
+    <message>
+        <source>To the row above or below</source>
+        <translation>A la fila de arriba o de abajo</translation>
+    </message>
+    <message>
+        <source>Open the label: its menu, list or editor</source>
+        <translation>Abrir la palabra: su menú, lista o editor</translation>
+    </message>
+    <message>
+        <source>Close it, and leave all as it was</source>
+        <translation>Cerrarla y dejarlo todo como estaba</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Ay&amp;uda</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guía</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Guía</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Teclas</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>&amp;About tern7-explorer</source>
+        <translation>&amp;Acerca de tern7-explorer</translation>
+    </message>
+    <message>
+        <source>%1: choose what the result shows; type to search the menu. A click on the blue words of a column chooses another field, or sorts.</source>
+        <translation>%1: elija lo que muestra el resultado; escriba para buscar en el menú. Un clic en las palabras azules de una columna elige otro campo u ordena.</translation>
+    </message>
+    <message>
+        <source>%1: choose a field, then click on the blue words to change what is compared. Brackets say whether all, any or none of their conditions apply.</source>
+        <translation>%1: elija un campo y haga clic en las palabras azules para cambiar lo que se compara. Los paréntesis dicen si se cumplen todas, alguna o ninguna de sus condiciones.</translation>
+    </message>
+    <message>
+        <source>%1: captions, formulas, sums and counts. With a sum there is one row for each combination of the other columns.</source>
+        <translation>%1: títulos, fórmulas, sumas y recuentos. Con una suma hay una fila por cada combinación de las demás columnas.</translation>
+    </message>
+    <message>
+        <source>%1: the tables that the query joins stand below the columns; where several ways lead from one to the other, choose the one that is meant.</source>
+        <translation>%1: las tablas que une la consulta están debajo de las columnas; si varios caminos llevan de una a otra, elija el que corresponde.</translation>
+    </message>
+    <message>
+        <source>%1: the rows appear below. A click on a header sorts by that column.</source>
+        <translation>%1: las filas aparecen abajo. Un clic en un encabezado ordena por esa columna.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the query, %2 its rows for other programs.</source>
+        <translation>%1 conserva la consulta; %2, sus filas para otros programas.</translation>
+    </message>
+    <message>
+        <source>%1: every step can be taken back.</source>
+        <translation>%1: cada paso se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>A query shows columns of a database, for the records that its conditions let through.</source>
+        <translation>Una consulta muestra columnas de una base de datos, para los registros que sus condiciones dejan pasar.</translation>
+    </message>
+    <message>
+        <source>%1 leads to other databases; a file of SQLite can be dropped on the window. Databases are only read, never changed.</source>
+        <translation>%1 lleva a otras bases de datos; se puede soltar un archivo de SQLite en la ventana. Las bases de datos solo se leen, nunca se modifican.</translation>
+    </message>
+    <message>
+        <source>On a condition or column</source>
+        <translation>Sobre una condición o columna</translation>
+    </message>
+    <message>
+        <source>Between the blue words</source>
+        <translation>Entre las palabras azules</translation>
+    </message>
+    <message>
+        <source>With Qt %1.</source>
+        <translation>Con Qt %1.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright 2026 the tern7 authors.</source>
+        <translation>Licencia: MIT. Copyright 2026 los autores de tern7.</translation>
+    </message>
+    <message>
+        <source>About tern7-explorer</source>
+        <translation>Acerca de tern7-explorer</translation>
     </message>
 </context>
 <context>

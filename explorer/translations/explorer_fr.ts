@@ -316,7 +316,7 @@
     <name>tern7::TMainWindow</name>
     <message>
         <source>&amp;Result</source>
-        <translation>&amp;Résultat</translation>
+        <translation>Ré&amp;sultat</translation>
     </message>
     <message>
         <source>C&amp;olumns</source>
@@ -324,11 +324,7 @@
     </message>
     <message>
         <source>Con&amp;ditions</source>
-        <translation>Con&amp;ditions</translation>
-    </message>
-    <message>
-        <source>S&amp;QL</source>
-        <translation>S&amp;QL</translation>
+        <translation>&amp;Conditions</translation>
     </message>
     <message>
         <source>New query</source>
@@ -722,6 +718,110 @@
     <message>
         <source>The query asks for the value of %1.</source>
         <translation>La requête demande la valeur de %1.</translation>
+    </message>
+    <message>
+        <source>SQ&amp;L</source>
+        <translation>SQ&amp;L</translation>
+    </message>
+    <message>
+        <source>Add co&amp;ndition...</source>
+        <translation>Ajouter une co&amp;ndition...</translation>
+    </message>
+    <message>
+        <source>To the next label</source>
+        <translation>Au mot suivant</translation>
+    </message>
+    <message>
+        <source>To the row above or below</source>
+        <translation>À la ligne du dessus ou du dessous</translation>
+    </message>
+    <message>
+        <source>Open the label: its menu, list or editor</source>
+        <translation>Ouvrir le mot : son menu, sa liste ou son champ</translation>
+    </message>
+    <message>
+        <source>Close it, and leave all as it was</source>
+        <translation>Le fermer et tout laisser comme avant</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Guide</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Guide</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Touches</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>&amp;About tern7-explorer</source>
+        <translation>À &amp;propos de tern7-explorer</translation>
+    </message>
+    <message>
+        <source>%1: choose what the result shows; type to search the menu. A click on the blue words of a column chooses another field, or sorts.</source>
+        <translation>%1 : choisissez ce que montre le résultat ; tapez pour chercher dans le menu. Un clic sur les mots bleus d’une colonne choisit un autre champ, ou trie.</translation>
+    </message>
+    <message>
+        <source>%1: choose a field, then click on the blue words to change what is compared. Brackets say whether all, any or none of their conditions apply.</source>
+        <translation>%1 : choisissez un champ, puis cliquez sur les mots bleus pour changer ce qui est comparé. Les parenthèses disent si toutes leurs conditions s’appliquent, l’une d’elles ou aucune.</translation>
+    </message>
+    <message>
+        <source>%1: captions, formulas, sums and counts. With a sum there is one row for each combination of the other columns.</source>
+        <translation>%1 : titres, formules, sommes et nombres. Avec une somme, il y a une ligne pour chaque combinaison des autres colonnes.</translation>
+    </message>
+    <message>
+        <source>%1: the tables that the query joins stand below the columns; where several ways lead from one to the other, choose the one that is meant.</source>
+        <translation>%1 : les tables que la requête joint figurent sous les colonnes ; si plusieurs chemins mènent de l’une à l’autre, choisissez le bon.</translation>
+    </message>
+    <message>
+        <source>%1: the rows appear below. A click on a header sorts by that column.</source>
+        <translation>%1 : les lignes apparaissent en bas. Un clic sur un en-tête trie selon cette colonne.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the query, %2 its rows for other programs.</source>
+        <translation>%1 conserve la requête, %2 ses lignes pour d’autres programmes.</translation>
+    </message>
+    <message>
+        <source>%1: every step can be taken back.</source>
+        <translation>%1 : chaque étape peut être annulée.</translation>
+    </message>
+    <message>
+        <source>A query shows columns of a database, for the records that its conditions let through.</source>
+        <translation>Une requête montre des colonnes d’une base de données, pour les enregistrements que ses conditions laissent passer.</translation>
+    </message>
+    <message>
+        <source>%1 leads to other databases; a file of SQLite can be dropped on the window. Databases are only read, never changed.</source>
+        <translation>%1 mène à d’autres bases de données ; un fichier SQLite peut être déposé sur la fenêtre. Les bases de données sont seulement lues, jamais modifiées.</translation>
+    </message>
+    <message>
+        <source>On a condition or column</source>
+        <translation>Sur une condition ou une colonne</translation>
+    </message>
+    <message>
+        <source>Between the blue words</source>
+        <translation>Entre les mots bleus</translation>
+    </message>
+    <message>
+        <source>With Qt %1.</source>
+        <translation>Avec Qt %1.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright 2026 the tern7 authors.</source>
+        <translation>Licence : MIT. Copyright 2026 les auteurs de tern7.</translation>
+    </message>
+    <message>
+        <source>About tern7-explorer</source>
+        <translation>À propos de tern7-explorer</translation>
     </message>
 </context>
 <context>

@@ -327,10 +327,6 @@
         <translation>条件(&amp;D)</translation>
     </message>
     <message>
-        <source>S&amp;QL</source>
-        <translation>S&amp;QL</translation>
-    </message>
-    <message>
         <source>New query</source>
         <translation>新しいクエリ</translation>
     </message>
@@ -719,6 +715,110 @@
     <message>
         <source>The query asks for the value of %1.</source>
         <translation>クエリには %1 の値が必要です。</translation>
+    </message>
+    <message>
+        <source>SQ&amp;L</source>
+        <translation>SQ&amp;L</translation>
+    </message>
+    <message>
+        <source>Add co&amp;ndition...</source>
+        <translation>条件を追加(&amp;N)...</translation>
+    </message>
+    <message>
+        <source>To the next label</source>
+        <translation>次の語へ</translation>
+    </message>
+    <message>
+        <source>To the row above or below</source>
+        <translation>上または下の行へ</translation>
+    </message>
+    <message>
+        <source>Open the label: its menu, list or editor</source>
+        <translation>語を開く: メニュー、一覧、または入力欄</translation>
+    </message>
+    <message>
+        <source>Close it, and leave all as it was</source>
+        <translation>閉じて、元のままにする</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>ガイド(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>ガイド</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>キー(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>&amp;About tern7-explorer</source>
+        <translation>tern7-explorer について(&amp;A)</translation>
+    </message>
+    <message>
+        <source>%1: choose what the result shows; type to search the menu. A click on the blue words of a column chooses another field, or sorts.</source>
+        <translation>%1: 結果に表示するものを選びます。文字を入力するとメニューを検索できます。列の青い語をクリックすると、別のフィールドや並べ替えを選べます。</translation>
+    </message>
+    <message>
+        <source>%1: choose a field, then click on the blue words to change what is compared. Brackets say whether all, any or none of their conditions apply.</source>
+        <translation>%1: フィールドを選び、青い語をクリックして比較の内容を変えます。括弧は、その条件のすべて、いずれか、またはどれも当てはまらないことを表します。</translation>
+    </message>
+    <message>
+        <source>%1: captions, formulas, sums and counts. With a sum there is one row for each combination of the other columns.</source>
+        <translation>%1: 見出し、式、合計、件数を設定します。合計があると、他の列の組み合わせごとに 1 行になります。</translation>
+    </message>
+    <message>
+        <source>%1: the tables that the query joins stand below the columns; where several ways lead from one to the other, choose the one that is meant.</source>
+        <translation>%1: クエリが結合するテーブルは列の下に表示されます。経路がいくつかあるときは、意図したものを選びます。</translation>
+    </message>
+    <message>
+        <source>%1: the rows appear below. A click on a header sorts by that column.</source>
+        <translation>%1: 行が下に表示されます。見出しをクリックすると、その列で並べ替えます。</translation>
+    </message>
+    <message>
+        <source>%1 keeps the query, %2 its rows for other programs.</source>
+        <translation>%1 はクエリを、%2 はその行を他のプログラム用に保存します。</translation>
+    </message>
+    <message>
+        <source>%1: every step can be taken back.</source>
+        <translation>%1: どの操作も元に戻せます。</translation>
+    </message>
+    <message>
+        <source>A query shows columns of a database, for the records that its conditions let through.</source>
+        <translation>クエリは、条件に合うレコードについて、データベースの列を表示します。</translation>
+    </message>
+    <message>
+        <source>%1 leads to other databases; a file of SQLite can be dropped on the window. Databases are only read, never changed.</source>
+        <translation>%1 で他のデータベースを開けます。SQLite のファイルはウィンドウにドロップできます。データベースは読み取られるだけで、変更されることはありません。</translation>
+    </message>
+    <message>
+        <source>On a condition or column</source>
+        <translation>条件または列の上で</translation>
+    </message>
+    <message>
+        <source>Between the blue words</source>
+        <translation>青い語の間で</translation>
+    </message>
+    <message>
+        <source>With Qt %1.</source>
+        <translation>Qt %1 を使用しています。</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright 2026 the tern7 authors.</source>
+        <translation>ライセンス: MIT。Copyright 2026 tern7 の作者。</translation>
+    </message>
+    <message>
+        <source>About tern7-explorer</source>
+        <translation>tern7-explorer について</translation>
     </message>
 </context>
 <context>

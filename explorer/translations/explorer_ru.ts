@@ -324,11 +324,7 @@
     </message>
     <message>
         <source>Con&amp;ditions</source>
-        <translation>Усло&amp;вия</translation>
-    </message>
-    <message>
-        <source>S&amp;QL</source>
-        <translation>S&amp;QL</translation>
+        <translation>&amp;Условия</translation>
     </message>
     <message>
         <source>New query</source>
@@ -725,6 +721,110 @@
     <message>
         <source>The query asks for the value of %1.</source>
         <translation>Запрос требует значения: %1.</translation>
+    </message>
+    <message>
+        <source>SQ&amp;L</source>
+        <translation>SQ&amp;L</translation>
+    </message>
+    <message>
+        <source>Add co&amp;ndition...</source>
+        <translation>Добавить у&amp;словие...</translation>
+    </message>
+    <message>
+        <source>To the next label</source>
+        <translation>К следующему слову</translation>
+    </message>
+    <message>
+        <source>To the row above or below</source>
+        <translation>К строке выше или ниже</translation>
+    </message>
+    <message>
+        <source>Open the label: its menu, list or editor</source>
+        <translation>Открыть слово: его меню, список или поле ввода</translation>
+    </message>
+    <message>
+        <source>Close it, and leave all as it was</source>
+        <translation>Закрыть и оставить всё как было</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Справка</translation>
+    </message>
+    <message>
+        <source>&amp;Guide</source>
+        <translation>&amp;Руководство</translation>
+    </message>
+    <message>
+        <source>Guide</source>
+        <translation>Руководство</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Клавиши</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Клавиши</translation>
+    </message>
+    <message>
+        <source>&amp;About tern7-explorer</source>
+        <translation>&amp;О программе tern7-explorer</translation>
+    </message>
+    <message>
+        <source>%1: choose what the result shows; type to search the menu. A click on the blue words of a column chooses another field, or sorts.</source>
+        <translation>%1: выберите, что показывать в результате; набор текста ищет в меню. Щелчок по синим словам столбца выбирает другое поле или сортировку.</translation>
+    </message>
+    <message>
+        <source>%1: choose a field, then click on the blue words to change what is compared. Brackets say whether all, any or none of their conditions apply.</source>
+        <translation>%1: выберите поле, затем щёлкайте по синим словам, чтобы изменить сравнение. Скобки говорят, выполняются ли все, любое или ни одно из их условий.</translation>
+    </message>
+    <message>
+        <source>%1: captions, formulas, sums and counts. With a sum there is one row for each combination of the other columns.</source>
+        <translation>%1: заголовки, формулы, суммы и количества. С суммой получается одна строка на каждое сочетание остальных столбцов.</translation>
+    </message>
+    <message>
+        <source>%1: the tables that the query joins stand below the columns; where several ways lead from one to the other, choose the one that is meant.</source>
+        <translation>%1: таблицы, которые соединяет запрос, указаны под столбцами; если от одной к другой ведут несколько путей, выберите нужный.</translation>
+    </message>
+    <message>
+        <source>%1: the rows appear below. A click on a header sorts by that column.</source>
+        <translation>%1: строки появляются внизу. Щелчок по заголовку сортирует по этому столбцу.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the query, %2 its rows for other programs.</source>
+        <translation>%1 сохраняет запрос, %2 — его строки для других программ.</translation>
+    </message>
+    <message>
+        <source>%1: every step can be taken back.</source>
+        <translation>%1: каждый шаг можно отменить.</translation>
+    </message>
+    <message>
+        <source>A query shows columns of a database, for the records that its conditions let through.</source>
+        <translation>Запрос показывает столбцы базы данных для записей, которые пропускают его условия.</translation>
+    </message>
+    <message>
+        <source>%1 leads to other databases; a file of SQLite can be dropped on the window. Databases are only read, never changed.</source>
+        <translation>%1 ведёт к другим базам данных; файл SQLite можно перетащить в окно. Базы данных только читаются и никогда не изменяются.</translation>
+    </message>
+    <message>
+        <source>On a condition or column</source>
+        <translation>На условии или столбце</translation>
+    </message>
+    <message>
+        <source>Between the blue words</source>
+        <translation>Между синими словами</translation>
+    </message>
+    <message>
+        <source>With Qt %1.</source>
+        <translation>На основе Qt %1.</translation>
+    </message>
+    <message>
+        <source>Licence: MIT. Copyright 2026 the tern7 authors.</source>
+        <translation>Лицензия: MIT. Copyright 2026 авторы tern7.</translation>
+    </message>
+    <message>
+        <source>About tern7-explorer</source>
+        <translation>О программе tern7-explorer</translation>
     </message>
 </context>
 <context>

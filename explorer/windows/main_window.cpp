@@ -30,6 +30,19 @@ namespace {
 constexpr int showSQLAfter = 30; // milliseconds after the last change
 constexpr int runLiveAfter = 600;
 
+/// As high as its texts need when they are wrapped, which a splitter does not ask about by itself.
+class TPart : public QWidget {
+protected:
+    bool event(QEvent* event) override {
+        const bool done = QWidget::event(event);
+        const bool other =
+            event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+        if (other && layout() && layout()->hasHeightForWidth())
+            setMinimumHeight(layout()->minimumHeightForWidth(width()));
+        return done;
+    }
+};
+
 } // namespace
 
 TMainWindow::TMainWindow(QWidget* parent)
@@ -123,7 +136,7 @@ QWidget* TMainWindow::Part(const char* heading, QWidget* content) {
         label->setText(tr(heading));
         content->setAccessibleName(tr(heading).remove(u'&'));
     });
-    auto* part = new QWidget;
+    auto* part = new TPart;
     auto* column = new QVBoxLayout(part);
     column->setContentsMargins(6, 4, 6, 4);
     column->setSpacing(4);
@@ -166,7 +179,7 @@ QWidget* TMainWindow::MakeSQLPart() {
     sqlText->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     sqlText->setLayoutDirection(Qt::LeftToRight);
     new TSQLHighlighter(sqlText->document());
-    return Part(QT_TR_NOOP("S&QL"), sqlText);
+    return Part(QT_TR_NOOP("SQ&L"), sqlText);
 }
 
 QString TMainWindow::ShownSQL() const {

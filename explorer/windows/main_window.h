@@ -105,6 +105,7 @@ private:
     void MakeEditMenu();
     void MakeQueryMenu();
     void MakeViewMenu();
+    void MakeHelpMenu();
     void MakeToolBar();
     void UpdateActions();
     void DrawIcons();
@@ -169,6 +170,7 @@ private:
     int PresentPlace(int shownColumn) const;
     void ShowSorting();
     void AddColumn();
+    void AddCondition();
     void EditColumns();
 
     // main_window_tables.cpp
@@ -176,6 +178,11 @@ private:
     void ChooseStartTable();
     void ChooseJoinWay();
     void PopUpAtColumns(TKPopupMenu* menu);
+
+    // main_window_help.cpp
+    QString Guide() const;
+    QString KeyTables() const;
+    void ShowAbout();
 
     // main_window_view.cpp
     void ApplyZoom();
@@ -219,6 +226,7 @@ private:
     QMenu* recentDatabaseMenu = nullptr;
     QMenu* recentQueryMenu = nullptr;
     QMenu* structureMenu = nullptr;
+    QAction* openDatabaseAction = nullptr;
     QAction* saveAction = nullptr;
     QAction* undoAction = nullptr;
     QAction* redoAction = nullptr;
@@ -229,6 +237,7 @@ private:
     QAction* sqlAction = nullptr;
     QAction* andOrAction = nullptr;
     QAction* addColumnAction = nullptr;
+    QAction* addConditionAction = nullptr;
     QAction* editColumnsAction = nullptr;
     QAction* startTableAction = nullptr;
     QAction* joinWayAction = nullptr;

@@ -7,11 +7,15 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
+#include <QPainterPath>
 #include <QSpinBox>
+#include <QStyleOptionMenuItem>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTransform>
 
 #include <tern7/ui/panels/query_panel.h>
+#include <tern7/ui/support/bidi_text.h>
 
 #include "result_view.h"
 
@@ -20,7 +24,7 @@ namespace tern7 {
 namespace {
 
 /// A shape inside of 16 x 16 in a colour, grey when it can not be used.
-QIcon ShapeIcon(const QPolygonF& shape, const QColor& colour, const QColor& disabled) {
+QIcon ShapeIcon(const QPainterPath& shape, const QColor& colour, const QColor& disabled) {
     QIcon icon;
     for (const auto& [mode, fill] : {std::pair(QIcon::Normal, colour), {QIcon::Disabled, disabled}})
         for (const int scale : {1, 2, 3}) {
@@ -31,22 +35,58 @@ QIcon ShapeIcon(const QPolygonF& shape, const QColor& colour, const QColor& disa
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setPen(Qt::NoPen);
             painter.setBrush(fill);
-            painter.drawPolygon(shape);
+            painter.drawPath(shape);
             painter.end();
             icon.addPixmap(picture, mode);
         }
     return icon;
 }
 
+/// An arrow that goes back, to the left or mirrored.
+QPainterPath BackArrow(bool mirrored) {
+    QPainterPath tail;
+    tail.moveTo(5, 6);
+    tail.lineTo(9.5, 6);
+    tail.cubicTo(15, 6, 15, 13, 9.5, 13);
+    tail.lineTo(5, 13);
+    QPainterPathStroker pen;
+    pen.setWidth(2);
+    QPainterPath arrow = pen.createStroke(tail);
+    arrow.setFillRule(Qt::WindingFill);
+    arrow.addPolygon(QPolygonF({{0.5, 6}, {6, 1.5}, {6, 10.5}}));
+    arrow.closeSubpath();
+    return mirrored ? QTransform(-1, 0, 0, 1, 16, 0).map(arrow) : arrow;
+}
+
+/// Keys keep their order beside texts that are read from the right.
+class TMenu : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override {
+        QMenu::initStyleOption(option, action);
+        const qsizetype keys = option->text.indexOf(u'\t') + 1;
+        if (keys > 0) option->text = option->text.left(keys) + Isolated(option->text.mid(keys));
+    }
+};
+
 } // namespace
 
-/// In the colours of the palette, which the style's own icons are not.
+/// In the colours of the palette, which the style's own icons are not. Undo and redo point to where
+/// one has come from and goes in the direction of reading; running is a sign, not a direction.
 void TMainWindow::DrawIcons() {
     const QPalette colours = QApplication::palette();
     const QColor text = colours.color(QPalette::ButtonText);
     const QColor disabled = colours.color(QPalette::Disabled, QPalette::ButtonText);
-    runAction->setIcon(ShapeIcon(QPolygonF({{3, 1}, {15, 8}, {3, 15}}), text, disabled));
-    cancelAction->setIcon(ShapeIcon(QPolygonF(QRectF(3, 3, 10, 10)), text, disabled));
+    QPainterPath run, stop;
+    run.addPolygon(QPolygonF({{3, 1}, {15, 8}, {3, 15}}));
+    stop.addRect(3, 3, 10, 10);
+    runAction->setIcon(ShapeIcon(run, text, disabled));
+    cancelAction->setIcon(ShapeIcon(stop, text, disabled));
+    const bool fromRight = QApplication::isRightToLeft();
+    undoAction->setIcon(ShapeIcon(BackArrow(fromRight), text, disabled));
+    redoAction->setIcon(ShapeIcon(BackArrow(!fromRight), text, disabled));
 }
 
 void TMainWindow::Worded(const std::function<void()>& say) {
@@ -70,7 +110,11 @@ QAction* TMainWindow::Switch(const char* text, const std::function<void()>& when
 }
 
 QMenu* TMainWindow::Menu(const char* title, QMenu* into) {
-    QMenu* menu = into ? into->addMenu(QString()) : menuBar()->addMenu(QString());
+    QMenu* menu = new TMenu(this);
+    if (into)
+        into->addMenu(menu);
+    else
+        menuBar()->addMenu(menu);
     Worded([menu, title] { menu->setTitle(tr(title)); });
     return menu;
 }
@@ -80,14 +124,17 @@ void TMainWindow::MakeActions() {
     MakeEditMenu();
     MakeQueryMenu();
     MakeViewMenu();
+    MakeHelpMenu();
     MakeToolBar();
 }
 
 void TMainWindow::MakeFileMenu() {
     QMenu* menu = Menu(QT_TR_NOOP("&File"));
-    menu->addAction(Action(QT_TR_NOOP("Open &database..."), QKeySequence("Ctrl+D"), [this] {
-        if (MayDiscard()) AskForDatabase();
-    }));
+    openDatabaseAction =
+        Action(QT_TR_NOOP("Open &database..."), QKeySequence("Ctrl+Shift+O"), [this] {
+            if (MayDiscard()) AskForDatabase();
+        });
+    menu->addAction(openDatabaseAction);
     recentDatabaseMenu = Menu(QT_TR_NOOP("Recent d&atabases"), menu);
     menu->addAction(Action(QT_TR_NOOP("Sa&mple database"), {}, [this] {
         if (MayDiscard()) OpenSample();
@@ -133,6 +180,8 @@ void TMainWindow::MakeQueryMenu() {
     liveAction = Switch(QT_TR_NOOP("Run after every c&hange"), [this] { QueryChanged(); });
     addColumnAction =
         Action(QT_TR_NOOP("Add c&olumn..."), QKeySequence("Ctrl+K"), [this] { AddColumn(); });
+    addConditionAction =
+        Action(QT_TR_NOOP("Add co&ndition..."), QKeySequence("Ctrl+I"), [this] { AddCondition(); });
     distinctAction = Switch(QT_TR_NOOP("&Equal rows only once"), [this] {
         TSQLOptions options = conditions->SQLOptions();
         if (distinctAction->isChecked())
@@ -154,8 +203,8 @@ void TMainWindow::MakeQueryMenu() {
                               [this] { ChooseStartTable(); });
     joinWayAction = Action(QT_TR_NOOP("&Join another way..."), QKeySequence("Ctrl+Shift+J"),
                            [this] { ChooseJoinWay(); });
-    menu->addActions(
-        {addColumnAction, editColumnsAction, distinctAction, startTableAction, joinWayAction});
+    menu->addActions({addColumnAction, addConditionAction, editColumnsAction, distinctAction,
+                      startTableAction, joinWayAction});
 }
 
 void TMainWindow::MakeToolBar() {
@@ -179,6 +228,10 @@ void TMainWindow::MakeToolBar() {
     rowLimit->setSingleStep(100);
     rowLimit->setGroupSeparatorShown(true);
     rowLimit->setValue(1000);
+    Worded([this] {
+        rowLimit->setLocale(QLocale());
+        rowLimit->setGroupSeparatorShown(true); // writes the number anew
+    });
     auto* label = new QLabel;
     label->setContentsMargins(8, 0, 4, 0);
     Worded([label] { label->setText(tr("Rows at &most:")); });
@@ -193,6 +246,7 @@ void TMainWindow::UpdateActions() {
     cancelAction->setEnabled(running);
     saveAction->setEnabled(HasDatabase());
     addColumnAction->setEnabled(HasDatabase());
+    addConditionAction->setEnabled(HasDatabase());
     editColumnsAction->setEnabled(HasDatabase());
     startTableAction->setEnabled(HasDatabase());
     structureMenu->setEnabled(HasDatabase());

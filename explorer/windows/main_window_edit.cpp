@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QMenuBar>
-#include <QStyle>
 #include <QTableView>
 
 #include <tern7/ui/panels/query_panel.h>
@@ -16,8 +15,6 @@ void TMainWindow::MakeEditMenu() {
     undoAction = Action(QT_TR_NOOP("&Undo"), QKeySequence::Undo, [this] { conditions->Undo(); });
     redoAction = Action(QT_TR_NOOP("&Redo"), QKeySequence(QStringLiteral("Ctrl+Shift+Z")),
                         [this] { conditions->Redo(); });
-    undoAction->setIcon(style()->standardIcon(QStyle::SP_ArrowBack));
-    redoAction->setIcon(style()->standardIcon(QStyle::SP_ArrowForward));
     const QUndoStack& stack = conditions->Editor().Stack();
     connect(&stack, &QUndoStack::indexChanged, this, &TMainWindow::ShowSteps);
     Worded([this] { ShowSteps(); });

@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QTableView>
 
+#include <tern7/core/query/panel_menus.h>
 #include <tern7/core/query/row_text.h>
 #include <tern7/ui/controls/popup_menu.h>
 #include <tern7/ui/panels/filter_row_view.h>
@@ -320,6 +321,13 @@ void TMainWindow::EditColumns() {
     if (!session) return;
     conditions->CloseEdit();
     conditions->EditResultFields();
+}
+
+/// Behind the current row; its field is asked for at once.
+void TMainWindow::AddCondition() {
+    if (!session) return;
+    conditions->CloseEdit();
+    conditions->MenuItemClick(pcAddCondition);
 }
 
 /// All fields in a menu with their groups; the chosen one becomes a column.

@@ -117,9 +117,12 @@ void TMainWindow::SetLanguage(const QString& code) {
     language = code.isEmpty() ? SystemLanguage() : code;
     for (QAction* action : languageActions->actions())
         action->setChecked(action->data().toString() == language);
-    InstallLanguage(language);
+    // Values are kept as they are shown.
+    conditions->Query().ChangeLocalForms([this] { InstallLanguage(language); });
+    setLocale(QLocale());
     if (session) session->TranslateOperators();
     ShowTitles();
+    DrawIcons();                          // some have a direction
     QEvent event(QEvent::LanguageChange); // not only when the windows get to it
     QCoreApplication::sendEvent(this, &event);
 }

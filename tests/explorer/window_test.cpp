@@ -237,6 +237,39 @@ TEST_F(TWindowTest, LanguageSwitchesEverything) {
 }
 #endif
 
+TEST_F(TWindowTest, DatesFollowTheLanguage) {
+    AddColumn("Price");
+    TKQueryPanel& panel = window->Conditions();
+    TKQueryEditor& editor = panel.Editor();
+    window->SetLanguage("de");
+    TFilterCond& row = *editor.AddCondition(panel.Root(), 0);
+    editor.SetField(row, *panel.DbStruct()->FieldByName(true, "Required on"));
+    editor.SetOperator(row, *panel.DbStruct()->OperatorByName("Equal"));
+    const auto bound = [&] {
+        panel.BuildQuery();
+        return panel.QResult().GetBoundSQL().values.at(0).text;
+    };
+    for (const char* typed : {"31.12.2023", "2023-12-31"}) {
+        editor.SetValue(row, 1, typed);
+        EXPECT_EQ(bound(), "2023-12-31") << typed;
+    }
+    editor.SetValue(row, 1, "01.02.2024");
+    const struct {
+        const char *language, *shown, *before;
+    } cases[] = {{"fr", "01/02/2024", "31/12/2023"}, {"ar", "1/2/2024", "31/12/2023"}};
+    for (const auto& each : cases) {
+        window->SetLanguage(each.language);
+        EXPECT_EQ(row.Value(1), each.shown);
+        EXPECT_EQ(bound(), "2024-02-01") << each.language;
+        editor.Undo(); // what undo keeps follows too
+        editor.Undo();
+        EXPECT_EQ(row.Value(1), each.before);
+        EXPECT_EQ(bound(), "2023-12-31") << each.language;
+        editor.Redo();
+        editor.Redo();
+    }
+}
+
 TEST_F(TWindowTest, OwnCaptionsStayWithTheirLanguage) {
     window->SetLanguage("en");
     window->Columns().Dialogs.editTitles = [](QWidget*, const TStrings&, TStrings& titles) {

@@ -3,10 +3,12 @@
 #include <functional>
 #include <memory>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include <QAbstractScrollArea>
 #include <QIcon>
+#include <QKeySequence>
 #include <QPointer>
 
 #include <tern7/core/query/query.h>
@@ -287,6 +289,9 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+
+    /// The keys that work on a row and what they do, in the present language, for lists of keys.
+    static std::vector<std::pair<QKeySequence, QString>> Keys();
 
     // --- for the accessible object, which is not owned
     void SetAccessibleRows(TAccessibleRows* rows) { accessibleRows = rows; }

@@ -23,22 +23,36 @@ struct TKey {
     int key;
     Qt::KeyboardModifiers modifiers;
     TCommand command;
+    const char* name; // as steps are called
 };
 
 const TKey panelKeys[] = {
-    {Qt::Key_Insert, Qt::NoModifier, [](TKQueryPanel& panel) { panel.InsertCondition(); }},
-    {Qt::Key_Insert, Qt::ShiftModifier, [](TKQueryPanel& panel) { panel.InsertBracket(); }},
-    {Qt::Key_Delete, Qt::NoModifier, [](TKQueryPanel& panel) { panel.DeleteCurrentRow(); }},
-    {Qt::Key_Space, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.SwitchCurrentRow(); }},
-    {Qt::Key_Up, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.MoveCurrentRowUp(); }},
-    {Qt::Key_Down, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.MoveCurrentRowDown(); }},
-    {Qt::Key_D, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.DuplicateCurrentRow(); }},
-    {Qt::Key_Z, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.Undo(); }},
-    {Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, [](TKQueryPanel& panel) { panel.Redo(); }},
-    {Qt::Key_X, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.CutCurrentRow(); }},
-    {Qt::Key_C, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.CopyCurrentRow(); }},
-    {Qt::Key_V, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.PasteRows(); }},
-    {Qt::Key_F10, Qt::ShiftModifier, [](TKQueryPanel& panel) { panel.PopupCurrentRowMenu(); }},
+    {Qt::Key_Insert, Qt::NoModifier, [](TKQueryPanel& panel) { panel.InsertCondition(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add condition")},
+    {Qt::Key_Insert, Qt::ShiftModifier, [](TKQueryPanel& panel) { panel.InsertBracket(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add bracket")},
+    {Qt::Key_Delete, Qt::NoModifier, [](TKQueryPanel& panel) { panel.DeleteCurrentRow(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Delete row")},
+    {Qt::Key_Space, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.SwitchCurrentRow(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Switch row on or off")},
+    {Qt::Key_Up, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.MoveCurrentRowUp(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Move up")},
+    {Qt::Key_Down, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.MoveCurrentRowDown(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Move down")},
+    {Qt::Key_D, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.DuplicateCurrentRow(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Duplicate")},
+    {Qt::Key_Z, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.Undo(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Undo")},
+    {Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, [](TKQueryPanel& panel) { panel.Redo(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Redo")},
+    {Qt::Key_X, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.CutCurrentRow(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Cut")},
+    {Qt::Key_C, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.CopyCurrentRow(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Copy")},
+    {Qt::Key_V, Qt::ControlModifier, [](TKQueryPanel& panel) { panel.PasteRows(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Paste")},
+    {Qt::Key_F10, Qt::ShiftModifier, [](TKQueryPanel& panel) { panel.PopupCurrentRowMenu(); },
+     QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Row menu")},
 };
 
 TCommand CommandOf(const QKeyEvent& event) {
@@ -49,6 +63,14 @@ TCommand CommandOf(const QKeyEvent& event) {
 }
 
 } // namespace
+
+std::vector<std::pair<QKeySequence, QString>> TKQueryPanel::Keys() {
+    std::vector<std::pair<QKeySequence, QString>> list;
+    for (const TKey& known : panelKeys)
+        list.emplace_back(QKeySequence(known.modifiers.toInt() | known.key),
+                          QCoreApplication::translate("tern7::TKQueryEditor", known.name));
+    return list;
+}
 
 bool TKQueryPanel::TakesKey(const QKeyEvent& event) const {
     const bool editing = std::any_of(views.begin(), views.end(),

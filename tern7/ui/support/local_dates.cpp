@@ -4,9 +4,18 @@
 
 namespace tern7 {
 
+namespace {
+
+/// Without the marks of direction that some forms hold and nobody types.
+QString Plain(QString text) {
+    return text.remove(QChar(0x200E)).remove(QChar(0x200F)).trimmed();
+}
+
+} // namespace
+
 QString LocalDateFormat(const QLocale& locale) {
     static const QRegularExpression shortYear(QStringLiteral("(?<!y)yy(?!y)"));
-    QString format = locale.dateFormat(QLocale::ShortFormat);
+    QString format = Plain(locale.dateFormat(QLocale::ShortFormat));
     return format.replace(shortYear, QStringLiteral("yyyy"));
 }
 
@@ -42,13 +51,13 @@ TDateExample ExampleOf(bool date, bool time, const QLocale& locale) {
 }
 
 QDate ReadLocalDate(const QString& text, const QLocale& locale) {
-    const QString trimmed = text.trimmed();
+    const QString trimmed = Plain(text);
     const QDate local = locale.toDate(trimmed, LocalDateFormat(locale));
     return local.isValid() ? local : QDate::fromString(trimmed, QStringLiteral("yyyy-M-d"));
 }
 
 QTime ReadLocalTime(const QString& text, const QLocale& locale) {
-    const QString trimmed = text.trimmed();
+    const QString trimmed = Plain(text);
     QTime time = locale.toTime(trimmed, LocalTimeFormat(locale));
     for (const char* form : {"H:m:s.zzz", "H:m:s", "H:m"})
         if (!time.isValid()) time = QTime::fromString(trimmed, QString::fromLatin1(form));
@@ -56,7 +65,7 @@ QTime ReadLocalTime(const QString& text, const QLocale& locale) {
 }
 
 QDateTime ReadLocalDateTime(const QString& text, const QLocale& locale) {
-    const QString trimmed = text.trimmed();
+    const QString trimmed = Plain(text);
     const QDateTime local = locale.toDateTime(trimmed, LocalDateTimeFormat(locale));
     if (local.isValid()) return local;
     const QDate dateAlone = ReadLocalDate(trimmed, locale);

@@ -247,6 +247,18 @@
         <source>Join another way</source>
         <translation>ربط بطريقة أخرى</translation>
     </message>
+    <message>
+        <source>Delete row</source>
+        <translation>حذف الصف</translation>
+    </message>
+    <message>
+        <source>Switch row on or off</source>
+        <translation>تشغيل الصف أو إيقافه</translation>
+    </message>
+    <message>
+        <source>Row menu</source>
+        <translation>قائمة الصف</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

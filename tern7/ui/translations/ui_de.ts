@@ -247,6 +247,18 @@
         <source>Join another way</source>
         <translation>Anders verbinden</translation>
     </message>
+    <message>
+        <source>Delete row</source>
+        <translation>Zeile löschen</translation>
+    </message>
+    <message>
+        <source>Switch row on or off</source>
+        <translation>Zeile ein- oder ausschalten</translation>
+    </message>
+    <message>
+        <source>Row menu</source>
+        <translation>Zeilenmenü</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

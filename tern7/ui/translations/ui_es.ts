@@ -247,6 +247,18 @@
         <source>Join another way</source>
         <translation>Unir de otra forma</translation>
     </message>
+    <message>
+        <source>Delete row</source>
+        <translation>Eliminar fila</translation>
+    </message>
+    <message>
+        <source>Switch row on or off</source>
+        <translation>Activar o desactivar la fila</translation>
+    </message>
+    <message>
+        <source>Row menu</source>
+        <translation>Menú de la fila</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

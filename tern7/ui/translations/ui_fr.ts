@@ -247,6 +247,18 @@
         <source>Join another way</source>
         <translation>Joindre autrement</translation>
     </message>
+    <message>
+        <source>Delete row</source>
+        <translation>Supprimer la ligne</translation>
+    </message>
+    <message>
+        <source>Switch row on or off</source>
+        <translation>Activer ou désactiver la ligne</translation>
+    </message>
+    <message>
+        <source>Row menu</source>
+        <translation>Menu de la ligne</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

@@ -247,6 +247,18 @@
         <source>Join another way</source>
         <translation>別の経路で結合</translation>
     </message>
+    <message>
+        <source>Delete row</source>
+        <translation>行を削除</translation>
+    </message>
+    <message>
+        <source>Switch row on or off</source>
+        <translation>行のオン/オフを切り替え</translation>
+    </message>
+    <message>
+        <source>Row menu</source>
+        <translation>行のメニュー</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>

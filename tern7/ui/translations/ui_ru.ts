@@ -247,6 +247,18 @@
         <source>Join another way</source>
         <translation>Соединить иначе</translation>
     </message>
+    <message>
+        <source>Delete row</source>
+        <translation>Удалить строку</translation>
+    </message>
+    <message>
+        <source>Switch row on or off</source>
+        <translation>Включить или выключить строку</translation>
+    </message>
+    <message>
+        <source>Row menu</source>
+        <translation>Меню строки</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKQueryPanel</name>
