@@ -136,7 +136,8 @@ void TFilterRowView::RefreshMark(bool on) {
         mark->setForegroundRole(QPalette::PlaceholderText);
         mark->show();
     }
-    mark->setText((panel.ReadsFromRight() ? u'\u2192' : u'\u2190') + QStringLiteral(" ") + problem);
+    mark->setText((panel.ReadsFromRight() ? u'\u2192' : u'\u2190') + QStringLiteral(" ") +
+                  RowMark(*row));
     mark->setToolTip(
         ToolTipText(IsLeftOut(*row) ? tr("The condition is left out: %1").arg(problem) : problem));
     mark->resize(mark->sizeHint());

@@ -38,16 +38,14 @@ QString UnfinishedReason(TUnfinished reason) {
     return {};
 }
 
-/// Says what is expected; `yyyy-mm-dd` is read in every language.
-QString UnreadableDate(TValueEditKind kind, const QString& value) {
-    const QString problem =
-        TRowProblem::tr("\u201C%1\u201D can not be read as a date or time").arg(Isolated(value));
+/// What is expected; `yyyy-mm-dd` is read in every language.
+QString DateRemedy(TValueEditKind kind) {
     const TDateExample example =
         ExampleOf(kind != TValueEditKind::vkTime, kind != TValueEditKind::vkDate);
     const QString local = Isolated(example.local), everywhere = Isolated(example.everywhere);
-    return local == everywhere ? TRowProblem::tr("%1; write for example %2").arg(problem, local)
-                               : TRowProblem::tr("%1; write for example %2, or always %3")
-                                     .arg(problem, local, everywhere);
+    return local == everywhere
+               ? TRowProblem::tr("write for example %1").arg(local)
+               : TRowProblem::tr("write for example %1, or always %2").arg(local, everywhere);
 }
 
 bool IsReadable(TValueEditKind kind, const QString& value) {
@@ -63,19 +61,29 @@ bool IsReadable(TValueEditKind kind, const QString& value) {
     }
 }
 
-/// Empty when value n can stand in the statement.
-QString ValueProblem(const TFilterCond& condition, int n) {
+/// What is wrong, and in a few words what to do where that is known; both empty when all is well.
+struct TProblemTexts {
+    QString whole, remedy;
+};
+
+TProblemTexts ValueProblem(const TFilterCond& condition, int n) {
     if (condition.ValueIsParam(n)) return {};
     const QString value = ToQt(condition.Value(n));
     const TValueEditKind kind = ChooseValueEditor(condition);
-    if (!value.isEmpty() && !IsReadable(kind, value)) return UnreadableDate(kind, value);
+    if (!value.isEmpty() && !IsReadable(kind, value)) {
+        const QString problem = TRowProblem::tr("\u201C%1\u201D can not be read as a date or time")
+                                    .arg(Isolated(value));
+        const QString remedy = DateRemedy(kind);
+        return {TRowProblem::tr("%1; %2").arg(problem, remedy), remedy};
+    }
     if (!condition.Query()->CheckValues) return {};
     try {
         CheckBareValue(condition, n);
     } catch (const EKWrongValueError&) {
-        return condition.IsListOperator()
-                   ? TRowProblem::tr("\u201C%1\u201D is no list of numbers").arg(Isolated(value))
-                   : TRowProblem::tr("\u201C%1\u201D is no number").arg(Isolated(value));
+        return {condition.IsListOperator()
+                    ? TRowProblem::tr("\u201C%1\u201D is no list of numbers").arg(Isolated(value))
+                    : TRowProblem::tr("\u201C%1\u201D is no number").arg(Isolated(value)),
+                {}};
     }
     return {};
 }
@@ -101,6 +109,19 @@ QString SubQueryProblem(const TFilterCond& condition) {
     return problem.isEmpty() ? problem : TRowProblem::tr("sub-query: %1").arg(problem);
 }
 
+TProblemTexts ProblemOf(const TFilterRow& row) {
+    const TFilterCond* condition = row.AsCond();
+    if (!condition || !condition->Query() || !condition->EffectivelyEnabled()) return {};
+    if (const TUnfinished reason = condition->Unfinished(); reason != TUnfinished::No)
+        return {UnfinishedReason(reason), {}};
+    if (!condition->IsRecognized()) return {};
+    if (condition->IsSubQueryOperator()) return {SubQueryProblem(*condition), {}};
+    for (int n = 1; n <= condition->ValueCount(); ++n)
+        if (TProblemTexts problem = ValueProblem(*condition, n); !problem.whole.isEmpty())
+            return problem;
+    return {};
+}
+
 } // namespace
 
 bool IsLeftOut(const TFilterRow& row) {
@@ -108,15 +129,12 @@ bool IsLeftOut(const TFilterRow& row) {
 }
 
 QString RowProblem(const TFilterRow& row) {
-    const TFilterCond* condition = row.AsCond();
-    if (!condition || !condition->Query() || !condition->EffectivelyEnabled()) return {};
-    if (const TUnfinished reason = condition->Unfinished(); reason != TUnfinished::No)
-        return UnfinishedReason(reason);
-    if (!condition->IsRecognized()) return {};
-    if (condition->IsSubQueryOperator()) return SubQueryProblem(*condition);
-    for (int n = 1; n <= condition->ValueCount(); ++n)
-        if (const QString problem = ValueProblem(*condition, n); !problem.isEmpty()) return problem;
-    return {};
+    return ProblemOf(row).whole;
+}
+
+QString RowMark(const TFilterRow& row) {
+    const TProblemTexts problem = ProblemOf(row);
+    return problem.remedy.isEmpty() ? problem.whole : problem.remedy;
 }
 
 } // namespace tern7

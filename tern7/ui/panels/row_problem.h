@@ -9,6 +9,8 @@ namespace tern7 {
 /// Why an enabled condition takes no part in the statement, or what is wrong with a value, in words
 /// of the screen's language; empty when all is well.
 QString RowProblem(const TFilterRow& row);
+/// The same in a few words behind the row, where the values are seen: what to do, if that is known.
+QString RowMark(const TFilterRow& row);
 /// The problem is that the row is unfinished; otherwise the row stands in the statement as it is,
 /// or keeps it from being made.
 bool IsLeftOut(const TFilterRow& row);

@@ -387,12 +387,16 @@
         <translation>الاستعلام الفرعي: %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2</source>
-        <translation>%1؛ اكتب مثلاً %2</translation>
+        <source>write for example %1</source>
+        <translation>اكتب مثلاً %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2, or always %3</source>
-        <translation>%1؛ اكتب مثلاً %2 أو دائماً %3</translation>
+        <source>write for example %1, or always %2</source>
+        <translation>اكتب مثلاً %1 أو دائماً %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1؛ %2</translation>
     </message>
 </context>
 <context>

@@ -387,12 +387,16 @@
         <translation>Unterabfrage: %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2</source>
-        <translation>%1; schreiben Sie zum Beispiel %2</translation>
+        <source>write for example %1</source>
+        <translation>schreiben Sie zum Beispiel %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2, or always %3</source>
-        <translation>%1; schreiben Sie zum Beispiel %2 oder immer %3</translation>
+        <source>write for example %1, or always %2</source>
+        <translation>schreiben Sie zum Beispiel %1 oder immer %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>

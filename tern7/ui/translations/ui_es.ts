@@ -387,12 +387,16 @@
         <translation>subconsulta: %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2</source>
-        <translation>%1; escriba, por ejemplo, %2</translation>
+        <source>write for example %1</source>
+        <translation>escriba, por ejemplo, %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2, or always %3</source>
-        <translation>%1; escriba, por ejemplo, %2 o, siempre, %3</translation>
+        <source>write for example %1, or always %2</source>
+        <translation>escriba, por ejemplo, %1 o, siempre, %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>

@@ -387,12 +387,16 @@
         <translation>sous-requête : %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2</source>
-        <translation>%1 ; écrivez par exemple %2</translation>
+        <source>write for example %1</source>
+        <translation>écrivez par exemple %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2, or always %3</source>
-        <translation>%1 ; écrivez par exemple %2 ou, toujours, %3</translation>
+        <source>write for example %1, or always %2</source>
+        <translation>écrivez par exemple %1 ou, toujours, %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1 ; %2</translation>
     </message>
 </context>
 <context>

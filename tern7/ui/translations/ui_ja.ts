@@ -387,12 +387,16 @@
         <translation>サブクエリ: %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2</source>
-        <translation>%1。例: %2</translation>
+        <source>write for example %1</source>
+        <translation>例: %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2, or always %3</source>
-        <translation>%1。例: %2、または常に %3</translation>
+        <source>write for example %1, or always %2</source>
+        <translation>例: %1、または常に %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1。%2</translation>
     </message>
 </context>
 <context>

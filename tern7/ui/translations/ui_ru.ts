@@ -387,12 +387,16 @@
         <translation>подзапрос: %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2</source>
-        <translation>%1; введите, например, %2</translation>
+        <source>write for example %1</source>
+        <translation>введите, например, %1</translation>
     </message>
     <message>
-        <source>%1; write for example %2, or always %3</source>
-        <translation>%1; введите, например, %2 или, всегда, %3</translation>
+        <source>write for example %1, or always %2</source>
+        <translation>введите, например, %1 или, всегда, %2</translation>
+    </message>
+    <message>
+        <source>%1; %2</source>
+        <translation>%1; %2</translation>
     </message>
 </context>
 <context>
