@@ -269,9 +269,11 @@ std::string TKQuery::ConditionText(const TFilterCond& condition) const {
     std::string text;
     if (condition.Unfinished() != TUnfinished::No) return text;
     TConditionWriter& writer = *result->writer;
-    writer.Begin(*structure);
-    const TRTableList& tables = result->ResultTables();
-    if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table);
+    if (BuilderState() != TKBuilderState::stBuilding) { // else it is in use, for other tables
+        writer.Begin(*structure);
+        const TRTableList& tables = result->ResultTables();
+        if (!tables.IsEmpty()) writer.SetMainTable(tables[0].Table);
+    }
     writer.Append(condition, text);
     return text;
 }

@@ -118,7 +118,6 @@ void TKQueryRecord::Replay(bool undo) {
     constexpr size_t tellEach = 16; // beyond it one refresh of the views is cheaper
     query.RequireChangeable();
     assert(IsComplete());
-    undone = undo;
     TToldRows told;
     TKQuery::THeldEvents events(query);
     {
@@ -225,23 +224,6 @@ TFilterRow* TKQueryRecord::Row() const {
     if (parent.GetRowCount() > 0)
         return parent.GetRow(std::min(gone->index, parent.GetRowCount() - 1));
     return parent.Parent() ? &parent : nullptr;
-}
-
-TResultField* TKQueryRecord::Column() const {
-    const TRFieldList& list = query.QResult().ResultFields();
-    for (const TChange& change : changes) {
-        int index = -1;
-        if (const auto* place = std::get_if<TColumnPlace>(&change)) {
-            index = list.IndexOf(place->column);
-            if (index < 0) index = std::min(place->index, list.GetCount() - 1);
-        } else if (const auto* contents = std::get_if<TColumnContents>(&change)) {
-            index = list.IndexOf(contents->column);
-        } else if (const auto* move = std::get_if<TColumnMove>(&change)) {
-            index = undone ? move->from : move->to;
-        }
-        if (index >= 0) return list.GetItem(index);
-    }
-    return nullptr;
 }
 
 TKQueryRecording::TKQueryRecording(TKQuery& owner, TKQueryRecord& target)

@@ -36,8 +36,6 @@ public:
     /// The row that the step is about: the first changed one that is in the query, else what stands
     /// in the place of one that is not. None when there is none.
     TFilterRow* Row() const;
-    /// The same for columns.
-    TResultField* Column() const;
 
     // --- told by what changes
     /// Before the row's own contents change (not the rows in it).
@@ -132,7 +130,6 @@ private:
     std::unordered_set<const void*> taken;   // was taken out at some time of this step
     std::unordered_set<const void*> outside; // is out now, and not kept here
     bool lost = false;
-    bool undone = false;
 };
 
 /// Records the changes of a query while it lives. The application's events wait, so that a step is

@@ -111,7 +111,7 @@ TDSField* FindByReadableName(const TKCustomDBStructure& structure, std::string_v
 
 /// The name by which the field can be found again.
 std::string ReadableName(const TKCustomDBStructure& structure, const TDSField& field) {
-    if (structure.FieldsByDisplayName(field.DisplayName()).size() == 1) return field.DisplayName();
+    if (!structure.IsNameShared(field)) return field.DisplayName();
     const std::string name = TableFieldName(field);
     return FieldsByReadableName(structure, name).size() == 1 ? name : field.GetCompoundName();
 }

@@ -124,7 +124,7 @@ std::string TKRowTexts::FieldText(const TDSField& field) const {
     Refresh(structure);
     std::string& text = fieldTexts[&field];
     if (text.empty()) {
-        const bool shared = structure.FieldsByDisplayName(field.DisplayName()).size() > 1;
+        const bool shared = structure.IsNameShared(field);
         text = shared && field.Table() ? field.GetFullName() : field.DisplayName();
     }
     if (!ShowGroupName || !field.Group()) return text;

@@ -85,6 +85,8 @@ public:
     std::vector<TDSTable*> TablesOfExpression(std::string_view expression) const;
     /// The fields that share a display name, in list order.
     std::vector<TDSField*> FieldsByDisplayName(std::string_view name) const;
+    /// True when another field has the display name of this one; constant time.
+    bool IsNameShared(const TDSField& field) const;
     /// By full name (table display name, a blank, field display name); the first in list order.
     TDSField* FieldByFullName(std::string_view name) const;
     void GetFieldNames(bool compound, TStrings& names,

@@ -184,6 +184,14 @@ std::vector<TDSField*> TKCustomDBStructure::FieldsByDisplayName(std::string_view
     return found;
 }
 
+bool TKCustomDBStructure::IsNameShared(const TDSField& field) const {
+    const std::string& name = field.DisplayName();
+    indexes->Fill(indexes->displayNames, fields, DisplayHash);
+    return indexes->displayNames.First(HashOfText(name), [&](const TDSField& other) {
+        return &other != &field && SameText(other.DisplayName(), name);
+    });
+}
+
 TDSField* TKCustomDBStructure::FieldByFullName(std::string_view name) const {
     indexes->Fill(indexes->fullNames, fields, FullNameHash);
     return indexes->fullNames.First(HashOfText(name), [&](const TDSField& field) {

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QMetaObject>
 #include <QPointer>
+#include <QScopedValueRollback>
 #include <QUndoCommand>
 
 #include <tern7/core/query/query_record.h>
@@ -12,29 +13,12 @@
 
 namespace tern7 {
 
-namespace {
-
-/// True while it lives.
-class TFlag {
-public:
-    explicit TFlag(bool& target) : flag(target), before(target) { flag = true; }
-    ~TFlag() { flag = before; }
-    TFlag(const TFlag&) = delete;
-    TFlag& operator=(const TFlag&) = delete;
-
-private:
-    bool& flag;
-    bool before;
-};
-
-} // namespace
-
 /// A step on the stack. It was done before it came there.
 class TKQueryEditor::TCommand : public QUndoCommand {
 public:
     TCommand(TKQueryEditor& owner, const QString& text, std::unique_ptr<TKQueryRecord> changes,
-             const TTyped& what)
-        : editor(owner), name(text.toUtf8()), record(std::move(changes)), typed(what) {
+             const QByteArray& step)
+        : editor(owner), name(text.toUtf8()), continued(step), record(std::move(changes)) {
         Translate();
     }
 
@@ -48,18 +32,16 @@ public:
     int id() const override { return 1; }
     bool mergeWith(const QUndoCommand* other) override {
         const auto* later = static_cast<const TCommand*>(other);
-        const bool continued = !later->typed.last.empty() && later->typed.last == name.constData();
-        const bool typedOn = typed.condition && later->typed == typed;
-        if (!continued && !typedOn) return false;
+        if (later->continued.isEmpty() || later->continued != name) return false;
         record->Append(*later->record);
         return true;
     }
 
 private:
     TKQueryEditor& editor;
-    const QByteArray name; // before it is translated
+    const QByteArray name;      // before it is translated
+    const QByteArray continued; // a step of this name becomes one with it; empty: none
     std::unique_ptr<TKQueryRecord> record;
-    TTyped typed;
     bool done = false;
 };
 
@@ -96,13 +78,11 @@ void TKQueryEditor::RunStep(const std::string& name, const std::function<void()>
 
 void TKQueryEditor::ContinueStep(const std::string& last, const std::string& name,
                                  const std::function<void()>& change) {
-    TTyped continued;
-    continued.last = last;
-    Run(ToQt(name), change, continued);
+    Run(ToQt(name), change, QByteArray::fromStdString(last));
 }
 
 bool TKQueryEditor::Run(const QString& text, const std::function<void()>& change,
-                        const TTyped& typed) {
+                        const QByteArray& continued) {
     if (!query) return false;
     if (recording || replaying) { // part of the step around it; a replay notices by itself
         change();
@@ -136,7 +116,7 @@ bool TKQueryEditor::Run(const QString& text, const std::function<void()>& change
         else if (failed)
             record->Undo();
         else
-            stack->push(new TCommand(*this, text, std::move(record), typed));
+            stack->push(new TCommand(*this, text, std::move(record), continued));
     }
     if (error) std::rethrow_exception(error);
     return changed;
@@ -189,14 +169,13 @@ void TKQueryEditor::ReplayFromOutside(void (QUndoStack::*step)()) {
 void TKQueryEditor::Replay(TKQueryRecord& record, bool undo) {
     if (!query || recording || replaying || stale) return;
     try {
-        const TFlag busy(replaying);
+        const QScopedValueRollback busy(replaying, true);
         TKQuery::THeldEvents events(*query);
         if (undo)
             record.Undo();
         else
             record.Redo();
         replayedRow = record.Row();
-        OnReplayed(replayedRow, record.Column());
         events.Send();
     } catch (...) {
         replayError = std::current_exception();

@@ -65,8 +65,6 @@ public:
     /// translations of this class (QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add condition"))
     /// where they have it.
     bool Run(const QString& text, const std::function<void()>& change);
-    /// After each undo and redo: the row or column to look at; none when there is none.
-    TEvent<TFilterRow*, TResultField*> OnReplayed;
     /// The language has changed: steps get their names anew. Panels do that by themselves.
     void TranslateSteps();
     /// The row to look at after the last undo or redo; none when the query was changed since.
@@ -99,10 +97,6 @@ public:
     void SetOperator(TFilterCond& condition, TDSOperator& op);
     /// A value as the user entered it.
     void SetValue(TFilterCond& condition, int n, std::string text, std::string caption = {});
-    /// The same while it is typed: all until EndTyping, or until something else is changed, is one
-    /// step.
-    void TypeValue(TFilterCond& condition, int n, std::string text, std::string caption = {});
-    void EndTyping() { ++typing; }
     void SetParameter(TFilterCond& condition, int n, bool value);
     /// Caption and value format of the parameter that stands for a value; nothing without one.
     void SetParameterTexts(TFilterCond& condition, int n, std::string caption, std::string format);
@@ -159,15 +153,7 @@ private:
     void ForgetSteps() override { Forget(); }
     void QueryDestroyed() override;
 
-    /// What a step may be put together with: the one before it.
-    struct TTyped {
-        const TFilterCond* condition = nullptr; // none: nothing is being typed
-        int valueNumber = 0;
-        int session = 0;
-        std::string last = {}; ///< a step of this name; empty: none
-        bool operator==(const TTyped&) const = default;
-    };
-    bool Run(const QString& text, const std::function<void()>& change, const TTyped& typed);
+    bool Run(const QString& text, const std::function<void()>& change, const QByteArray& continued);
     void TakeOver(QAction& action, void (TKQueryEditor::*step)());
     void Replay(TKQueryRecord& record, bool undo);
     void ReplayFromOutside(void (QUndoStack::*step)());
@@ -180,7 +166,6 @@ private:
     std::unique_ptr<QUndoStack> stack;
     std::exception_ptr replayError;
     TFilterRow* replayedRow = nullptr;
-    int typing = 0; // number of the present session
     bool recording = false;
     bool replaying = false;
     bool stale = false; // to be emptied when the stack is at rest

@@ -110,13 +110,6 @@ void TKQueryEditor::SetValue(TFilterCond& condition, int n, std::string text, st
         [&] { edits.SetValue(condition, n, std::move(text), std::move(caption)); });
 }
 
-void TKQueryEditor::TypeValue(TFilterCond& condition, int n, std::string text,
-                              std::string caption) {
-    Run(QT_TR_NOOP("Change value"),
-        [&] { edits.SetValue(condition, n, std::move(text), std::move(caption)); },
-        {&condition, n, typing});
-}
-
 void TKQueryEditor::SetParameter(TFilterCond& condition, int n, bool value) {
     Run(value ? QT_TR_NOOP("Make parameter") : QT_TR_NOOP("Make constant"),
         [&] { edits.SetParameter(condition, n, value); });
@@ -247,6 +240,7 @@ void TKQueryEditor::SetResultFields(const TRFieldList& list) {
 // --- the whole query
 
 void TKQueryEditor::SetSQLOption(TSQLOption option, bool value) {
+    if (!query) return;
     TSQLOptions options = query->SQLOptions();
     if (value)
         options.Include(option);

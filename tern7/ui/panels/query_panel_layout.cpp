@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 
 #include <tern7/ui/controls/drop_down_edit.h>
@@ -98,17 +99,19 @@ void TKQueryPanel::BuildLines() {
 
 void TKQueryPanel::Lay() {
     if (laying) return;
-    laying = true;
-    layoutPosted = false;
-    BuildLines();
-    SetScrollRanges();
-    MakeViews();
-    if (static_cast<int>(views.size()) >= lines.Count()) widest = 0; // all rows are measured now
-    PlaceViews();
-    SetScrollRanges(); // the widest row may be a new one
-    PlaceAddRow();
-    ChainFocus();
-    laying = false;
+    {
+        const QScopedValueRollback isLaying(laying, true);
+        layoutPosted = false;
+        BuildLines();
+        SetScrollRanges();
+        MakeViews();
+        if (static_cast<int>(views.size()) >= lines.Count())
+            widest = 0; // all rows are measured now
+        PlaceViews();
+        SetScrollRanges(); // the widest row may be a new one
+        PlaceAddRow();
+        ChainFocus();
+    }
     // behind the controls' own: Qt draws an opaque ground that is asked for first, with all that
     // stands on it, and then the controls once more
     if (std::exchange(redrawn, false)) viewport()->update();

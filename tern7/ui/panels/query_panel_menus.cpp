@@ -23,12 +23,11 @@ void FillMenu(TKPopupMenu& menu, const std::vector<TPanelMenuItem>& items, const
     }
 }
 
-TMenuItem& ItemOf(TKPopupMenu& menu, int command) {
+/// An application may have taken the command out of the menu.
+void EnableItem(TKPopupMenu& menu, int command, bool value) {
     TMenuItem& all = menu.Items();
-    int i = 0;
-    while (all.Items(i).Tag != command)
-        ++i;
-    return all.Items(i);
+    for (int i = 0; i < all.Count(); ++i)
+        if (all.Items(i).Tag == command) all.Items(i).Enabled = value;
 }
 
 } // namespace
@@ -79,8 +78,8 @@ void TKQueryPanel::PopupAddMenu(const QPoint& at) {
 void TKQueryPanel::PopupRowMenu(TFilterRow& row, const QRect& anchor) {
     SetCurrentRow(row);
     const bool isRoot = !row.Parent();
-    ItemOf(*rowMenu, pcDeleteRow).Enabled = !isRoot;
-    ItemOf(*rowMenu, pcEnableDisable).Enabled = !isRoot;
+    EnableItem(*rowMenu, pcDeleteRow, !isRoot);
+    EnableItem(*rowMenu, pcEnableDisable, !isRoot);
     rowMenu->PopupAt(anchor);
 }
 

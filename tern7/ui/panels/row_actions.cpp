@@ -87,11 +87,13 @@ void TFilterRowView::FillFields(TDropDownLabel* widget) {
         menu->SetMaxItemCount(panel.MaxPopupItemCount());
     list.SetSortList(false);
     list.SetImages(panel.Images());
-    list.OnGetGroupImageIndex = [this](const QString& group, int& index) {
-        panel.OnGetGroupImageIndex(group, index);
+    // the list outlives this view, but not the panel
+    list.OnGetGroupImageIndex = [&owner = panel](const QString& group, int& index) {
+        owner.OnGetGroupImageIndex(group, index);
     };
-    list.OnGetItemImageIndex = [this](const QString& group, const QString& item, int& index) {
-        panel.OnGetItemImageIndex(group, item, index);
+    list.OnGetItemImageIndex = [&owner = panel](const QString& group, const QString& item,
+                                                int& index) {
+        owner.OnGetItemImageIndex(group, item, index);
     };
     if (const TKCustomDBStructure* structure = panel.DbStruct()) {
         const std::vector<TOfferedField> fields = OfferedFields(*structure, TFieldUse::Conditions);

@@ -117,9 +117,7 @@ void TMonkey::ChangeCondition(TFilterCond& condition) {
         editor->SetValue(condition, n, Any(values), Below(2) ? "shown" : "");
         break;
     case 4:
-        for (const char* text : {"B", "Be", "Ber"})
-            editor->TypeValue(condition, n, text);
-        editor->EndTyping();
+        editor->SetValue(condition, n, "Ber");
         break;
     case 5:
         editor->SetParameter(condition, n, !condition.ValueIsParam(n));
