@@ -53,6 +53,24 @@ TCell CellOf(const TBoundValue& value) {
     }
 }
 
+QVariant VariantOf(const TCell& cell) {
+    const auto* text = std::get_if<std::string>(&cell);
+    return text ? QVariant(ToQt(*text)) : QVariant(qlonglong{std::get<int64_t>(cell)});
+}
+
+/// ":name" as a word of its own, outside literals.
+bool HoldsParameter(const std::string& sql, const std::string& name) {
+    bool inLiteral = false;
+    for (size_t i = 0; i < sql.size(); ++i) {
+        if (sql[i] == '\'') inLiteral = !inLiteral;
+        if (inLiteral || sql[i] != ':' || sql.compare(i + 1, name.size(), name) != 0) continue;
+        const size_t behind = i + 1 + name.size();
+        const char c = behind == sql.size() ? ' ' : sql[behind];
+        if (!IsLetter(c) && !IsDigit(c)) return true;
+    }
+    return false;
+}
+
 const std::vector<std::string> bytewise = {"pragma case_sensitive_like = on"};
 
 [[noreturn]] void Fail(const QSqlQuery& query) {
@@ -149,16 +167,16 @@ void TEngine::Execute(const std::string& sql, const TRow& values) const {
         return;
     }
     QSqlQuery query = Prepared(connection, ToQt(sql));
-    for (const TCell& cell : values) {
-        const auto* text = std::get_if<std::string>(&cell);
-        query.addBindValue(text ? QVariant(ToQt(*text))
-                                : QVariant(qlonglong{std::get<int64_t>(cell)}));
-    }
+    for (const TCell& cell : values)
+        query.addBindValue(VariantOf(cell));
     Run(query);
 }
 
-TRows TEngine::Select(const std::string& sql) const {
+TRows TEngine::Select(const std::string& sql,
+                      const std::map<std::string, TCell>& parameters) const {
     QSqlQuery query = Prepared(connection, ToQt(sql));
+    for (const auto& [name, value] : parameters)
+        if (HoldsParameter(sql, name)) query.bindValue(ToQt(":" + name), VariantOf(value));
     Run(query);
     return RowsOf(query);
 }

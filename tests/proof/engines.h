@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -26,7 +27,8 @@ public:
     TRows Bound(TKQuery& query, bool escapeWildcards = false) const;
     /// std::runtime_error with the statement and the words of the database when it fails.
     void Execute(const std::string& sql, const TRow& values = {}) const;
-    TRows Select(const std::string& sql) const;
+    /// The parameters of the statement are looked up by name.
+    TRows Select(const std::string& sql, const std::map<std::string, TCell>& parameters = {}) const;
 
 private:
     TKConnection connection;

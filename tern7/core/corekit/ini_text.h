@@ -153,6 +153,9 @@ private:
 /// A line written by TKIniWriter::BodyLine as it was before.
 std::string_view UnprotectBodyLine(std::string_view line);
 
+/// The text without the mark of the byte order that some programs put before it.
+std::string_view WithoutByteOrderMark(std::string_view text);
+
 /// What DecodeTextFile found.
 struct TKDecodedText {
     std::string text;            ///< UTF-8 without a byte order mark

@@ -31,8 +31,6 @@ public:
     /// The buffer, to append to the last line; there must be one, and no LF may be appended that is
     /// not part of the line's text.
     std::string& Last() { return text; }
-    /// Where the last line begins in the buffer.
-    size_t LastStart() const { return starts.back(); }
 
     /// All lines, with none behind the last.
     const std::string& Text() const { return text; }

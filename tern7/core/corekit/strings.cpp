@@ -102,6 +102,20 @@ bool EqualToSpaces(std::string_view a, std::string_view b) {
     }
 }
 
+bool SameSQLText(std::string_view a, std::string_view b) {
+    size_t i = 0, k = 0;
+    for (bool inLiteral = false;;) {
+        while (!inLiteral && i < a.size() && IsSpace(a[i]))
+            ++i;
+        while (!inLiteral && k < b.size() && IsSpace(b[k]))
+            ++k;
+        if (i == a.size() || k == b.size()) return i == a.size() && k == b.size();
+        const char c = a[i++], d = b[k++];
+        if (c != d && (inLiteral || LowerChar(c) != LowerChar(d))) return false;
+        if (c == '\'') inLiteral = !inLiteral;
+    }
+}
+
 bool ContainsAsWholeWord(std::string_view text, std::string_view word) {
     if (word.empty()) return false;
     const std::string searched = LowerCase(text), wanted = LowerCase(word);

@@ -57,6 +57,9 @@ bool StrInList(std::string_view text, const TStrings& list);
 /// Equality that ignores all blanks on both sides; letters compare exactly.
 bool EqualToSpaces(std::string_view a, std::string_view b);
 
+/// Equality of two pieces of SQL: blanks and case don't count but in literals, '...'.
+bool SameSQLText(std::string_view a, std::string_view b);
+
 /// True when `word` stands in `text` with no letter, digit or underscore next to it, ignoring case.
 /// Bytes above 127 count as letters.
 bool ContainsAsWholeWord(std::string_view text, std::string_view word);

@@ -76,11 +76,17 @@ bool IsUTF8(std::string_view text) {
     return true;
 }
 
+std::string_view WithoutByteOrderMark(std::string_view text) {
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    if (text.starts_with(mark)) text.remove_prefix(mark.size());
+    return text;
+}
+
 TKDecodedText DecodeTextFile(std::string bytes) {
     TKDecodedText result;
     result.wasWindows1252 = !IsUTF8(bytes);
     result.text = result.wasWindows1252 ? FromWindows1252(bytes) : std::move(bytes);
-    if (result.text.compare(0, 3, "\xEF\xBB\xBF") == 0) result.text.erase(0, 3);
+    result.text.erase(0, result.text.size() - WithoutByteOrderMark(result.text).size());
     return result;
 }
 

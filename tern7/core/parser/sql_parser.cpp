@@ -3,14 +3,12 @@
 #include <unordered_map>
 
 #include <tern7/core/corekit/numbers.h>
+#include <tern7/core/global/limits.h>
 #include <tern7/core/global/messages.h>
 
 namespace tern7 {
 
 namespace {
-
-constexpr size_t MaxBracketDepth = 1000;
-constexpr size_t MaxSubQueryDepth = 200;
 
 // In the order of TWord, from wSelect on.
 constexpr std::string_view ReservedWords[] = {"select", "from",  "join", "where",
@@ -76,7 +74,7 @@ void TKSQLParser::Parse() {
 
 /// What reads the tree, or the nested selects, may be recursive.
 void TKSQLParser::RefuseDeepNesting() {
-    if (scanner.MaxDepth() <= MaxSubQueryDepth) return;
+    if (scanner.MaxDepth() <= MaxSubQueryLevel) return;
     std::vector<bool> isSelect; // by open bracket
     size_t selects = 0;
     for (; !scanner.EOS(); Step()) {
@@ -89,7 +87,7 @@ void TKSQLParser::RefuseDeepNesting() {
             isSelect.back() = true;
             ++selects;
         }
-        if (isSelect.size() > MaxBracketDepth || selects > MaxSubQueryDepth)
+        if (isSelect.size() > MaxBracketLevel || selects > MaxSubQueryLevel)
             Error(messages::WrongSQL);
     }
     scanner.FirstToken();

@@ -41,9 +41,8 @@ bool IsDate(const TKQuery& query, TFieldType type, const std::string& value) {
 
 bool IsNumberToken(const std::string& value) {
     const std::string_view text = Trim(value);
-    const bool word =
-        !text.empty() && (std::isalpha(static_cast<unsigned char>(text[0])) || text[0] == '_' ||
-                          static_cast<unsigned char>(text[0]) > 127);
+    const bool word = !text.empty() && (IsLetter(text[0]) || text[0] == '_' ||
+                                        static_cast<unsigned char>(text[0]) > 127);
     return !word && IsBareToken(text);
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include <tern7/core/global/limits.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/filter_row.h>
 #include <tern7/core/query/query.h>
@@ -80,7 +81,7 @@ bool TFilterBracket::CanHold(const TFilterRow& row) const {
     if (!bracket) return true;
     for (const TFilterBracket* around = this; around; around = around->Parent())
         if (around == bracket) return false;
-    return Level() + 1 + bracket->Depth() <= MaxLevel;
+    return Level() + 1 + bracket->Depth() <= MaxBracketLevel;
 }
 
 TFilterBracket* TFilterBracket::InsertBracket(int index) {

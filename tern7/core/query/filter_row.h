@@ -194,7 +194,6 @@ public:
     void CheckIfAllDisabled();
     /// Deepest level of brackets below; 0 without brackets inside.
     int Depth() const;
-    static constexpr int MaxLevel = 1000;
 
 private:
     friend class TKQuery;

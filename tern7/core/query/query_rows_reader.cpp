@@ -4,6 +4,7 @@
 
 #include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/corekit/numbers.h>
+#include <tern7/core/global/limits.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_text.h>
@@ -12,8 +13,6 @@
 namespace tern7 {
 
 namespace {
-
-constexpr size_t maxLevel = 1000;
 
 constexpr std::string_view valueKeys[] = {"Value1", "Value2"};
 constexpr std::string_view paramKeys[] = {"Param1", "Param2"};
@@ -70,7 +69,7 @@ std::vector<TRowText> TRowsParser::Parse(const TKIniText& text) {
             root = &section;
         } else {
             --open.back();
-            if (row.isBracket && open.size() > maxLevel)
+            if (row.isBracket && open.size() > size_t{MaxBracketLevel})
                 throw EKQueryPanelError(std::string(messages::NestedTooDeep));
         }
         if (row.isBracket) open.push_back(row.rowCount);
@@ -260,7 +259,7 @@ void AddRows(TKQuery& query, std::vector<TRowText> rows) {
 std::vector<TFilterRow*> InsertRows(TFilterBracket& parent, int index, std::vector<TRowText> rows) {
     const TRowText& root = rows.front();
     const bool wrap = root.linkType != TFilterLinkType::fltAll && root.rowCount > 0;
-    if (parent.Level() + (wrap ? 1 : 0) + Depth(rows) > TFilterBracket::MaxLevel)
+    if (parent.Level() + (wrap ? 1 : 0) + Depth(rows) > MaxBracketLevel)
         throw EKQueryPanelError(std::string(messages::NestedTooDeep));
     for (TRowText& row : rows)
         row.id = -1; // numbers are given when the whole query is written

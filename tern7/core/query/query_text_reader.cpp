@@ -90,12 +90,6 @@ TQueryText ParseQueryText(std::string_view text, const TKQuery& query) {
     return parsed;
 }
 
-std::string_view WithoutMark(std::string_view text) {
-    constexpr std::string_view mark = "\xEF\xBB\xBF";
-    if (text.starts_with(mark)) text.remove_prefix(mark.size());
-    return text;
-}
-
 } // namespace
 
 /// Reads a text into a query: checks all of it first, then replaces what the query holds.
@@ -116,7 +110,7 @@ void TKQueryTextReader::Read(std::string_view text, TStrings warnings) {
     query.SetActive(false); // and so it stays when the reading fails
     {
         const TBuilderStateScope loading(query, TKBuilderState::stLoading);
-        text = WithoutMark(text);
+        text = WithoutByteOrderMark(text);
         if (text.empty()) {
             query.ClearAll();
             query.loadWarnings = std::move(warnings);
@@ -156,7 +150,7 @@ std::vector<TFilterRow*> InsertRowsFromText(TFilterBracket& parent, int index,
     query.RequireChangeable();
     if (index < 0 || index > parent.GetRowCount())
         throw std::out_of_range("row index out of range");
-    const TKIniText sections(WithoutMark(text));
+    const TKIniText sections(WithoutByteOrderMark(text));
     std::vector<TRowText> rows = AsQueryError([&] {
         const TKIniSection* main = sections.Find("Main");
         if (!main) RaiseSectionNotFound("Main");
@@ -191,7 +185,7 @@ void TKQuery::LoadFromFile(const std::string& fileName) {
 }
 
 TQueryTextHead ReadQueryTextHead(std::string_view text) {
-    const TKIniText sections(WithoutMark(text));
+    const TKIniText sections(WithoutByteOrderMark(text));
     TQueryTextHead head;
     head.hasTitles = HasQueryTitles(sections);
     const TKIniSection* main = sections.Find("Main");

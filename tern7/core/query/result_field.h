@@ -190,6 +190,7 @@ private:
     using TKObjectList::FreeAll;
     using TKObjectList::Swap;
     void AliasChanged(const std::string& from, const std::string& to);
+    void SuffixIsFree(std::string_view alias);
     void Tell();
     /// Where changes of the query's own list are recorded; none for other lists.
     TKQueryRecord* RecordOfChange();

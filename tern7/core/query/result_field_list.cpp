@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include <tern7/core/corekit/numbers.h>
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_record.h>
@@ -139,10 +140,24 @@ void TRFieldList::Clear() {
 void TRFieldList::AliasChanged(const std::string& from, const std::string& to) {
     if (!from.empty()) {
         const auto it = aliasCounts.find(LowerCase(from));
-        if (it != aliasCounts.end() && --it->second == 0) aliasCounts.erase(it);
-        lastSuffix.clear();
+        if (it != aliasCounts.end() && --it->second == 0) {
+            aliasCounts.erase(it);
+            SuffixIsFree(LowerCase(from));
+        }
     }
     if (!to.empty()) ++aliasCounts[LowerCase(to)];
+}
+
+/// The alias may be a shorter text with a number, which is to be tried again.
+void TRFieldList::SuffixIsFree(std::string_view alias) {
+    for (size_t from = alias.size(); from > 1 && IsDigit(alias[from - 1]);) {
+        --from;
+        const std::optional<int> number = StrToIntExact(alias.substr(from));
+        if (!number) return; // longer than any that was tried
+        const auto known = lastSuffix.find(std::string(alias.substr(0, from)));
+        if (known != lastSuffix.end() && alias[from] != '0')
+            known->second = std::min(known->second, *number - 1);
+    }
 }
 
 bool TRFieldList::CheckUniqAlias(std::string_view text) const {

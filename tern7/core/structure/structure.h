@@ -80,8 +80,8 @@ public:
     TDSField* FieldByName(bool byDisplayName, std::string_view name) const;
     /// The first field in list order whose SQL expression is the text, ignoring case and blanks.
     TDSField* FieldBySQLExpr(std::string_view expression) const;
-    /// The tables whose alias stands before a point in an SQL expression, outside literals, in order
-    /// of appearance.
+    /// The tables whose alias stands before a point in an SQL expression, outside literals, in
+    /// order of appearance.
     std::vector<TDSTable*> TablesOfExpression(std::string_view expression) const;
     /// The fields that share a display name, in list order.
     std::vector<TDSField*> FieldsByDisplayName(std::string_view name) const;
@@ -242,13 +242,11 @@ private:
     void List(TDSTable* table);
     void List(TDSField* field);
     void List(TDSOperator* op);
-    void Unlist(const TDSField& field);
     void ForgetPaths();
     void RequireOwn(const TDSTable& table) const;
     void TableAdded(TDSTable& table);
     void TablesLinked(const TDSTable& a, const TDSTable& b);
     void MakeLinkedSets();
-    void DropFieldLookups();
     void DeleteFieldsOf(const TDSTable* table);
     void DeleteLinksOf(const TDSTable* table);
     void Notify();
@@ -294,7 +292,7 @@ private:
     TKLife life; // tells Notify that it is gone
     mutable std::unique_ptr<TIndexes> indexes;
     mutable std::unique_ptr<TPathTrees> pathTrees;
-    std::unique_ptr<TDetours> detours; // of the joins that were avoided last
+    std::unique_ptr<TDetours> detours;       // of the joins that were avoided last
     std::unique_ptr<TLinkedSets> linkedSets; // never null
 };
 

@@ -43,18 +43,6 @@ bool SameJoined(std::string_view left, char separator, std::string_view right,
            SameText(text.substr(left.size() + 1), right);
 }
 
-bool SameWithoutBlanks(std::string_view a, std::string_view b) {
-    size_t i = 0, k = 0;
-    for (;;) {
-        while (i < a.size() && IsSpace(a[i]))
-            ++i;
-        while (k < b.size() && IsSpace(b[k]))
-            ++k;
-        if (i == a.size() || k == b.size()) return i == a.size() && k == b.size();
-        if (LowerChar(a[i++]) != LowerChar(b[k++])) return false;
-    }
-}
-
 } // namespace
 
 void TKCustomDBStructure::TIndexes::Add(TDSTable* table) {
@@ -208,7 +196,7 @@ TDSField* TKCustomDBStructure::FieldBySQLExpr(std::string_view expression) const
                                       [&](const TDSField& field) {
                                           candidate.clear();
                                           field.AppendSQLExpr(candidate);
-                                          return SameWithoutBlanks(candidate, expression);
+                                          return SameSQLText(candidate, expression);
                                       });
 }
 

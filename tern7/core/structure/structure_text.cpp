@@ -13,11 +13,7 @@ namespace tern7 {
 std::unique_ptr<TKCustomDBStructure::TContent>
 TKCustomDBStructure::ReadText(std::string_view text) {
     try {
-        if (IsUTF8(text)) {
-            constexpr std::string_view mark = "\xEF\xBB\xBF"; // of the byte order
-            if (text.substr(0, mark.size()) == mark) text.remove_prefix(mark.size());
-            return TKStructureReader(*this, text).Read();
-        }
+        if (IsUTF8(text)) return TKStructureReader(*this, WithoutByteOrderMark(text)).Read();
         const TKDecodedText decoded = DecodeTextFile(std::string(text));
         std::unique_ptr<TContent> content = TKStructureReader(*this, decoded.text).Read();
         content->warnings.insert(content->warnings.begin(), std::string(messages::NoUTF8));

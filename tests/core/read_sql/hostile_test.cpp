@@ -69,6 +69,7 @@ TEST_F(HostileSQL, IsReadOrRefused) {
         where + Repeated("case when C.id = "),
         where + Repeated("C.id = C.name and ") + "C.id = 2",
         "select " + Repeated("C.name, ") + "C.id from Customer C order by " + Repeated("1, ") + "2",
+        "select " + Repeated("C.id as c, ") + "C.id from Customer C",
         "select " + Repeated("C.name || ") + "C.id from Customer C",
         "select " + Repeated("1, ") + "2 from Customer C group by " + Repeated("C.name, ") + "C.id",
         "select * from Customer C order by " + Repeated("C.name, ") + "C.id",

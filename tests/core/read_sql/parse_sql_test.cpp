@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <tern7/core/query/query_record.h>
 #include <tern7/core/query/query_text.h>
 #include <tern7/core/query/read_sql/sql_report.h>
 #include <tern7/core/structure/default_operators.h>
@@ -286,6 +287,26 @@ TEST_F(ParseSQL, EveryOperatorComesBackForEveryFieldType) {
             }
         }
     }
+}
+
+TEST_F(ParseSQL, AnImportedStatementIsOneStepThatGoesBack) {
+    query.Root().AddCond()->SetField(Field("C.city"));
+    const TSQLOptions options = query.SQLOptions();
+    const std::string before = query.GetQueryString();
+    TKQueryRecord record(query);
+    {
+        TKQueryRecording recording(query, record);
+        query.ImportSQL("select C.name from Customer C, Orders O where (C.id = O.customer_id)");
+    }
+    const std::string imported = query.GetQueryString();
+    EXPECT_NE(query.SQLSyntax(), TSQLSyntax::ssSQL2);
+    record.Undo();
+    EXPECT_EQ(query.SQLSyntax(), TSQLSyntax::ssSQL2);
+    EXPECT_EQ(query.SQLOptions(), options);
+    EXPECT_EQ(query.GetQueryString(), before);
+    record.Redo();
+    EXPECT_NE(query.SQLSyntax(), TSQLSyntax::ssSQL2);
+    EXPECT_EQ(query.GetQueryString(), imported);
 }
 
 } // namespace

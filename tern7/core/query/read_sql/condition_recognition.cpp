@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <tern7/core/corekit/comma_text.h>
+#include <tern7/core/corekit/numbers.h>
 #include <tern7/core/query/condition_text.h>
 #include <tern7/core/query/query.h>
 
@@ -43,8 +44,8 @@ std::optional<std::string> BooleanValue(std::string_view word) {
 }
 
 /// The items of a list as a statement writes it, none when they are not all literals, or words that
-/// say true or false where those are allowed.
-std::optional<TStrings> ListItems(std::string_view list, bool booleans) {
+/// say true or false where those are allowed. Says whether an item is more than a number.
+std::optional<TStrings> ListItems(std::string_view list, bool booleans, bool& anyText) {
     const TSQLOperand cut(list);
     TStrings items;
     for (size_t i = 0; i < cut.Count(); i += 2) {
@@ -59,6 +60,7 @@ std::optional<TStrings> ListItems(std::string_view list, bool booleans) {
         }
         items.push_back(UnquotedString(token));
         if (items.back().size() + 2 > token.size()) return std::nullopt; // not closed
+        anyText = anyText || !IsNumber(items.back());
     }
     if (items.empty()) return std::nullopt;
     return items;
@@ -101,8 +103,16 @@ TRecognisedCondition TConditionRecognition::Recognise(const TSQLCondition& condi
                        field->FieldType() == TFieldType::ftBoolean &&
                        structure.IsQuotedType(field->FieldType());
     attempt.bareValues = !field || !structure.IsQuotedType(field->FieldType()) || attempt.booleans;
-    attempt.found.op = OperatorBySQLCond(attempt);
+    attempt.found.op = LosesQuotes(attempt) ? nullptr : OperatorBySQLCond(attempt);
     return std::move(attempt.found);
+}
+
+/// A literal of the field's own expression would come back without its quotes.
+bool TConditionRecognition::LosesQuotes(const TTry& attempt) const {
+    const TDSField* const field = attempt.found.field;
+    return field && !structure.IsQuotedType(field->FieldType()) &&
+           !attempt.condition.IsSubQuery() &&
+           attempt.condition.Field().find('\'') != std::string_view::npos;
 }
 
 TDSOperator* TConditionRecognition::OperatorBySQLCond(TTry& attempt) const {
@@ -186,14 +196,20 @@ bool TConditionRecognition::TakeValue(TTry& attempt, const TDSOperator& op, int 
     return boolean.has_value();
 }
 
+/// A number in quotes is a text, unless it is compared with a column that makes it a number.
+bool TConditionRecognition::ComparesAsText(const TDSField& field) const {
+    return complete && field.Kind() == TKFieldKind::kfkVirtual;
+}
+
 bool TConditionRecognition::TakeScalar(const TSQLCapture& capture, const TDSOperator& op,
                                        const TDSField& field, int n, std::string& value) const {
     value = capture.text;
     const bool isQuoted = structure.IsQuotedType(field.FieldType());
-    // without quotes '%5%' would come back as %5%
-    if (complete && !isQuoted && capture.form == TForm::Literal &&
-        UnquotedString(capture.raw) != capture.text)
-        return false;
+    if (!isQuoted && capture.form == TForm::Literal) {
+        // without quotes a text would come back as a name, '%5%' as %5%
+        if (!IsNumber(value) || ComparesAsText(field)) return false;
+        if (complete && UnquotedString(capture.raw) != value) return false;
+    }
     const bool isBare = !isQuoted || op.Template().ValueIsBare(n);
     if (isBare && (Trim(value).empty() || (query.CheckValues && !IsBareToken(value)))) return false;
     return TakeDate(op.ExprType().value_or(field.FieldType()), value);
@@ -202,9 +218,10 @@ bool TConditionRecognition::TakeScalar(const TSQLCapture& capture, const TDSOper
 bool TConditionRecognition::TakeList(const TSQLCapture& capture, const TDSOperator& op,
                                      const TDSField& field, bool booleans,
                                      std::string& value) const {
-    std::optional<TStrings> items = ListItems(capture.raw, booleans);
+    bool anyText = false;
+    std::optional<TStrings> items = ListItems(capture.raw, booleans, anyText);
     const bool isQuoted = structure.IsQuotedType(field.FieldType());
-    if (isQuoted && !items) return false;
+    if (isQuoted ? !items : items && (anyText || ComparesAsText(field))) return false;
     if (!items) {
         value = capture.text;
         items = ParseCommaText(value);

@@ -47,6 +47,7 @@ private:
     using TPatterns = std::vector<TPattern>;
     struct TTry;
 
+    bool LosesQuotes(const TTry& attempt) const;
     TDSOperator* OperatorBySQLCond(TTry& attempt) const;
     TDSOperator* FirstFitting(TTry& attempt, std::string_view word, bool negated) const;
     TDSOperator* LikeOperator(TTry& attempt) const;
@@ -56,6 +57,7 @@ private:
                   bool booleans, std::string& value) const;
     bool TakeScalar(const TSQLCapture& capture, const TDSOperator& op, const TDSField& field, int n,
                     std::string& value) const;
+    bool ComparesAsText(const TDSField& field) const;
     bool TakeDate(TFieldType type, std::string& value) const;
 
     const TKQuery& query;

@@ -7,6 +7,7 @@
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_state.h>
 #include <tern7/core/query/read_sql/import_sql.h>
+#include <tern7/core/query/read_sql/report_reasons.h>
 
 namespace tern7 {
 
@@ -14,18 +15,8 @@ namespace {
 
 using TReport = TSQLReportKind;
 
-constexpr std::string_view keepsTable = "a condition keeps this table, which nothing else uses";
-constexpr std::string_view keepsJoin =
-    "a condition keeps this join, which the structure makes by way of other tables";
-constexpr std::string_view notUsed = "no column and no condition uses it";
-constexpr std::string_view addedTable = "the query needs a further table: ";
-constexpr std::string_view otherJoin = "the structure joins it in another way";
-constexpr std::string_view unwrittenJoin =
-    "only the syntax sql1 leaves out the structure's outer join with it";
 /// So often the query is built to find the statement's joins; each time avoids further ones.
 constexpr int mostDetours = 8;
-
-constexpr std::string_view otherOrder = "the query joins the tables in another order";
 
 } // namespace
 
@@ -126,7 +117,7 @@ bool TSQLImporter::AskForJoins() {
             built.Contains(join.link->Table2()) ? join.link->Table1() : join.link->Table2();
         const size_t place = joins->Names().PlaceOf(*table).value_or(0);
         Report(TReport::rkKeptAsText, "join", statement.tables[place].all,
-               isUnused ? keepsTable : keepsJoin);
+               isUnused ? reasons::KeepsTable : reasons::KeepsJoin);
         for (const TColumnPair* pair : join.pairs)
             heldJoins.push_back(joins->PairText(*pair));
         held.insert(join.link);
@@ -152,7 +143,7 @@ void TSQLImporter::CheckJoins() {
         const std::optional<size_t> place = joins->Names().PlaceOf(*entry.Table);
         if (!place) {
             Report(TReport::rkDropped, "join", from,
-                   std::string(addedTable) + entry.Table->TableAlias());
+                   std::string(reasons::AddedTable) + ": " + entry.Table->TableAlias());
             continue;
         }
         const TTokenRange all = statement.tables[*place].all;
@@ -162,18 +153,18 @@ void TSQLImporter::CheckJoins() {
         if (isSaid || (isUnwritten && !joins->IsCompared(*entry.Table)))
             Report(TReport::rkRecognised, "table", all);
         else if (isUnwritten)
-            Report(TReport::rkKeptAsText, "table", all, unwrittenJoin);
+            Report(TReport::rkKeptAsText, "table", all, reasons::UnwrittenJoin);
         else
-            Report(TReport::rkDropped, "table", all, otherJoin);
+            Report(TReport::rkDropped, "table", all, reasons::OtherJoin);
     }
     for (size_t i = 0; i < statement.tables.size(); ++i)
         if (const TDSTable* table = joins->Names().TableOf(i); table && !built.Contains(table))
-            Report(TReport::rkDropped, "table", statement.tables[i].all, notUsed);
+            Report(TReport::rkDropped, "table", statement.tables[i].all, reasons::NotUsed);
     const std::unordered_set<const TDSLink*> made = BuiltLinks();
     for (const TImportedJoin& join : joins->Joins())
         if (join.isTaken && !made.contains(join.link) && !held.contains(join.link) &&
             built.Contains(join.link->Table1()) && built.Contains(join.link->Table2()))
-            Report(TReport::rkDropped, "join", from, otherJoin);
+            Report(TReport::rkDropped, "join", from, reasons::OtherJoin);
     const auto hasJoin = [this](std::initializer_list<TImportJoin> kinds) {
         return std::any_of(statement.tables.begin(), statement.tables.end(), [&](const auto& each) {
             return std::find(kinds.begin(), kinds.end(), each.join) != kinds.end();
@@ -184,7 +175,7 @@ void TSQLImporter::CheckJoins() {
     const bool nestedCounts =
         statement.nestedJoins && (orderCounts || hasJoin({TImportJoin::Left}));
     if (((orderCounts || statement.allFields) && !IsBuiltInOrder()) || nestedCounts)
-        Report(TReport::rkDropped, "join", from, otherOrder);
+        Report(TReport::rkDropped, "join", from, reasons::OtherOrder);
 }
 
 } // namespace tern7

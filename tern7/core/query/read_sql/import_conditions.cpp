@@ -101,9 +101,8 @@ bool TImportParser::EndsOperand(size_t start) {
     // a name behind a point, and a function, are none of these words
     Scanner().GotoBookmark(At() - 1);
     const bool isColumn = Is(wPoint);
-    const bool isBehindDistinct = Is(wDistinct); // "is distinct from"
     Step();
-    if (isColumn || (isBehindDistinct && Is(wFrom))) return Scanner().EOS();
+    if (isColumn) return Scanner().EOS();
     if (AtClauseEnd()) return true;
     if (!inOn || !AtJoin()) return false;
     Step();

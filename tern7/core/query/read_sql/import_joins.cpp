@@ -2,21 +2,14 @@
 
 #include <algorithm>
 #include <map>
+#include <tuple>
+
+#include <tern7/core/query/read_sql/report_reasons.h>
+#include <tern7/core/query/read_sql/sql_pieces.h>
 
 namespace tern7 {
 
 namespace {
-
-constexpr std::string_view otherKind = "the structure joins these tables in another way";
-constexpr std::string_view noLink = "no link of the structure";
-
-std::string_view Mirrored(std::string_view op) {
-    if (op == "<") return ">";
-    if (op == ">") return "<";
-    if (op == "<=") return ">=";
-    if (op == ">=") return "<=";
-    return op;
-}
 
 bool SaysPair(const TColumnPair& pair, const TDSLink& link, size_t i) {
     const auto textAt = [i](const TStrings& texts) {
@@ -29,7 +22,7 @@ bool SaysPair(const TColumnPair& pair, const TDSLink& link, size_t i) {
                SameText(second.name, textAt(link.Fields2())) && written == (op.empty() ? "=" : op);
     };
     return pair.leftTable == link.Table1() ? fits(pair.left, pair.right, pair.op)
-                                           : fits(pair.right, pair.left, Mirrored(pair.op));
+                                           : fits(pair.right, pair.left, MirroredOperator(pair.op));
 }
 
 } // namespace
@@ -112,17 +105,57 @@ void TImportJoins::FindLink(const TDSTable& first, const TDSTable& second,
                             const std::vector<const TColumnPair*>& candidates) {
     const TDSLink* const link = first.LinkByTable(&second);
     if (!link || link->Fields1().empty()) return;
-    TImportedJoin join{link, false, false, false, false, {}};
-    for (size_t i = 0; i < link->Fields1().size(); ++i) {
+    // pairs that keep rows without partner belong together when they stand in one place and keep
+    // the same rows
+    const auto placeOf = [](const TColumnPair& pair) {
+        const TDSTable* const kept = pair.left.mayMiss    ? pair.rightTable
+                                     : pair.right.mayMiss ? pair.leftTable
+                                                          : nullptr;
+        return std::tuple(!pair.isOn, pair.isOn ? pair.table : 0, kept);
+    };
+    std::map<decltype(placeOf(*candidates.front())), std::vector<const TColumnPair*>> places;
+    std::vector<const TColumnPair*> inner;
+    for (const TColumnPair* pair : candidates) {
+        if (!CanJoin(*pair)) continue;
+        places[placeOf(*pair)].push_back(pair);
+        if (IsInnerPair(*pair)) inner.push_back(pair);
+    }
+    std::optional<TImportedJoin> join;
+    for (const auto& [place, pairsThere] : places)
+        if (!join) join = SaidBy(*link, pairsThere);
+    if (!join) join = SaidBy(*link, inner);
+    if (join) joins.push_back(std::move(*join));
+}
+
+/// True when the pair can be a part of a join. A condition of an outer join says which rows of its
+/// own table fit; one on two other tables is none that a link says.
+bool TImportJoins::CanJoin(const TColumnPair& pair) const {
+    const TDSTable* const own = names.TableOf(pair.table);
+    if (!pair.isOn) return !anyRightOrFull; // WHERE sees the rows that such a join brings
+    return own == pair.leftTable || own == pair.rightTable || IsInnerPair(pair);
+}
+
+/// True for a comparison that says the same in every place.
+bool TImportJoins::IsInnerPair(const TColumnPair& pair) const {
+    const TImportJoin kind = pair.isOn ? statement.tables[pair.table].join : TImportJoin::Inner;
+    return !pair.left.mayMiss && !pair.right.mayMiss && !anyRightOrFull &&
+           (kind == TImportJoin::Inner || kind == TImportJoin::Comma);
+}
+
+/// The link by these pairs; none when one of its own lacks.
+std::optional<TImportedJoin>
+TImportJoins::SaidBy(const TDSLink& link, const std::vector<const TColumnPair*>& candidates) const {
+    TImportedJoin join{&link, false, false, false, false, {}};
+    for (size_t i = 0; i < link.Fields1().size(); ++i) {
         const auto said =
             std::find_if(candidates.begin(), candidates.end(),
-                         [&](const TColumnPair* pair) { return SaysPair(*pair, *link, i); });
-        if (said == candidates.end()) return;
+                         [&](const TColumnPair* pair) { return SaysPair(*pair, link, i); });
+        if (said == candidates.end()) return std::nullopt;
         join.pairs.push_back(*said);
         join.isOn = join.isOn || (*said)->isOn;
     }
     TakeKind(join);
-    joins.push_back(std::move(join));
+    return join;
 }
 
 void TImportJoins::TakeKind(TImportedJoin& join) const {
@@ -135,7 +168,7 @@ void TImportJoins::TakeKind(TImportedJoin& join) const {
         if (!pair->isOn) continue;
         const TImportJoin kind = statement.tables[pair->table].join;
         const TDSTable* const own = names.TableOf(pair->table);
-        if (own != join.link->Table1() && own != join.link->Table2()) continue;
+        if (own != join.link->Table1() && own != join.link->Table2()) continue; // inner
         if (kind == TImportJoin::Right || kind == TImportJoin::Full) keep(own);
         if (kind == TImportJoin::Left || kind == TImportJoin::Full)
             keep(own == pair->leftTable ? pair->rightTable : pair->leftTable);
@@ -188,7 +221,8 @@ void TImportJoins::DecideJoin(TImportedJoin& join, TSQLSyntax syntax, TSQLReport
     for (const TColumnPair* pair : join.pairs) {
         const TTokenRange all = pair->node ? pair->node->all : statement.tables[pair->table].all;
         report.Add(isSame ? TSQLReportKind::rkRecognised : TSQLReportKind::rkDropped, "join",
-                   parser.Written(all), OffsetOf(all), isSame ? std::string_view() : otherKind);
+                   parser.Written(all), OffsetOf(all),
+                   isSame ? std::string_view() : reasons::OtherKind);
         if (pair->node) pair->node->isJoin = true;
     }
 }
@@ -205,16 +239,21 @@ void TImportJoins::DecideRest(size_t table, std::vector<TImportNode*>& rows, TSQ
             continue;
         }
         report.Add(TSQLReportKind::rkDropped, "join", parser.Written(node->all),
-                   OffsetOf(node->all), noLink);
+                   OffsetOf(node->all), reasons::NoLink);
     }
     const auto isUsed = [&] {
         return std::any_of(joins.begin(), joins.end(), [table](const TImportedJoin& join) {
             return join.pairs.front()->table == table && join.pairs.front()->isOn;
         });
     };
-    if (written.natural || (!written.columns.empty() && !isUsed()))
+    const auto lose = [&](std::string_view reason) {
         report.Add(TSQLReportKind::rkDropped, "join", parser.Written(written.all),
-                   OffsetOf(written.all), noLink);
+                   OffsetOf(written.all), reason);
+    };
+    if (written.natural || (!written.columns.empty() && !isUsed()))
+        lose(reasons::NoLink);
+    else if (!written.columns.empty() && statement.allFields)
+        lose(reasons::MergedColumns);
 }
 
 std::string TImportJoins::PairText(const TColumnPair& pair) {

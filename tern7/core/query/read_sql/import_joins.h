@@ -1,11 +1,12 @@
 #pragma once
 
-#include <initializer_list>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <tern7/core/query/read_sql/import_names.h>
 #include <tern7/core/query/read_sql/sql_report.h>
+#include <tern7/core/query/read_sql/syntax_set.h>
 
 namespace tern7 {
 
@@ -17,33 +18,6 @@ struct TImportedJoin {
     bool isOn = false;
     bool isTaken = false; ///< the link says it: its comparisons are no rows
     std::vector<const TColumnPair*> pairs;
-};
-
-/// A set of syntaxes.
-class TSyntaxes {
-public:
-    constexpr TSyntaxes(std::initializer_list<TSQLSyntax> syntaxes) {
-        for (TSQLSyntax syntax : syntaxes)
-            bits |= 1u << static_cast<unsigned>(syntax);
-    }
-    static constexpr TSyntaxes All() {
-        return {TSQLSyntax::ssSQL1, TSQLSyntax::ssSQL2, TSQLSyntax::ssOracle};
-    }
-    bool Contains(TSQLSyntax syntax) const { return (bits >> static_cast<unsigned>(syntax)) & 1u; }
-    bool IsEmpty() const { return bits == 0; }
-    TSyntaxes operator&(TSyntaxes other) const {
-        other.bits &= bits;
-        return other;
-    }
-    /// The wanted one if it is here, else the first.
-    TSQLSyntax Choose(TSQLSyntax wanted) const {
-        if (Contains(wanted)) return wanted;
-        if (Contains(TSQLSyntax::ssSQL1)) return TSQLSyntax::ssSQL1;
-        return Contains(TSQLSyntax::ssSQL2) ? TSQLSyntax::ssSQL2 : TSQLSyntax::ssOracle;
-    }
-
-private:
-    unsigned bits = 0;
 };
 
 /// The joins of a statement: comparisons of columns that are links of the structure, and what else
@@ -73,12 +47,15 @@ public:
     std::optional<bool> BracketConditions() const;
 
 private:
-    void CollectOn(size_t table);
     void CollectUsing(size_t table);
     void CollectAnd(TImportNode& node, size_t table, bool isOn);
     void AddPair(TImportNode& node, size_t table, bool isOn);
     void FindLink(const TDSTable& first, const TDSTable& second,
                   const std::vector<const TColumnPair*>& candidates);
+    std::optional<TImportedJoin> SaidBy(const TDSLink& link,
+                                        const std::vector<const TColumnPair*>& candidates) const;
+    bool CanJoin(const TColumnPair& pair) const;
+    bool IsInnerPair(const TColumnPair& pair) const;
     void TakeKind(TImportedJoin& join) const;
     bool SameKind(const TImportedJoin& join, TSQLSyntax syntax) const;
     bool CanBeRow(const TImportedJoin& join) const;

@@ -167,15 +167,14 @@ TImportNames::TChain TImportNames::ReadChain() {
     return chain;
 }
 
-std::optional<TNamedColumn> TImportNames::ColumnAt(TTokenRange range) const {
-    auto& self = const_cast<TImportNames&>(*this);
+std::optional<TNamedColumn> TImportNames::ColumnAt(TTokenRange range) {
     tokens.GotoBookmark(range.from);
     while (range.from + 2 < range.to && Is("(") && parser.CloseOf(range.from) == range.to - 1) {
         tokens.GotoBookmark(++range.from);
         --range.to;
     }
     if (range.IsEmpty() || !IsName()) return std::nullopt;
-    const TChain chain = self.ReadChain();
+    const TChain chain = ReadChain();
     if (chain.names.back().empty()) return std::nullopt;
     TNamedColumn column;
     column.name = chain.names.back();
@@ -208,6 +207,7 @@ std::string TImportNames::ChainText(const TChain& chain, const TAliases& inner, 
         unknown = unknown || !qualifier.empty();
         return std::string(asWritten);
     }
+    hidden = hidden || (inSubSelect && inner.contains(LowerCase(own->TableAlias())));
     if (const TDSField* field = structure.FieldByName(false, own->TableAlias() + "." + name))
         return field->GetSQLExpr();
     plainColumn = true;
@@ -224,11 +224,23 @@ std::string_view TImportNames::GapBefore(size_t token) const {
     return HasComment(gap) ? " " : gap;
 }
 
-/// True behind a name that is no column: of a function, or of the type of a literal.
-bool TImportNames::IsBehindOtherName(const TChain& chain) const {
+/// True for a name that is no column, to be asked behind it: of a function, of the type of a
+/// literal, of a parameter, of a collation, of a part of a date.
+bool TImportNames::IsOtherName(const TChain& chain) const {
     if (chain.names.size() == 1 && tokens.GetTokType() == TKTokenType::Literal) return true;
-    const size_t here = tokens.GetBookmark();
-    return Is("(") && !tokens.ExtractPiece(here, here + 2, false).ends_with('+');
+    const size_t here = tokens.GetBookmark(), from = chain.range.from;
+    if (Is("(") && !tokens.ExtractPiece(here, here + 2, false).ends_with('+')) return true;
+    if (from == 0) return false;
+    tokens.GotoBookmark(from - 1);
+    const std::string_view before = tokens.GetRealStr();
+    const bool isBehindValue = tokens.GetTokType() == TKTokenType::Literal;
+    bool isOther = isBehindValue || before == ":" || before == "@" || SameText(before, "collate");
+    if (before == "(" && from > 1) {
+        tokens.GotoBookmark(from - 2);
+        isOther = SameText(tokens.GetRealStr(), "extract");
+    }
+    tokens.GotoBookmark(here);
+    return isOther;
 }
 
 std::string TImportNames::Rewrite(TTokenRange range) {
@@ -238,15 +250,18 @@ std::string TImportNames::Rewrite(TTokenRange range) {
     };
     static const TAliases none;
     std::vector<TSubSelect> subSelects;
+    std::vector<size_t> brackets; // where they close
+    size_t typeEnd = 0;           // the names up to it are those of a type: cast(a as b)
     std::string text;
     tokens.GotoBookmark(range.from);
     while (tokens.GetBookmark() < range.to) {
         const size_t at = tokens.GetBookmark();
         if (at > range.from) text += GapBefore(at);
         if (!subSelects.empty() && subSelects.back().close == at) subSelects.pop_back();
+        if (!brackets.empty() && brackets.back() == at) brackets.pop_back();
         if (IsName()) {
             const TChain chain = ReadChain();
-            const bool isColumn = !IsBehindOtherName(chain);
+            const bool isColumn = at >= typeEnd && !IsOtherName(chain);
             const TAliases& inner = subSelects.empty() ? none : subSelects.back().aliases;
             text += isColumn ? ChainText(chain, inner, !subSelects.empty())
                              : std::string(parser.Written(chain.range));
@@ -254,6 +269,11 @@ std::string TImportNames::Rewrite(TTokenRange range) {
         }
         text += tokens.GetRealStr();
         const bool isOpen = Is("(");
+        const bool isInSubSelect =
+            !subSelects.empty() && !brackets.empty() && subSelects.back().close == brackets.back();
+        if (isOpen) brackets.push_back(parser.CloseOf(at));
+        if (!brackets.empty() && !isInSubSelect && SameText(tokens.GetRealStr(), "as"))
+            typeEnd = brackets.back();
         tokens.NextToken();
         if (!isOpen || !SameText(tokens.GetRealStr(), "select")) continue;
         subSelects.push_back(
@@ -279,7 +299,10 @@ void TImportNames::AddAliases(size_t from, size_t to, TAliases& aliases) {
             const TChain chain = ReadChain();
             expectsTable = false;
             if (SameText(tokens.GetRealStr(), "as")) tokens.NextToken();
-            aliases.insert(LowerCase(IsName() ? Name() : chain.names.back()));
+            const std::string_view behind = tokens.GetRealStr();
+            const bool hasAlias = IsName() && !SameText(behind, "using") &&
+                                  !SameText(behind, "natural") && !SameText(behind, "cross");
+            aliases.insert(LowerCase(hasAlias ? Name() : chain.names.back()));
             if (chain.names.size() > 1) // a schema is no table around
                 aliases.insert(LowerCase(JoinedName(chain.names, chain.names.size() - 1)));
             tokens.GotoBookmark(tokens.GetBookmark() - 1);

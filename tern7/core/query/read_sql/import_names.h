@@ -50,7 +50,7 @@ public:
     std::optional<size_t> FindTable(const TNamedColumn& column);
 
     /// The tokens when they name one column and nothing else, brackets around it aside.
-    std::optional<TNamedColumn> ColumnAt(TTokenRange range) const;
+    std::optional<TNamedColumn> ColumnAt(TTokenRange range);
     /// A column that the structure may have as a field or not, as it stands in a statement.
     std::string ColumnText(const TDSTable& table, const std::string& column) const;
     /// The text with the columns as the structure writes them; without comments.
@@ -60,6 +60,9 @@ public:
     bool TakeUnknown() { return std::exchange(unknown, false); }
     /// True when a text that was rewritten since the last call held a column that is no field.
     bool TakePlainColumn() { return std::exchange(plainColumn, false); }
+    /// True when a text that was rewritten since the last call held a column of a table whose name
+    /// in the structure is that of another table in the sub-select around it.
+    bool TakeHidden() { return std::exchange(hidden, false); }
 
 private:
     using TAliases = std::unordered_set<std::string>;
@@ -75,7 +78,7 @@ private:
     TChain ReadChain();
     std::string ChainText(const TChain& chain, const TAliases& inner, bool inSubSelect);
     std::string_view GapBefore(size_t token) const;
-    bool IsBehindOtherName(const TChain& chain) const;
+    bool IsOtherName(const TChain& chain) const;
     void AddAliases(size_t from, size_t to, TAliases& aliases);
     bool IsName() const;
     bool Is(std::string_view symbol) const { return tokens.GetRealStr() == symbol; }
@@ -92,6 +95,7 @@ private:
     std::unordered_map<std::string, std::optional<size_t>> unqualified; // those asked for
     bool unknown = false;
     bool plainColumn = false;
+    bool hidden = false;
 };
 
 } // namespace tern7

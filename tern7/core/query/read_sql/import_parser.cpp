@@ -33,8 +33,17 @@ bool TImportParser::IsText(std::string_view word) const {
     return tokens.GetTokType() == TKTokenType::Word && SameText(tokens.GetRealStr(), word);
 }
 
+/// a is distinct from b
+bool TImportParser::IsBehindDistinct() {
+    Scanner().GotoBookmark(At() - 1);
+    const bool isDistinct = Is(wDistinct);
+    Step();
+    return isDistinct;
+}
+
 bool TImportParser::AtClauseEnd() {
     if (Scanner().EOS()) return true;
+    if (Is(wFrom) && IsBehindDistinct()) return false;
     if (Scanner().GetTokType() == TKTokenType::Keyword) return !Is(wJoin);
     return Is(wHaving) || Is(wUnion) || Is(wExcept) || Is(wIntersect) || Is(wLimit) ||
            Is(wOffset) || Is(wFetch) || IsText("for") || IsText("window");
@@ -120,7 +129,8 @@ void TImportParser::ReadColumn() {
     TImportColumn column;
     const size_t start = At();
     size_t last = start;
-    for (; !Scanner().EOS() && !Is(wComma) && !Is(wAs) && !Is(wFrom); Step()) {
+    for (; !Scanner().EOS() && !Is(wComma) && !Is(wAs) && !(Is(wFrom) && !IsBehindDistinct());
+         Step()) {
         last = At();
         if (Is(wOpen)) Scanner().GotoBookmark(last = CloseOf(last));
         if (Scanner().EOS()) break;
@@ -159,12 +169,16 @@ bool TImportParser::IsImpliedAlias(size_t start, size_t last) {
         type == TKTokenType::Name || (type == TKTokenType::Word && Scanner().GetTokCode() == 0 &&
                                       !IsText("end") && !IsText("null"));
     Scanner().GotoBookmark(last - 1);
+    // what stands right behind a digit belongs to the number: 0x1F
+    const bool isNumber = Scanner().GetTokType() == TKTokenType::Integer &&
+                          Written({last - 1, last + 1}).size() ==
+                              Written({last - 1, last}).size() + Written({last, last + 1}).size();
     const bool isComplete =
         Is(wClose) || (Scanner().GetTokType() != TKTokenType::Symbol &&
                        Scanner().GetTokCode() == 0 && !IsText("case") && !IsText("when") &&
                        !IsText("then") && !IsText("else") && !IsText("collate"));
     Scanner().GotoBookmark(here);
-    return isName && isComplete;
+    return isName && isComplete && !isNumber;
 }
 
 // --- where, group by, order by

@@ -59,6 +59,7 @@ private:
     // all
     bool IsText(std::string_view word) const;
     bool AtClauseEnd();
+    bool IsBehindDistinct();
     size_t At() { return Scanner().GetBookmark(); }
     void SkipExpression();
     void SkipHaving();

@@ -6,6 +6,8 @@
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_state.h>
 #include <tern7/core/query/read_sql/import_sql.h>
+#include <tern7/core/query/read_sql/report_reasons.h>
+#include <tern7/core/query/read_sql/sql_pieces.h>
 
 namespace tern7 {
 
@@ -13,9 +15,6 @@ namespace {
 
 using TReport = TSQLReportKind;
 using TNodeKind = TImportNode::TKind;
-
-constexpr std::string_view notRecognised = "no field or operator of the structure says it";
-constexpr std::string_view nameInUse = "another parameter has this name";
 
 TFilterLinkType LinkTypeOfGroup(const TImportNode& group) {
     if (group.kind == TNodeKind::Or)
@@ -37,14 +36,6 @@ TImportNode* WithoutJoins(TImportNode& node) {
     const bool stands =
         !isLess || node.nodes.size() > 1 || (node.inBrackets && !node.nodes.front()->IsGroup());
     return stands ? &node : node.nodes.front();
-}
-
-std::string_view MirroredOperator(std::string_view op) {
-    if (op == "<") return ">";
-    if (op == ">") return "<";
-    if (op == "<=") return ">=";
-    if (op == ">=") return "<=";
-    return op == "=" || op == "<>" || op == "!=" ? op : std::string_view();
 }
 
 } // namespace
@@ -173,7 +164,8 @@ TSQLCondition& TSQLImporter::MakeCondition(const TImportNode& node, bool negated
 bool TSQLImporter::AddRecognised(TFilterBracket& bracket, const TImportNode& node, bool negated) {
     if (node.op.empty()) return false;
     const TRecognisedCondition found = recognition.Recognise(MakeCondition(node, negated));
-    if (!found.IsComplete() || joins->Names().TakeUnknown()) return false;
+    const bool isSaid = !joins->Names().TakeHidden();
+    if (!found.IsComplete() || joins->Names().TakeUnknown() || !isSaid) return false;
     TFilterCond& row = *bracket.AddCond();
     const bool isRead =
         (found.subSelect.empty() || ImportSubQuery(found, node, row)) && FillCondition(row, found);
@@ -192,7 +184,7 @@ void TSQLImporter::NameParam(const TFilterCond& row, int n, const std::string& n
     if (!row.Param(n)) return;
     if (paramNames.contains(LowerCase(name)) ||
         !query.QResult().RenameParameter(*row.Param(n), name))
-        Report(TReport::rkDropped, "parameter", node.body, nameInUse);
+        Report(TReport::rkDropped, "parameter", node.body, reasons::NameInUse);
     paramNames.insert(LowerCase(row.Param(n)->Name()));
 }
 
@@ -251,7 +243,9 @@ void TSQLImporter::AddText(TFilterBracket& bracket, std::string text) {
 void TSQLImporter::AddTextOf(TFilterBracket& bracket, const TImportNode& node) {
     AddText(bracket, Rewrite(node.body));
     hasUnknownNames = joins->Names().TakeUnknown() || hasUnknownNames;
-    Report(TReport::rkKeptAsText, "condition", node.body, notRecognised);
+    const bool isHidden = joins->Names().TakeHidden();
+    Report(isHidden ? TReport::rkDropped : TReport::rkKeptAsText, "condition", node.body,
+           isHidden ? reasons::HiddenName : reasons::NotRecognised);
 }
 
 } // namespace tern7

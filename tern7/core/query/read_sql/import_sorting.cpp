@@ -5,16 +5,15 @@
 
 #include <tern7/core/corekit/numbers.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/read_sql/import_sorting.h>
 #include <tern7/core/query/read_sql/import_sql.h>
+#include <tern7/core/query/read_sql/report_reasons.h>
 
 namespace tern7 {
 
 namespace {
 
 using TReport = TSQLReportKind;
-
-constexpr std::string_view noColumn = "it is no column";
-constexpr std::string_view otherGroups = "the columns ask for other groups";
 
 int NumberOf(std::string_view text) {
     return text.empty() || !std::all_of(text.begin(), text.end(), IsDigit) ? 0 : XStrToInt(text);
@@ -24,8 +23,14 @@ int NumberOf(std::string_view text) {
 
 std::string ComparableText(std::string_view text) {
     std::string comparable;
-    for (char c : text)
-        if (!IsSpace(c)) comparable += LowerChar(c);
+    bool inLiteral = false;
+    for (const char c : text) {
+        if (c == '\'') inLiteral = !inLiteral;
+        if (inLiteral)
+            comparable += c;
+        else if (!IsSpace(c))
+            comparable += LowerChar(c);
+    }
     return comparable;
 }
 
@@ -117,7 +122,7 @@ void TSQLImporter::AddSorting() {
     for (size_t i = 0; i < items.size(); ++i) {
         const bool isLost = std::binary_search(lost.begin(), lost.end(), i);
         Report(isLost ? TReport::rkDropped : TReport::rkRecognised, "sorting",
-               statement.sorting[i].expression, isLost ? noColumn : std::string_view());
+               statement.sorting[i].expression, isLost ? reasons::NoColumn : std::string_view());
     }
     TSQLOptions options = query.SQLOptions();
     sorter.ByNames() ? options.Include(TSQLOption::soSortByNames)
@@ -137,7 +142,7 @@ void TSQLImporter::SortAllFields() {
     for (const TImportSorting& sorting : statement.sorting) {
         TDSField* const field = structure.FieldBySQLExpr(Rewrite(sorting.expression));
         Report(field ? TReport::rkRecognised : TReport::rkDropped, "sorting", sorting.expression,
-               field ? std::string_view() : noColumn);
+               field ? std::string_view() : reasons::NoColumn);
         const int rank = static_cast<int>(listed.size()) + 1;
         if (field) listed.push_back({field, LastTableOf(*field), rank, sorting.descending});
     }
@@ -212,7 +217,7 @@ void TSQLImporter::CheckGrouping() {
             ? statement.tables.front().all
             : TTokenRange{statement.grouping.front().from, statement.grouping.back().to};
     Report(given == wanted ? TReport::rkRecognised : TReport::rkDropped, "grouping", all,
-           given == wanted ? std::string_view() : otherGroups);
+           given == wanted ? std::string_view() : reasons::OtherGroups);
 }
 
 } // namespace tern7

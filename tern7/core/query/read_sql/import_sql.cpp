@@ -1,22 +1,19 @@
+#include <tern7/core/query/read_sql/import_sorting.h>
 #include <tern7/core/query/read_sql/import_sql.h>
 
 #include <algorithm>
 
+#include <tern7/core/global/limits.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_state.h>
+#include <tern7/core/query/read_sql/report_reasons.h>
 
 namespace tern7 {
 
 namespace {
 
 using TReport = TSQLReportKind;
-
-constexpr std::string_view noTable = "the structure has no such table";
-constexpr std::string_view unknownNames = "it names what the structure does not have";
-constexpr std::string_view aliasChanged = "another column has this alias";
-constexpr std::string_view notSaid = "a query can not say it";
-constexpr std::string_view notClosed = "the string is not closed";
 
 bool HasNonAsciiChar(std::string_view text) {
     return std::any_of(text.begin(), text.end(),
@@ -39,7 +36,7 @@ struct TLeafCount {
 /// The first condition that needs more brackets around it than rows can stand in; none mostly.
 const TImportNode* FirstTooDeep(const TImportNode& node, int level = 0) {
     if (node.NeedsBracket()) ++level;
-    if (!node.IsGroup()) return level < MaxRowLevel ? nullptr : &node;
+    if (!node.IsGroup()) return level < MaxBracketLevel ? nullptr : &node;
     for (const TImportNode* each : node.nodes)
         if (const TImportNode* deep = FirstTooDeep(*each, level)) return deep;
     return nullptr;
@@ -110,10 +107,11 @@ TSQLReport TSQLImporter::Fill() {
     if (failure.empty()) AskForWays();
     if (failure.empty() && AskForJoins()) failure = Build();
     for (const TImportLoss& loss : statement.losses)
-        Report(TReport::rkDropped, loss.what, loss.all, notSaid);
+        Report(TReport::rkDropped, loss.what, loss.all, reasons::NotSaid);
     const TSQLRest& rest = parser.Result().Rest;
     if (!rest.text.empty())
-        report.Add(TReport::rkDropped, "rest", rest.text, source->OffsetOf(rest.text), notSaid);
+        report.Add(TReport::rkDropped, "rest", rest.text, source->OffsetOf(rest.text),
+                   reasons::NotSaid);
     ReportOpenString();
     CheckGrouping();
     if (failure.empty())
@@ -135,7 +133,7 @@ void TSQLImporter::Report(TSQLReportKind kind, std::string_view what, TTokenRang
 void TSQLImporter::ReportOpenString() {
     const std::string_view text = parser.Tokens().OpenString();
     if (!text.empty())
-        report.Add(TReport::rkKeptAsText, "text", text, source->OffsetOf(text), notClosed);
+        report.Add(TReport::rkKeptAsText, "text", text, source->OffsetOf(text), reasons::NotClosed);
 }
 
 std::string TSQLImporter::Rewrite(TTokenRange range) {
@@ -180,13 +178,13 @@ void TSQLImporter::AddTables() {
         const TDSTable* const known = joins->Names().TableOf(i);
         if (!known) {
             Report(TReport::rkDropped, table.name.empty() ? "derived table" : "table", table.all,
-                   table.name.empty() ? notSaid : noTable);
+                   table.name.empty() ? reasons::NotSaid : reasons::NoTable);
             continue;
         }
         if (query.MainTableName().empty()) query.SetMainTableName(known->TableAlias());
         const bool areHintsKnown = parser.Written(table.hints) == known->Hints();
         if (!areHintsKnown && !table.hints.IsEmpty())
-            Report(TReport::rkDropped, "hint", table.hints, notSaid);
+            Report(TReport::rkDropped, "hint", table.hints, reasons::NotSaid);
     }
 }
 
@@ -205,11 +203,13 @@ void TSQLImporter::AddColumn(const TImportColumn& column) {
     TResultField& field = *fields.AddBySQLExpr(column.alias, TSortingType::stNoSort, text);
     // a literal that looks like a placeholder would be replaced
     if (ComparableText(field.GetSQLExpr()) != ComparableText(text)) field.SetFields({}, text);
-    field.SetAlias(column.alias);
+    if (column.alias.empty() || fields.CheckUniqAlias(column.alias)) field.SetAlias(column.alias);
     Report(isText ? TReport::rkKeptAsText : TReport::rkRecognised, "column", column.expression,
-           isText ? unknownNames : std::string_view());
+           isText ? reasons::UnknownNames : std::string_view());
+    if (joins->Names().TakeHidden())
+        Report(TReport::rkDropped, "column", column.expression, reasons::HiddenName);
     if (field.Alias() != column.alias)
-        Report(TReport::rkDropped, "alias", column.expression, aliasChanged);
+        Report(TReport::rkDropped, "alias", column.expression, reasons::AliasChanged);
 }
 
 } // namespace tern7

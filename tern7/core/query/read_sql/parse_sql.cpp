@@ -1,17 +1,15 @@
 #include <tern7/core/query/read_sql/parse_sql.h>
 
+#include <tern7/core/global/limits.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/query.h>
 #include <tern7/core/query/query_state.h>
+#include <tern7/core/query/read_sql/report_reasons.h>
 #include <tern7/core/query/read_sql/sql_pieces.h>
 
 namespace tern7 {
 
 namespace {
-
-constexpr std::string_view restIgnored = "the parser does not read it";
-constexpr std::string_view noSuchField = "no field has this expression";
-constexpr std::string_view noSuchOperator = "no operator has this form";
 
 /// Values are put in one after the other: a later one is looked for in those before it, and
 /// parameters are looked for in all.
@@ -28,7 +26,7 @@ bool ValuesHoldPlaceholder(const TRecognisedCondition& found) {
 const TSQLCondition* FirstTooDeep(const TSQLBracket& bracket, int level = 0) {
     for (const TSQLConditionNode* node : bracket.Nodes()) {
         if (const TSQLCondition* condition = node->AsCondition()) {
-            if (level > MaxRowLevel) return condition;
+            if (level > MaxBracketLevel) return condition;
         } else if (const TSQLCondition* deep = FirstTooDeep(*node->AsBracket(), level + 1)) {
             return deep;
         }
@@ -86,7 +84,7 @@ TSQLReport TSQLReader::Read(std::string_view sql) {
     const TSQLRest& rest = parser.Result().Rest;
     if (!rest.text.empty())
         report.Add(TSQLReportKind::rkDropped, "rest", rest.text, source->OffsetOf(rest.text),
-                   restIgnored);
+                   reasons::RestIgnored);
     report.Place(*source);
     return std::move(report);
 }
@@ -160,7 +158,7 @@ void TSQLReader::KeepText(TFilterCond& row, const TRecognisedCondition& found,
     const std::string_view text = WithoutOuterBrackets(sqlCondition.Source());
     row.SetSQLText(std::string(text));
     report.Add(TSQLReportKind::rkKeptAsText, "condition", text, source->OffsetOf(text),
-               found.field ? noSuchOperator : noSuchField);
+               found.field ? reasons::NoSuchOperator : reasons::NoSuchField);
 }
 
 bool FillCondition(TFilterCond& row, const TRecognisedCondition& found) {

@@ -32,9 +32,6 @@ private:
     size_t left;
 };
 
-/// Rows can not be nested deeper.
-inline constexpr int MaxRowLevel = 1000;
-
 /// Reads a statement into the rows and columns of a query that were cleared.
 class TSQLReader {
 public:

@@ -80,6 +80,14 @@ std::string JoinedTokens(std::string_view sql) {
     return joined;
 }
 
+std::string_view MirroredOperator(std::string_view op) {
+    if (op == "<") return ">";
+    if (op == ">") return "<";
+    if (op == "<=") return ">=";
+    if (op == ">=") return "<=";
+    return op == "=" || op == "<>" || op == "!=" ? op : std::string_view();
+}
+
 std::vector<TDSTable*> TablesOfText(const TKCustomDBStructure& structure, std::string_view sql) {
     const TPieceTokens tokens(sql);
     std::string outer; // the text outside sub-selects

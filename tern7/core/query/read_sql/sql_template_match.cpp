@@ -154,7 +154,7 @@ bool TSQLTemplateMatch::Match(const TSQLOperand& operand, std::string_view leftT
         const std::string_view raw = operand.Piece(at, end);
         const bool isLiteral = end == at + 1 && operand.Type(at) == TKTokenType::Literal;
         if (piece.kind == TKind::Field) {
-            if (!EqualToSpaces(LowerCase(raw), LowerCase(leftText))) return false;
+            if (!SameSQLText(raw, leftText)) return false;
         } else if (!MatchPlace(piece, raw, isLiteral, bareValues, values)) {
             return false;
         }
