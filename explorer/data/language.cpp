@@ -6,6 +6,7 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include <tern7/ui/support/language_titles.h>
@@ -68,6 +69,12 @@ void InstallLanguage(const QString& code) {
     Replace(program, QStringLiteral("explorer_") + code, QStringLiteral(":/tern7/translations"));
     QLocale::setDefault(LocaleOf(code));
     QApplication::setLayoutDirection(QLocale(code).textDirection());
+}
+
+QString PlainText(QString menuText) {
+    static const QRegularExpression key(QStringLiteral("\\(&.\\)"));
+    static const QRegularExpression points(QStringLiteral(" ?\\.\\.\\.$"));
+    return menuText.remove(key).remove(u'&').remove(points);
 }
 
 } // namespace tern7

@@ -11,4 +11,8 @@ QString SystemLanguage();
 /// and Qt's, dates and numbers in its forms (QLocale's default). Mirrors the windows for a language that is read from the right.
 void InstallLanguage(const QString& code);
 
+/// A text of a menu as it stands elsewhere: without the mark of its key, which some languages have
+/// in brackets behind it, and the points at the end.
+QString PlainText(QString menuText);
+
 } // namespace tern7

@@ -102,8 +102,9 @@ QVariant TResultModel::data(const QModelIndex& index, int role) const {
         return whole ? QVariant() : QVariant(ToolTipText(text.left(mostHint)));
     }
     case Qt::TextAlignmentRole:
-        return static_cast<int>((IsNumber(cell.kind) ? Qt::AlignRight : Qt::AlignLeading) |
-                                Qt::AlignVCenter);
+        return static_cast<int>(
+            (IsNumber(cell.kind) ? Qt::AlignRight | Qt::AlignAbsolute : Qt::AlignLeading) |
+            Qt::AlignVCenter);
     case Qt::ForegroundRole:
         return pale ? QVariant(PaleText()) : QVariant();
     default:

@@ -19,6 +19,7 @@
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/text.h>
 
+#include "../data/language.h"
 #include "message_bar.h"
 #include "result_view.h"
 #include "sql_highlighter.h"
@@ -134,7 +135,7 @@ QWidget* TMainWindow::Part(const char* heading, QWidget* content) {
     label->setBuddy(content);
     Worded([label, content, heading] {
         label->setText(tr(heading));
-        content->setAccessibleName(tr(heading).remove(u'&'));
+        content->setAccessibleName(PlainText(tr(heading)));
     });
     auto* part = new TPart;
     auto* column = new QVBoxLayout(part);

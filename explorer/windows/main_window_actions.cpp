@@ -17,6 +17,7 @@
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/bidi_text.h>
 
+#include "../data/language.h"
 #include "result_view.h"
 
 namespace tern7 {
@@ -97,7 +98,10 @@ void TMainWindow::Worded(const std::function<void()>& say) {
 QAction* TMainWindow::Action(const char* text, const QKeySequence& keys,
                              const std::function<void()>& whenTriggered) {
     auto* action = new QAction(this);
-    Worded([action, text] { action->setText(tr(text)); });
+    Worded([action, text] {
+        action->setText(tr(text));
+        action->setIconText(PlainText(tr(text)));
+    });
     action->setShortcut(keys);
     if (whenTriggered) connect(action, &QAction::triggered, this, whenTriggered);
     return action;

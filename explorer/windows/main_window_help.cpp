@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -9,6 +10,7 @@
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/bidi_text.h>
 
+#include "../data/language.h"
 #include "text_window.h"
 
 namespace tern7 {
@@ -19,15 +21,23 @@ QString KeyText(const QKeySequence& keys) {
     return Isolated(keys.toString(QKeySequence::NativeText)).toHtmlEscaped();
 }
 
+/// Tables of rich text are laid out from the left always.
 QString KeyRow(const QString& keys, const QString& text) {
-    return QStringLiteral(
-               "<tr><td style=\"padding: 1px 20px 1px 0\"><b>%1</b></td><td>%2</td></tr>")
-        .arg(keys, text);
+    const QString row =
+        QGuiApplication::isRightToLeft()
+            ? QStringLiteral(
+                  "<tr><td align=\"right\">%2</td>"
+                  "<td align=\"right\" style=\"padding: 1px 0 1px 20px\"><b>%1</b></td></tr>")
+            : QStringLiteral("<tr><td style=\"padding: 1px 20px 1px 0\"><b>%1</b></td>"
+                             "<td>%2</td></tr>");
+    return row.arg(keys, text);
 }
 
 QString KeyTable(const QString& title, const QString& rows) {
     if (rows.isEmpty()) return {};
-    return QStringLiteral("<h3>%1</h3><table>%2</table>").arg(title.toHtmlEscaped(), rows);
+    const QString side =
+        QGuiApplication::isRightToLeft() ? QStringLiteral(" align=\"right\"") : QString();
+    return QStringLiteral("<h3>%1</h3><table%3>%2</table>").arg(title.toHtmlEscaped(), rows, side);
 }
 
 /// The keys of a menu's actions; those of a sub menu's are named behind its title.
@@ -36,7 +46,7 @@ QString MenuKeys(const QMenu& menu, const QString& title = {}) {
     for (const QAction* action : menu.actions()) {
         if (action->menu())
             rows += MenuKeys(*action->menu(),
-                             action->menu()->title().remove(u'&') + QStringLiteral(" – "));
+                             PlainText(action->menu()->title()) + QStringLiteral(" – "));
         else if (!action->shortcut().isEmpty())
             rows +=
                 KeyRow(KeyText(action->shortcut()), (title + action->iconText()).toHtmlEscaped());
@@ -132,7 +142,7 @@ QString TMainWindow::KeyTables() const {
     QString text;
     for (const QAction* each : menuBar()->actions())
         if (each->menu())
-            text += KeyTable(each->menu()->title().remove(u'&'), MenuKeys(*each->menu()));
+            text += KeyTable(PlainText(each->menu()->title()), MenuKeys(*each->menu()));
     QString rows;
     for (const auto& [keys, name] : TKQueryPanel::Keys())
         rows += KeyRow(KeyText(keys), name.toHtmlEscaped());

@@ -6,7 +6,10 @@
 #include <QPlainTextEdit>
 #include <QTableView>
 
+#include <explorer/data/error_text.h>
 #include <tern7/core/corekit/files.h>
+#include <tern7/core/corekit/strings.h>
+#include <tern7/core/global/messages.h>
 
 namespace tern7 {
 
@@ -236,6 +239,38 @@ TEST_F(TWindowTest, LanguageSwitchesEverything) {
     EXPECT_EQ(window->layoutDirection(), Qt::LeftToRight);
 }
 #endif
+
+TEST_F(TWindowTest, MessagesOfTheLibraryAreTranslated) {
+    const auto bar = window->findChild<TMessageBar*>("queryMessages");
+    const struct {
+        std::string message;
+        const char *english, *german;
+    } cases[] = {
+        {FormatMessage(messages::WrongValue, {"Price %2", "x%1"}),
+         "This can not be a value of “Price %2”: x%1",
+         "Das kann kein Wert von „Price %2“ sein: x%1"},
+        {std::string(messages::OnlySelect), "Only SELECT statements are executed.",
+         "Es werden nur SELECT-Anweisungen ausgeführt."},
+        {"no such function: f", "no such function: f", "no such function: f"},
+    };
+    for (const auto& each : cases) {
+        window->SetLanguage("en");
+        EXPECT_EQ(MessageText(ToQt(each.message)), QString::fromUtf8(each.english));
+        window->SetLanguage("de");
+        EXPECT_EQ(MessageText(ToQt(each.message)), QString::fromUtf8(each.german));
+    }
+    // a message that is shown follows too
+    AddColumn("Price");
+    TKQueryPanel& panel = window->Conditions();
+    TFilterCond& row = *panel.Editor().AddCondition(panel.Root(), 0);
+    panel.Editor().SetField(row, *panel.DbStruct()->FieldByName(true, "Price"));
+    panel.Editor().SetOperator(row, *panel.DbStruct()->OperatorByName("Equal"));
+    panel.Editor().SetValue(row, 1, "1 or 2");
+    window->RunQuery();
+    EXPECT_TRUE(bar->Text().startsWith("Das kann kein Wert")) << FromQt(bar->Text());
+    window->SetLanguage("en");
+    EXPECT_TRUE(bar->Text().startsWith("This can not be")) << FromQt(bar->Text());
+}
 
 TEST_F(TWindowTest, DatesFollowTheLanguage) {
     AddColumn("Price");
