@@ -194,7 +194,9 @@ void TKRowTexts::AddCondition(std::vector<TRowLabel>& labels, const TFilterCond&
     else if (op && op->IsPlaceholder())
         addKept(KeptOperator(condition));
     addKept(sql);
-    for (int n = 1; n <= condition.ValueCount(); ++n) {
+    // beside its SQL text they would mean nothing
+    const int values = sql.empty() ? condition.ValueCount() : 0;
+    for (int n = 1; n <= values; ++n) {
         if (n == 2) labels.push_back(Label(TRowLabelKind::rlValueJoiner, condition.ValueFormat()));
         labels.push_back(ValueLabel(condition, n));
     }

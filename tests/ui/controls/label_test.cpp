@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include <QAccessible>
 #include <QSignalSpy>
 
@@ -224,6 +226,38 @@ TEST(Label, KeepsRightEdgeWhenReadFromRight) {
     const int right = label->geometry().right();
     label->SetValue("a much longer text than before");
     EXPECT_EQ(label->geometry().right(), right);
+}
+
+TEST(Label, BracketsTurnWithTheLineAndTextsDoNot) {
+    /// How much of the ink stands in the left half, in percent.
+    const auto leftInk = [](const QString& text, Qt::LayoutDirection direction) {
+        TDropDownLabel label;
+        QFont large = label.font();
+        large.setPixelSize(80);
+        label.setFont(large);
+        label.SetFixed(true);
+        label.setLayoutDirection(direction);
+        label.SetCaption(text);
+        const QImage image = label.grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+        QRect ink;
+        const auto isInk = [&](int x, int y) { return image.pixel(x, y) != image.pixel(0, 0); };
+        for (int x = 0; x < image.width(); ++x)
+            for (int y = 0; y < image.height(); ++y)
+                if (isInk(x, y)) ink |= QRect(x, y, 1, 1);
+        int left = 0, all = 0;
+        for (int x = ink.left(); x <= ink.right(); ++x)
+            for (int y = ink.top(); y <= ink.bottom(); ++y) {
+                const int dark = std::abs(qGray(image.pixel(x, y)) - qGray(image.pixel(0, 0)));
+                all += dark;
+                if (2 * x < ink.left() + ink.right()) left += dark;
+            }
+        return all > 0 ? 100 * left / all : -1;
+    };
+    EXPECT_GT(leftInk("(", Qt::LeftToRight), 50);
+    EXPECT_LT(leftInk("(", Qt::RightToLeft), 50) << "the line goes the other way";
+    EXPECT_GT(leftInk(")", Qt::RightToLeft), 50);
+    EXPECT_LT(leftInk("1.... W", Qt::LeftToRight), 50);
+    EXPECT_LT(leftInk("1.... W", Qt::RightToLeft), 50) << "a text keeps its order";
 }
 
 TEST(Label, ReadByScreenReaders) {

@@ -40,6 +40,9 @@ TEST_F(TPanelAccessibleTest, RowsAreSentencesWithLevelPositionAndState) {
     Panel()->child(4)->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
     EXPECT_TRUE(bracket->GetRow(1)->GetEnabled());
 
+    panel->setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(Name(1), "\u2068City\u2069 is equal to \u2068Berlin\u2069");
+    panel->setLayoutDirection(Qt::LeftToRight);
     QAccessibleInterface* value =
         QAccessible::queryAccessibleInterface(View(1).Label(TRowLabelKind::rlValue, 1));
     EXPECT_EQ(value->text(QAccessible::Name), "City is equal to");

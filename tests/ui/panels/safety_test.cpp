@@ -117,6 +117,22 @@ TEST_F(TPanelSafetyTest, ErrorsOfHandlersAreShownAndLeaveThePanelUsable) {
     EXPECT_EQ(Shown(1), "City is equal to Rome");
 }
 
+TEST_F(TPanelSafetyTest, WhatIsNotRecognisedIsShownUntilAnotherFieldIsChosen) {
+    panel->ParseSQL("select C.city from Customers C where soundex(C.city) = soundex(C.name)");
+    Settle();
+    const std::string kept = "soundex(C.city) = soundex(C.name)";
+    EXPECT_EQ(Shown(1), "Unrecognized field is equal to " + kept);
+    EXPECT_EQ(Condition(), kept);
+    EXPECT_TRUE(View(1).Label(TRowLabelKind::rlKept)->Fixed());
+    EXPECT_FALSE(View(1).ValueLabel(1)) << "nothing that would change nothing";
+    PickField(1, "City");
+    EXPECT_EQ(Shown(1), "City is equal to soundex(C.name)");
+    panel->Undo();
+    Settle();
+    EXPECT_EQ(Shown(1), "Unrecognized field is equal to " + kept);
+    EXPECT_EQ(Condition(), kept);
+}
+
 TEST_F(TPanelSafetyTest, LoadingATextThatIsDamagedKeepsTheQuery) {
     Add("C.city", "Equal", "Berlin");
     EXPECT_THROW(

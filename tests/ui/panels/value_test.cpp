@@ -142,6 +142,10 @@ TEST_F(TPanelValueTest, WrongNumbersAreAcceptedAndMarked) {
     ASSERT_TRUE(View(1).Mark());
     EXPECT_TRUE(View(1).Mark()->text().contains("about 2"));
     EXPECT_THROW(panel->BuildQuery(), EKWrongValueError);
+    Cond(1).SetValue(1, "\u0628 2");
+    Settle();
+    EXPECT_TRUE(View(1).Mark()->text().contains(QString::fromUtf8("\u2068\u0628 2\u2069")))
+        << "another direction of reading stays within the value";
     View(1).CheckBox()->click();
     EXPECT_FALSE(View(1).Mark()) << "a row that is off is left out on purpose";
 }
