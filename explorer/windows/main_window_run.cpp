@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QTableView>
 
+#include <tern7/core/corekit/strings.h>
 #include <tern7/core/query/panel_menus.h>
 #include <tern7/core/query/row_text.h>
 #include <tern7/ui/controls/popup_menu.h>
@@ -170,11 +171,25 @@ void TMainWindow::RunWith(bool asking) {
     }
 }
 
+/// A field's own name is said as everywhere else, with its table where others have the name too.
 std::vector<std::string> TMainWindow::Captions() const {
     std::vector<std::string> captions;
     const TRFieldList& list = columns->ResultFields();
-    for (int i = 0; i < list.GetCount() && !list.JustSorting(); ++i)
-        captions.push_back(list.GetItem(i)->Caption());
+    const TKRowTexts texts;
+    for (int i = 0; i < list.GetCount() && !list.JustSorting(); ++i) {
+        const TResultField& column = *list.GetItem(i);
+        const bool plain = column.Formula() == "@1" && column.GetDSFieldCount() == 1;
+        const TDSField* field = plain ? column.GetDSField(0) : nullptr;
+        std::string caption = column.Caption();
+        if (field && caption.starts_with(field->DisplayName())) {
+            const std::string number = caption.substr(field->DisplayName().size());
+            const std::string named = texts.FieldText(*field);
+            const bool again = std::find(captions.begin(), captions.end(), named) != captions.end();
+            if (std::all_of(number.begin(), number.end(), IsDigit))
+                caption = again ? named + number : named;
+        }
+        captions.push_back(std::move(caption));
+    }
     return captions;
 }
 

@@ -9,6 +9,8 @@
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
+#include <QStyle>
+#include <QStyleOptionHeader>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -27,6 +29,24 @@ QString Seconds(qint64 milliseconds) {
                               milliseconds < 10'000 ? 2 : 0);
 }
 
+/// Its arrow points up where small values come first, as in tables elsewhere. Two styles of Qt draw
+/// it the other way round.
+class TResultHeader : public QHeaderView {
+public:
+    explicit TResultHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader* option, int section) const override {
+        QHeaderView::initStyleOptionForIndex(option, section);
+        const QString name = style()->name();
+        if (name != QLatin1String("fusion") && name != QLatin1String("windows")) return;
+        if (option->sortIndicator == QStyleOptionHeader::SortDown)
+            option->sortIndicator = QStyleOptionHeader::SortUp;
+        else if (option->sortIndicator == QStyleOptionHeader::SortUp)
+            option->sortIndicator = QStyleOptionHeader::SortDown;
+    }
+};
+
 QString TabbedText(QString text) {
     return text.replace(u'\t', u' ').replace(u'\n', u' ').replace(u'\r', u' ');
 }
@@ -36,6 +56,7 @@ QString TabbedText(QString text) {
 TResultView::TResultView(QWidget* parent)
     : QWidget(parent), messages(new TMessageBar(this)), table(new QTableView), summary(new QLabel),
       progress(new QProgressBar), model(new TResultModel(this)) {
+    table->setHorizontalHeader(new TResultHeader(table));
     table->setModel(model);
     table->setAlternatingRowColors(true);
     table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);

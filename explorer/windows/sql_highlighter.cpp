@@ -5,6 +5,8 @@
 #include <QSet>
 #include <QTextCharFormat>
 
+#include <tern7/ui/support/plain_line.h>
+
 namespace tern7 {
 
 namespace {
@@ -83,6 +85,14 @@ void TSQLHighlighter::highlightBlock(const QString& text) {
         } else {
             ++at;
         }
+    }
+    // they have no picture, but what they do to the text behind them is seen
+    for (int i = 0; i < end; ++i) {
+        if (!TurnsDirection(text[i])) continue;
+        QTextCharFormat warning;
+        warning.setBackground(dark ? QColor(0x7A, 0x2A, 0x2A) : QColor(0xFF, 0xC8, 0xC8));
+        setFormat(i, end - i, warning);
+        break;
     }
     setCurrentBlockState(state);
 }

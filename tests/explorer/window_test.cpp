@@ -38,6 +38,25 @@ TEST_F(TWindowTest, SavedQueryRuns) {
     EXPECT_TRUE(window->IsModified());
 }
 
+TEST_F(TWindowTest, HeadersTellFieldsOfOneNameApart) {
+    const struct {
+        const char *caption, *expression;
+    } columns[] = {{"Name", "{Countries.Name}"},
+                   {"Name1", "{Customers.Name}"},
+                   {"Name2", "{Customers.Name}"},
+                   {"Mine", "{Cities.Name}"}};
+    for (const auto& column : columns)
+        window->Columns().ResultFields().AddByExpression(column.caption, TSortingType::stNoSort,
+                                                         column.expression);
+    Run();
+    QStringList headers;
+    for (int i = 0; i < window->Results().Model().columnCount(); ++i)
+        headers
+            << window->Results().Model().headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
+    EXPECT_EQ(headers,
+              (QStringList{"Countries Name", "Customers Name", "Customers Name2", "Mine"}));
+}
+
 TEST_F(TWindowTest, SavedAndOpenedAgain) {
     AddColumn("list price");
     const QString file = folder.filePath("mine.qry");

@@ -119,6 +119,11 @@ void T_dlgRFieldsEdit::SetHelp(std::function<void()> answer) {
     help->setVisible(static_cast<bool>(onHelp));
 }
 
+void T_dlgRFieldsEdit::GoToColumn(int i) {
+    columnsView->setFocus();
+    columnsView->setCurrentIndex(columns->index(i, TResultColumnsModel::Expression));
+}
+
 // --- what the user does
 
 std::vector<TDSField*> T_dlgRFieldsEdit::ChosenFields() const {

@@ -51,6 +51,8 @@ public:
     const std::shared_ptr<TResultFieldsDraft>& Draft() const { return ownDraft; }
     /// Answers the Help button, which is shown only then.
     void SetHelp(std::function<void()> answer);
+    /// The keyboard is there, too.
+    void GoToColumn(int i);
     /// Refused, with the cursor at the place, while an expression can not be read.
     void accept() override;
 

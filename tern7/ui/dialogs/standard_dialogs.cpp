@@ -10,16 +10,23 @@ namespace tern7 {
 
 namespace {
 
-TResultFieldsChange RunResultFieldsEditor(QWidget* parent, const TRFieldList& columns,
-                                          const TStrings& titles,
-                                          const std::function<void()>& help) {
+TResultFieldsChange RunResultFieldEditor(QWidget* parent, const TRFieldList& columns, int first,
+                                         const TStrings& titles,
+                                         const std::function<void()>& help) {
     const QPointer<T_dlgRFieldsEdit> dialog = new T_dlgRFieldsEdit(columns, titles, parent);
     const std::shared_ptr<TResultFieldsDraft> draft = dialog->Draft();
     dialog->SetHelp(help);
+    if (first >= 0) dialog->GoToColumn(first);
     const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
     delete dialog;
     if (!accepted) return {};
     return [draft](TRFieldList& target) { draft->Apply(target); };
+}
+
+TResultFieldsChange RunResultFieldsEditor(QWidget* parent, const TRFieldList& columns,
+                                          const TStrings& titles,
+                                          const std::function<void()>& help) {
+    return RunResultFieldEditor(parent, columns, -1, titles, help);
 }
 
 bool RunTitlesEditor(QWidget* parent, const TStrings& defaults, TStrings& titles) {
@@ -40,6 +47,7 @@ TKDialogServices StandardDialogs() {
     TKDialogServices dialogs;
     dialogs.editSubQuery = EditSubQuery;
     dialogs.editResultFields = RunResultFieldsEditor;
+    dialogs.editResultField = RunResultFieldEditor;
     dialogs.editTitles = RunTitlesEditor;
     return dialogs;
 }

@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include <QKeyEvent>
+
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/row_text.h>
 #include <tern7/core/structure/offered_fields.h>
@@ -81,6 +83,19 @@ void TResultFieldRow::MakeFieldLabel() {
     });
     connect(fieldLabel, &TDropDownLabel::rightClicked, this,
             [this] { panel.RowButtonClick(*this, fieldLabel); });
+    connect(fieldLabel, &TDropDownLabel::altClicked, this, [this] { panel.EditRowLater(*this); });
+    fieldLabel->installEventFilter(this);
+}
+
+/// Enter on a formula does not offer to replace it, as a click does, but leads to the formula.
+bool TResultFieldRow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != fieldLabel || event->type() != QEvent::KeyPress) return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+    const bool plainKey = (key.modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!enter || !plainKey || !panel.Holds(*this) || IsPlain(*field)) return false;
+    panel.EditRowLater(*this);
+    return true;
 }
 
 void TResultFieldRow::MakeSortLabel() {
@@ -181,7 +196,8 @@ void TResultFieldRow::ShowField(const TKRowTexts& texts) {
     const bool known = shown && !shown->IsPlaceholder();
     fieldLabel->SetValue(known ? QString::number(shown->ID()) : QString());
     fieldLabel->SetCaption(text);
-    fieldLabel->setToolTip(ToolTipText(more));
+    const QString hint = TKResultFieldsPanel::tr("Ctrl and a click: formula, function, caption");
+    fieldLabel->setToolTip(ToolTipText(more.isEmpty() ? hint : more + '\n' + hint));
     fieldLabel->setAccessibleDescription(more);
 }
 

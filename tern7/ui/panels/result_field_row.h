@@ -51,6 +51,9 @@ public:
     bool HasFocus() const;
     void Close(); ///< discards what is open
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     friend class TKResultFieldsPanel;
     void MakeFieldLabel();

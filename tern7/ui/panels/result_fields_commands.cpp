@@ -120,11 +120,27 @@ void TKResultFieldsPanel::ClearAll() {
 bool TKResultFieldsPanel::EditResultFields(const TStrings& editorTitles,
                                            const std::function<void()>& help) {
     FindQueryPanel();
+    return EditFrom(-1, editorTitles, help);
+}
+
+bool TKResultFieldsPanel::EditRow(int index) {
+    FindQueryPanel();
+    fields->GetItem(index);
+    return EditFrom(index, {}, {});
+}
+
+bool TKResultFieldsPanel::EditFrom(int row, const TStrings& editorTitles,
+                                   const std::function<void()>& help) {
     RequireStruct();
-    if (!Dialogs.editResultFields) return false;
+    const TKDialogServices dialogs = Dialogs; // which may go with the panel
+    if (!dialogs.editResultFields) return false;
     const QPointer<TKResultFieldsPanel> alive(this);
     const TRFieldList* const edited = fields;
-    const TResultFieldsChange change = Dialogs.editResultFields(this, *fields, editorTitles, help);
+    const TStrings texts = editorTitles.empty() ? fields->Query()->Titles : editorTitles;
+    const bool begins = row >= 0 && dialogs.editResultField;
+    const TResultFieldsChange change =
+        begins ? dialogs.editResultField(this, *fields, row, texts, help)
+               : dialogs.editResultFields(this, *fields, texts, help);
     if (!alive || !change || fields != edited) return false;
     Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Edit columns"),
          [&](TResultFieldsEdit&) { change(*fields); });
@@ -150,6 +166,15 @@ void TKResultFieldsPanel::RowSortingChosen(TResultFieldRow& row) {
     if (!Holds(row) || row.Sorting() == row.Field()->Sorting()) return;
     Edit(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Change sorting"),
          [&](TResultFieldsEdit& edit) { edit.SetSorting(*row.Field(), row.Sorting()); });
+}
+
+/// When the event of the row's label is over: the dialog may bring its end.
+void TKResultFieldsPanel::EditRowLater(TResultFieldRow& row) {
+    const auto edit = [this, edited = QPointer<TResultFieldRow>(&row)] {
+        const int index = edited && Holds(*edited) ? Rows().IndexOf(edited.data()) : -1;
+        if (index >= 0) Guarded(this, [this, index] { EditRow(index); });
+    };
+    QMetaObject::invokeMethod(this, edit, Qt::QueuedConnection);
 }
 
 /// The new row shows the first field until another one is chosen from its list, which opens at

@@ -106,9 +106,12 @@ public:
     void Undo() { Replay(&TKQuerySteps::UndoStep); }
     void Redo() { Replay(&TKQuerySteps::RedoStep); }
     /// Opens the result fields editor with the texts of a title list (section "Result Fields
-    /// Editor"); true when something was changed. ERFPanelError without a structure.
+    /// Editor"; without one those of the query); true when something was changed. ERFPanelError
+    /// without a structure.
     bool EditResultFields(const TStrings& editorTitles = {},
                           const std::function<void()>& help = {});
+    /// The same, beginning with the column of a row. std::out_of_range when there is none.
+    bool EditRow(int index);
     /// Opens the titles editor; true when it was accepted.
     bool EditTitles();
     /// Fires OnChange.
@@ -199,6 +202,8 @@ private:
     void MenuItemClick(void (TKResultFieldsPanel::*operation)(int));
     void RowFieldChosen(TResultFieldRow& row, int fieldID);
     void RowSortingChosen(TResultFieldRow& row);
+    void EditRowLater(TResultFieldRow& row);
+    bool EditFrom(int row, const TStrings& editorTitles, const std::function<void()>& help);
     void Edit(const char* name, const std::function<void(TResultFieldsEdit&)>& step,
               const char* last = nullptr);
     void Replay(void (TKQuerySteps::*step)());

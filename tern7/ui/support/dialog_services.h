@@ -25,6 +25,10 @@ struct TKDialogServices {
     std::function<TResultFieldsChange(QWidget* parent, const TRFieldList& columns,
                                       const TStrings& titles, const std::function<void()>& help)>
         editResultFields;
+    /// The same, beginning with one of them; empty: it begins anywhere.
+    std::function<TResultFieldsChange(QWidget* parent, const TRFieldList& columns, int first,
+                                      const TStrings& titles, const std::function<void()>& help)>
+        editResultField;
     /// Edits the sub-query of a condition; true when it was changed. The condition may be deleted
     /// while the dialog is open.
     std::function<bool(QWidget* parent, TFilterCond& condition, const std::function<void()>& help)>

@@ -325,6 +325,10 @@
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
+    <message>
+        <source>Ctrl and a click: formula, function, caption</source>
+        <translation>Ctrl et un clic : formule, fonction, intitulé</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>

@@ -325,6 +325,10 @@
         <source>%1 of %2</source>
         <translation>%2 中の %1</translation>
     </message>
+    <message>
+        <source>Ctrl and a click: formula, function, caption</source>
+        <translation>Ctrl を押しながらクリック: 式、関数、見出し</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TKTitlesGrid</name>

@@ -330,7 +330,7 @@ TEST(ResultFieldsEditor, JustSortingHelpAndCancel) {
 
 TEST(ResultFieldsEditor, ColumnsGoWhileItIsOpen) {
     TEditorForm t(TEditorForm::TColumns{{"A", "{City}"}, {"B", "{Note}"}, {"C", "{Price}"}});
-    t.dialog->ColumnsView()->setFocus();
+    t.dialog->GoToColumn(0);
     Press(Qt::Key_Down, Qt::ControlModifier);
     t.form.Columns().Delete(1);
     t.form.Add("D", "{Quantity}");

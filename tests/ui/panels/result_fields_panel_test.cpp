@@ -221,13 +221,14 @@ TEST(ResultFieldsPanel, ChangesOnlyWhatTheUserChanges) {
     sum->SetAlias("my_alias");
     ASSERT_TRUE(form.Open());
     EXPECT_EQ(form.Texts(), (QStringList{"1 Turnover Not Sorted", "2 City Not Sorted"}));
-    EXPECT_EQ(form.Row(0).FieldLabel()->toolTip(), "SUM({Price} * {Quantity})");
-    EXPECT_EQ(form.Row(1).FieldLabel()->toolTip(), "Where");
+    EXPECT_TRUE(form.Row(0).FieldLabel()->toolTip().startsWith("SUM({Price} * {Quantity})\n"));
+    EXPECT_TRUE(form.Row(1).FieldLabel()->toolTip().startsWith("Where\n"));
     sum->ProcessExpression("SUM({Price} & \"<b>\")"); // shown as it stands
-    EXPECT_EQ(QTextDocumentFragment::fromHtml(form.Row(0).FieldLabel()->toolTip()).toPlainText(),
-              "SUM({Price} & \"<b>\")");
+    EXPECT_TRUE(QTextDocumentFragment::fromHtml(form.Row(0).FieldLabel()->toolTip())
+                    .toPlainText()
+                    .startsWith("SUM({Price} & \"<b>\")\n"));
     sum->ProcessExpression("SUM({Price} & {Quantity} > 2)");
-    EXPECT_EQ(form.Row(0).FieldLabel()->toolTip(), "SUM({Price} & {Quantity} > 2)");
+    EXPECT_TRUE(form.Row(0).FieldLabel()->toolTip().startsWith("SUM({Price} & {Quantity} > 2)\n"));
     sum->ProcessExpression("SUM({Price} * {Quantity})");
     Click(form.Row(0).SortLabel());
     Press({Qt::Key_Down, Qt::Key_Return});
@@ -563,6 +564,33 @@ TEST(ResultFieldsPanel, OwnListHasItsOwnSteps) {
     panel.AddRow();
     panel.Undo(); // nobody keeps the steps of that query
     EXPECT_EQ(panel.ResultFields().GetCount(), 1);
+}
+
+TEST(ResultFieldsPanel, RowsLeadToTheEditor) {
+    TResultFieldsForm form;
+    form.Add("City", "{City}");
+    form.Add("Sum", "SUM({Price})");
+    form.query.Titles = {"[Result Fields Editor]", "ttlRFETitle=Spalten"};
+    ASSERT_TRUE(form.Open());
+    std::vector<int> begun;
+    form.panel->Dialogs.editResultField = [&](QWidget*, const TRFieldList&, int first,
+                                              const TStrings& titles,
+                                              const std::function<void()>&) {
+        EXPECT_EQ(titles, form.query.Titles);
+        begun.push_back(first);
+        // the row that was asked for goes
+        return first == 1 ? [](TRFieldList& columns) { columns.Delete(1); } : TResultFieldsChange();
+    };
+    form.Row(0).FieldLabel()->setFocus();
+    Press(Qt::Key_Return, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    form.Row(1).FieldLabel()->setFocus();
+    Press(Qt::Key_Return); // a formula
+    QCoreApplication::processEvents();
+    EXPECT_EQ(form.Texts(), QStringList{"1 City Not Sorted"});
+    ClickAt(form.Row(0).FieldLabel(), {3, 3}, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(begun, (std::vector<int>{0, 1, 0}));
 }
 
 TEST(ResultFieldsPanel, DialogIsOneStep) {
