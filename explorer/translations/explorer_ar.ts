@@ -320,7 +320,7 @@
     </message>
     <message>
         <source>C&amp;olumns</source>
-        <translation>الأع&amp;مدة</translation>
+        <translation>الأعم&amp;دة</translation>
     </message>
     <message>
         <source>Con&amp;ditions</source>

@@ -1,5 +1,8 @@
 #include "main_window.h"
 
+#include <algorithm>
+#include <set>
+
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
@@ -59,10 +62,33 @@ QPainterPath BackArrow(bool mirrored) {
     return mirrored ? QTransform(-1, 0, 0, 1, 16, 0).map(arrow) : arrow;
 }
 
+/// Moves the marks of keys that stand for an earlier text, too, to letters that are free: no
+/// translator sees all texts of a menu together.
+void SpreadKeys(const QMenu& menu) {
+    std::set<QChar> taken;
+    for (QAction* action : menu.actions()) {
+        QString text = action->text();
+        const qsizetype mark = text.indexOf(u'&');
+        if (mark < 0 || mark + 1 >= text.size() || text[mark + 1] == u'&') continue;
+        if (taken.insert(text[mark + 1].toLower()).second) continue;
+        text.remove(mark, 1);
+        const auto free = std::find_if(text.begin(), text.end(), [&taken](QChar c) {
+            return c.isLetter() && !taken.contains(c.toLower());
+        });
+        if (free != text.end()) {
+            taken.insert(free->toLower());
+            text.insert(free - text.begin(), u'&');
+        }
+        action->setText(text);
+    }
+}
+
 /// Keys keep their order beside texts that are read from the right.
 class TMenu : public QMenu {
 public:
-    using QMenu::QMenu;
+    explicit TMenu(QWidget* parent) : QMenu(parent) {
+        connect(this, &QMenu::aboutToShow, this, [this] { SpreadKeys(*this); });
+    }
 
 protected:
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override {

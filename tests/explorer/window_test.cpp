@@ -1,7 +1,12 @@
 #include "window_form.h"
 
+#include <map>
+#include <set>
+
 #include <QAction>
 #include <QHeaderView>
+#include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTableView>
@@ -10,6 +15,7 @@
 #include <tern7/core/corekit/files.h>
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/global/messages.h>
+#include <tern7/ui/support/language_titles.h>
 
 namespace tern7 {
 
@@ -258,6 +264,44 @@ TEST_F(TWindowTest, LanguageSwitchesEverything) {
     EXPECT_EQ(window->layoutDirection(), Qt::LeftToRight);
 }
 #endif
+
+/// The texts that share a key with another one, "&&" aside.
+std::string Clashes(const QStringList& texts) {
+    std::map<QChar, QStringList> byKey;
+    for (QString text : texts) {
+        const qsizetype mark = text.replace("&&", " ").indexOf(u'&');
+        if (mark >= 0 && mark + 1 < text.size()) byKey[text[mark + 1].toLower()] << text;
+    }
+    QStringList clashes;
+    for (const auto& [key, all] : byKey)
+        if (all.size() > 1) clashes << all;
+    return FromQt(clashes.join(", "));
+}
+
+TEST_F(TWindowTest, NoKeyMeansTwoThings) {
+    for (const TTitleLanguage& language : TitleLanguages()) {
+        window->SetLanguage(language.code);
+        QStringList top;
+        for (const QLabel* label : window->findChildren<QLabel*>())
+            if (label->buddy()) top << label->text();
+        for (QMenu* menu : window->findChildren<QMenu*>()) {
+            emit menu->aboutToShow();
+            QStringList texts;
+            for (const QAction* action : menu->actions())
+                texts << action->text();
+            EXPECT_EQ(Clashes(texts), "") << FromQt(language.code);
+        }
+        for (const QAction* action : window->menuBar()->actions())
+            top << action->text();
+        EXPECT_EQ(Clashes(top), "") << FromQt(language.code);
+    }
+    std::set<QString> keys;
+    for (const QAction* action : window->findChildren<QAction*>()) {
+        const QString key = action->shortcut().toString();
+        if (key.isEmpty() || action->shortcutContext() != Qt::WindowShortcut) continue;
+        EXPECT_TRUE(keys.insert(key).second) << FromQt(key);
+    }
+}
 
 TEST_F(TWindowTest, MessagesOfTheLibraryAreTranslated) {
     const auto bar = window->findChild<TMessageBar*>("queryMessages");
