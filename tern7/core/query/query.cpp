@@ -197,6 +197,7 @@ void TKQuery::DropParams(const std::vector<std::unique_ptr<TFilterRow>>& rows) {
 
 void TKQuery::ClearAll() {
     TKQueryUpdate update(*this);
+    SetSQLReport(nullptr);
     root->ClearRows();
     result->ResultFields().Clear();
     result->ResultFields().SetJustSorting(false);

@@ -299,6 +299,7 @@ private:
     void SubQueryChanged(TFilterCond& condition);
     void ConvertDates(bool toStored);
     void StoreSQLReport(TSQLReport report);
+    void SetSQLReport(std::shared_ptr<const TSQLReport> report);
     void ReadingDone(bool wasActive);
 
     TKCustomDBStructure* structure = nullptr;
@@ -314,7 +315,7 @@ private:
     TAvoidedJoins avoidedJoins;
     double formatVersion = 3.3;
     TStrings loadWarnings;
-    std::unique_ptr<TSQLReport> sqlReport;
+    std::shared_ptr<const TSQLReport> sqlReport;
     TQPStyle style = TQPStyle::psGroups;
     TKBuilderState state = TKBuilderState::stIdle;
     bool active = true;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/query_record.h>
 
 namespace tern7 {
 
@@ -150,6 +151,13 @@ void TKQuery::RowsRemoved(TFilterBracket& parent, int index, int count) {
     TellViews([&](TKQueryView& view) { view.RowsRemoved(parent, index, count); });
     numbersKnown = false; // a view may have asked for them meanwhile
     viewsPending = viewsPending || !Listening();
+}
+
+void TKQuery::SetSQLReport(std::shared_ptr<const TSQLReport> report) {
+    if (report == sqlReport) return;
+    if (TKQueryRecord* recording = Record()) recording->ReportChanges(sqlReport);
+    sqlReport = std::move(report);
+    RefreshViews([this](TKQueryView& view) { view.RowChanged(*root); });
 }
 
 void TKQuery::RowChanged(TFilterRow& row) {

@@ -83,6 +83,10 @@ void TKQueryRecord::JoiningChanges() {
     changes.emplace_back(TJoining{query.MainTableName(), query.AvoidedJoins()});
 }
 
+void TKQueryRecord::ReportChanges(std::shared_ptr<const TSQLReport> from) {
+    changes.emplace_back(TReport{std::move(from)});
+}
+
 void TKQueryRecord::TextsChange() {
     changes.emplace_back(TTexts{query.QueryName(), query.FormatVersion(), query.Titles,
                                 query.Description, query.UserData});
@@ -195,6 +199,11 @@ void TKQueryRecord::Turn(TJoining& change, bool, TToldRows&) {
     query.SetMainTableName(std::move(change.mainTable));
     query.SetAvoidedJoins(std::move(change.avoided));
     change = std::move(now);
+}
+
+void TKQueryRecord::Turn(TReport& change, bool, TToldRows&) {
+    std::shared_ptr<const TSQLReport> now = query.sqlReport;
+    query.SetSQLReport(std::exchange(change.other, std::move(now)));
 }
 
 void TKQueryRecord::Turn(TTexts& change, bool, TToldRows&) {

@@ -56,6 +56,7 @@ public:
     void SyntaxChanges();
     /// Before the main table or the avoided joins change.
     void JoiningChanges();
+    void ReportChanges(std::shared_ptr<const TSQLReport> from);
     /// Before another query text is read.
     void TextsChange();
 
@@ -95,13 +96,17 @@ private:
         std::string mainTable;
         TAvoidedJoins avoided;
     };
+    struct TReport {
+        std::shared_ptr<const TSQLReport> other;
+    };
     struct TTexts {
         std::string name;
         double version;
         TStrings titles, description, userData;
     };
-    using TChange = std::variant<TRowContents, TRowPlace, TColumnContents, TColumnPlace,
-                                 TColumnMove, TJustSorting, TOptions, TSyntax, TJoining, TTexts>;
+    using TChange =
+        std::variant<TRowContents, TRowPlace, TColumnContents, TColumnPlace, TColumnMove,
+                     TJustSorting, TOptions, TSyntax, TJoining, TReport, TTexts>;
     struct TToldRow {
         TFilterRow* row;
         unsigned what; // see TFilterRow::Exchange
@@ -118,6 +123,7 @@ private:
     void Turn(TOptions& change, bool undo, TToldRows& told);
     void Turn(TSyntax& change, bool undo, TToldRows& told);
     void Turn(TJoining& change, bool undo, TToldRows& told);
+    void Turn(TReport& change, bool undo, TToldRows& told);
     void Turn(TTexts& change, bool undo, TToldRows& told);
 
     TKQuery& query;

@@ -4,6 +4,7 @@
 
 #include <tern7/core/query/condition_text.h>
 #include <tern7/core/query/query.h>
+#include <tern7/core/query/read_sql/sql_report.h>
 #include <tern7/core/query/value_editor_choice.h>
 #include <tern7/ui/support/bidi_text.h>
 #include <tern7/ui/support/local_dates.h>
@@ -109,7 +110,27 @@ QString SubQueryProblem(const TFilterCond& condition) {
     return problem.isEmpty() ? problem : TRowProblem::tr("sub-query: %1").arg(problem);
 }
 
+/// What the statement that was read said and the query does not say.
+QString LeftOutOfSQL(const TKQuery& query) {
+    constexpr int mostNamed = 3;
+    constexpr qsizetype mostShown = 60;
+    QStringList parts;
+    for (const TSQLReportEntry& entry : query.SQLReport().Entries()) {
+        if (entry.kind != TSQLReportKind::rkDropped) continue;
+        if (parts.size() == mostNamed) {
+            parts << QStringLiteral("...");
+            break;
+        }
+        const QString text = ToQt(entry.text).simplified();
+        parts << Isolated(text.size() > mostShown ? text.left(mostShown) + u'\u2026' : text);
+    }
+    if (parts.isEmpty()) return {};
+    return TRowProblem::tr("left out of the SQL that was read: %1")
+        .arg(parts.join(QStringLiteral(", ")));
+}
+
 TProblemTexts ProblemOf(const TFilterRow& row) {
+    if (!row.Parent() && row.Query()) return {LeftOutOfSQL(*row.Query()), {}};
     const TFilterCond* condition = row.AsCond();
     if (!condition || !condition->Query() || !condition->EffectivelyEnabled()) return {};
     if (const TUnfinished reason = condition->Unfinished(); reason != TUnfinished::No)
@@ -125,7 +146,7 @@ TProblemTexts ProblemOf(const TFilterRow& row) {
 } // namespace
 
 bool IsLeftOut(const TFilterRow& row) {
-    return row.IsBracket() || row.AsCond()->Unfinished() != TUnfinished::No;
+    return !row.IsBracket() && row.AsCond()->Unfinished() != TUnfinished::No;
 }
 
 QString RowProblem(const TFilterRow& row) {

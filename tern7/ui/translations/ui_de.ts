@@ -402,6 +402,10 @@
         <source>%1; %2</source>
         <translation>%1; %2</translation>
     </message>
+    <message>
+        <source>left out of the SQL that was read: %1</source>
+        <translation>aus dem gelesenen SQL weggelassen: %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::T_dlgRFieldsEdit</name>

@@ -357,4 +357,24 @@ TEST_F(TPanelValueTest, SubQueryDialog) {
     EXPECT_EQ(panel->Root().GetRowCount(), 0);
 }
 
+TEST_F(TPanelValueTest, WhatWasLeftOutOfSQLIsSaidUntilItIsTakenBack) {
+    const auto marks = [this] {
+        QApplication::processEvents();
+        QStringList texts;
+        for (const QLabel* label : panel->findChildren<QLabel*>())
+            if (label->isVisible()) texts << label->text();
+        return texts.join(u'|');
+    };
+    panel->Editor().Run("Read", [this] {
+        panel->ImportSQL("select name from Customer where city = 'Rome' limit 5");
+    });
+    EXPECT_TRUE(marks().contains("limit 5")) << FromQt(marks());
+    panel->Undo();
+    EXPECT_FALSE(marks().contains("limit 5")) << FromQt(marks());
+    panel->Redo();
+    EXPECT_TRUE(marks().contains("limit 5")) << FromQt(marks());
+    panel->ClearAll();
+    EXPECT_FALSE(marks().contains("limit 5")) << FromQt(marks());
+}
+
 } // namespace tern7

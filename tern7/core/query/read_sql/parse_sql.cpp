@@ -65,7 +65,7 @@ void TKQuery::StoreSQLReport(TSQLReport report) {
     loadWarnings.clear();
     for (const TSQLReportEntry& entry : report.Entries())
         if (entry.kind == TSQLReportKind::rkDropped) loadWarnings.push_back(SQLReportLine(entry));
-    sqlReport = std::make_unique<TSQLReport>(std::move(report));
+    SetSQLReport(std::make_shared<const TSQLReport>(std::move(report)));
 }
 
 const TSQLReport& TKQuery::SQLReport() const {
