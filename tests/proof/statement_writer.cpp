@@ -150,7 +150,27 @@ std::string TStatementWriter::Table(TScope& scope, size_t table) {
     return written;
 }
 
-std::string TStatementWriter::JoinWords() {
+/// Mostly the kind that the structure has between the last table and one before it.
+std::string TStatementWriter::JoinWords(const TScope& scope) {
+    const auto tableOf = [this](const TWrittenTable& each) {
+        return structure.TableByName(false, tables[each.table].name);
+    };
+    const TDSTable* const own = tableOf(scope.back());
+    for (size_t i = 0; i + 1 < scope.size() && !OneIn(4); ++i) {
+        const TDSLink* const link = own->LinkByTable(tableOf(scope[i]));
+        if (!link) continue;
+        const bool isSecond = link->Table2() == own;
+        switch (link->LinkType()) {
+        case TDSLinkType::ltInner:
+            return Cased("join");
+        case TDSLinkType::ltOuterLeft:
+            return Cased(isSecond ? "left join" : "right join");
+        case TDSLinkType::ltOuterRight:
+            return Cased(isSecond ? "right join" : "left join");
+        case TDSLinkType::ltOuterFull:
+            return Cased("full outer join");
+        }
+    }
     static const char* const words[] = {"join",       "inner join",       "join",
                                         "inner join", "left join",        "left outer join",
                                         "left join",  "right outer join", "full join"};
@@ -185,8 +205,24 @@ std::string TStatementWriter::From(TScope& scope, TStrings& where, unsigned most
             continue;
         }
         if (OneIn(12) && text.find(',') == std::string::npos) text = "(" + text + ")";
-        const std::string words = JoinWords();
-        text += (OneIn(3) ? "\n  " : " ") + words + " " + Table(scope, table);
+        std::string joined = Table(scope, table);
+        const std::string words = JoinWords(scope);
+        if (OneIn(20)) { // joined among themselves first
+            TScope inner{scope.back()};
+            TStrings ignored;
+            scope.pop_back();
+            const std::string other = Table(inner, Below(std::size(tables)));
+            const bool isTaken =
+                std::any_of(scope.begin(), scope.end(), [&](const TWrittenTable& each) {
+                    return SameText(each.name, inner.back().name);
+                });
+            if (!isTaken)
+                joined = "(" + joined + " join " + other + " on " + On(inner, ignored) + ")";
+            else
+                inner.pop_back();
+            scope.insert(scope.end(), inner.rbegin(), inner.rend());
+        }
+        text += (OneIn(3) ? "\n  " : " ") + words + " " + joined;
         std::string condition = OneIn(5) ? Using(scope) : std::string();
         if (condition.empty()) condition = " on " + On(scope, where);
         text += condition;
@@ -197,7 +233,9 @@ std::string TStatementWriter::From(TScope& scope, TStrings& where, unsigned most
 std::string TStatementWriter::Using(const TScope& scope) {
     const size_t last = scope.back().table;
     const bool fits = last < 2 && scope.size() == 2 && scope[0].table + last == 1;
-    return fits ? OneIn(6) ? " using (x)" : " using (x, y)" : std::string();
+    if (!fits) return {};
+    merged = nesting == 0;
+    return OneIn(6) ? " using (x)" : " using (x, y)";
 }
 
 /// How the last table is joined to those before it.
@@ -247,7 +285,8 @@ std::string TStatementWriter::Named(const TScope& scope, const TWrittenTable& ta
         return pair[0] + std::string(text) + pair[1];
     };
     const std::string name = OneIn(10) ? quoted(column) : Cased(column);
-    if (others == 1 && OneIn(2)) return name;
+    const bool isMerged = merged && scope.size() == 2 && (column == "x" || column == "y");
+    if ((others == 1 || isMerged) && OneIn(2)) return name;
     return (OneIn(10) ? quoted(table.name) + "." : Cased(table.name + ".")) + name;
 }
 

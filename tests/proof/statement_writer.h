@@ -29,7 +29,8 @@ const std::map<std::string, TCell>& WriterParameters();
 /// any blanks and case. Not all mean something to a structure; the same seed writes the same.
 class TStatementWriter {
 public:
-    explicit TStatementWriter(uint32_t seed) : random(seed) {}
+    TStatementWriter(const TKCustomDBStructure& over, uint32_t seed)
+        : structure(over), random(seed) {}
     std::string Statement();
 
 private:
@@ -51,7 +52,7 @@ private:
     std::string Table(TScope& scope, size_t table);
     std::string On(const TScope& scope, TStrings& where);
     std::string Using(const TScope& scope);
-    std::string JoinWords();
+    std::string JoinWords(const TScope& scope);
     std::string Columns(const TScope& scope, std::string& tail);
     std::string Column(const TScope& scope, char type = ' ');
     std::string Named(const TScope& scope, const TWrittenTable& table, std::string_view column);
@@ -63,8 +64,10 @@ private:
     std::string Comparison(const TScope& scope);
     std::string SubSelect(const TScope& scope);
 
+    const TKCustomDBStructure& structure;
     std::mt19937 random;
     int nesting = 0;
+    bool merged = false; // two tables by USING
 };
 
 } // namespace tern7::proof

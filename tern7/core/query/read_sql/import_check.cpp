@@ -53,6 +53,20 @@ bool TSQLImporter::IsBuiltInOrder() const {
     return true;
 }
 
+/// True when a join that the query makes keeps rows of its table that no row of the several tables
+/// before it fits.
+bool TSQLImporter::BringsRowsBack() const {
+    const TRTableList& built = query.QResult().ResultTables();
+    for (int i = 2; i < built.GetCount() && query.SQLSyntax() == TSQLSyntax::ssSQL2; ++i) {
+        const TDSLink& link = *built[i].Link;
+        const bool isFirst = link.Table1() == built[i].Table;
+        if (link.LinkType() == TDSLinkType::ltOuterFull ||
+            link.LinkType() == (isFirst ? TDSLinkType::ltOuterLeft : TDSLinkType::ltOuterRight))
+            return true;
+    }
+    return false;
+}
+
 /// "select *" has all tables of the statement, in their order; true when the query that was built
 /// lacks some, and has to be built again.
 bool TSQLImporter::AskForAllTables() {
@@ -171,7 +185,7 @@ void TSQLImporter::CheckJoins() {
         });
     };
     // left joins that hang on what stands before them can be moved among each other
-    const bool orderCounts = hasJoin({TImportJoin::Right, TImportJoin::Full});
+    const bool orderCounts = hasJoin({TImportJoin::Right, TImportJoin::Full}) || BringsRowsBack();
     const bool nestedCounts =
         statement.nestedJoins && (orderCounts || hasJoin({TImportJoin::Left}));
     if (((orderCounts || statement.allFields) && !IsBuiltInOrder()) || nestedCounts)

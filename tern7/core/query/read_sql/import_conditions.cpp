@@ -105,6 +105,7 @@ bool TImportParser::EndsOperand(size_t start) {
     if (isColumn) return Scanner().EOS();
     if (AtClauseEnd()) return true;
     if (!inOn || !AtJoin()) return false;
+    if (Is(wJoin)) return true;
     Step();
     const bool isFunction = Is(wOpen);
     Scanner().GotoBookmark(At() - 1);

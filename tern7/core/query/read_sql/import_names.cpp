@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <tern7/core/query/read_sql/report_reasons.h>
+
 namespace tern7 {
 
 namespace {
@@ -120,21 +122,26 @@ std::optional<size_t> TImportNames::FindQualifier(const std::string& qualifier) 
 }
 
 std::optional<size_t> TImportNames::FindTable(const TNamedColumn& column) {
-    return column.qualifier.empty() ? FindUnqualified(LowerCase(column.name))
+    return column.qualifier.empty() ? FindUnqualified(LowerCase(column.name)).table
                                     : FindQualifier(LowerCase(column.qualifier));
 }
 
-/// The one table that has a field of that name.
-std::optional<size_t> TImportNames::FindUnqualified(const std::string& column) {
+/// The one table that has a field of that name; of those joined by columns of that name the one
+/// whose rows are all there.
+const TImportNames::TUnqualified& TImportNames::FindUnqualified(const std::string& column) {
     const auto [place, isNew] = unqualified.try_emplace(column);
-    if (!isNew) return place->second;
-    std::optional<size_t> found;
+    TUnqualified& found = place->second;
+    if (!isNew) return found;
     for (const size_t i : known) {
         if (!structure.FieldByName(false, tables[i]->TableAlias() + "." + column)) continue;
-        if (found) return std::nullopt;
-        found = i;
+        const bool isMerged = StrInList(column, written[i].columns);
+        if (found.table && (!isMerged || written[i].join == TImportJoin::Full)) {
+            found = {std::nullopt, true};
+            break;
+        }
+        if (!found.table || written[i].join == TImportJoin::Right) found.table = i;
     }
-    return unqualified[column] = found;
+    return found;
 }
 
 // --- columns
@@ -200,14 +207,16 @@ std::string TImportNames::ChainText(const TChain& chain, const TAliases& inner, 
     const std::string qualifier = LowerCase(JoinedName(chain.names, chain.names.size() - 1));
     if (inSubSelect && (qualifier.empty() || inner.contains(qualifier)))
         return std::string(asWritten);
+    const bool isAlone = qualifier.empty();
     const std::optional<size_t> table =
-        qualifier.empty() ? FindUnqualified(LowerCase(name)) : FindQualifier(qualifier);
+        isAlone ? FindUnqualified(LowerCase(name)).table : FindQualifier(qualifier);
+    if (isAlone && FindUnqualified(LowerCase(name)).isOfSeveral) obstacle = reasons::NameOfSeveral;
     const TDSTable* const own = table ? tables[*table] : nullptr;
     if (!own) {
         unknown = unknown || !qualifier.empty();
         return std::string(asWritten);
     }
-    hidden = hidden || (inSubSelect && inner.contains(LowerCase(own->TableAlias())));
+    if (inSubSelect && inner.contains(LowerCase(own->TableAlias()))) obstacle = reasons::HiddenName;
     if (const TDSField* field = structure.FieldByName(false, own->TableAlias() + "." + name))
         return field->GetSQLExpr();
     plainColumn = true;

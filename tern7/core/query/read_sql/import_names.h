@@ -60,9 +60,9 @@ public:
     bool TakeUnknown() { return std::exchange(unknown, false); }
     /// True when a text that was rewritten since the last call held a column that is no field.
     bool TakePlainColumn() { return std::exchange(plainColumn, false); }
-    /// True when a text that was rewritten since the last call held a column of a table whose name
-    /// in the structure is that of another table in the sub-select around it.
-    bool TakeHidden() { return std::exchange(hidden, false); }
+    /// Why a text that was rewritten since the last call can not be said with the structure's
+    /// names; empty when it can.
+    std::string_view TakeObstacle() { return std::exchange(obstacle, {}); }
 
 private:
     using TAliases = std::unordered_set<std::string>;
@@ -70,11 +70,15 @@ private:
         std::vector<std::string> names;
         TTokenRange range;
     };
+    struct TUnqualified {
+        std::optional<size_t> table;
+        bool isOfSeveral = false;
+    };
     std::vector<TDSTable*> Candidates(const TImportTable& table) const;
     bool TakeFree(size_t table, TDSTable* candidate);
     TDSTable* JoinedCandidate(size_t table, const std::vector<TColumnPair>& pairs) const;
     std::optional<size_t> FindQualifier(const std::string& qualifier) const;
-    std::optional<size_t> FindUnqualified(const std::string& column);
+    const TUnqualified& FindUnqualified(const std::string& column);
     TChain ReadChain();
     std::string ChainText(const TChain& chain, const TAliases& inner, bool inSubSelect);
     std::string_view GapBefore(size_t token) const;
@@ -92,10 +96,10 @@ private:
     std::vector<size_t> known;     // tables of the statement that the structure has
     std::unordered_map<const TDSTable*, size_t> taken; // places in FROM
     std::unordered_map<std::string, size_t> qualifiers;
-    std::unordered_map<std::string, std::optional<size_t>> unqualified; // those asked for
+    std::unordered_map<std::string, TUnqualified> unqualified; // those asked for
     bool unknown = false;
     bool plainColumn = false;
-    bool hidden = false;
+    std::string_view obstacle;
 };
 
 } // namespace tern7

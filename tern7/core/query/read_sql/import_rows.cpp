@@ -164,7 +164,7 @@ TSQLCondition& TSQLImporter::MakeCondition(const TImportNode& node, bool negated
 bool TSQLImporter::AddRecognised(TFilterBracket& bracket, const TImportNode& node, bool negated) {
     if (node.op.empty()) return false;
     const TRecognisedCondition found = recognition.Recognise(MakeCondition(node, negated));
-    const bool isSaid = !joins->Names().TakeHidden();
+    const bool isSaid = joins->Names().TakeObstacle().empty();
     if (!found.IsComplete() || joins->Names().TakeUnknown() || !isSaid) return false;
     TFilterCond& row = *bracket.AddCond();
     const bool isRead =
@@ -243,9 +243,9 @@ void TSQLImporter::AddText(TFilterBracket& bracket, std::string text) {
 void TSQLImporter::AddTextOf(TFilterBracket& bracket, const TImportNode& node) {
     AddText(bracket, Rewrite(node.body));
     hasUnknownNames = joins->Names().TakeUnknown() || hasUnknownNames;
-    const bool isHidden = joins->Names().TakeHidden();
-    Report(isHidden ? TReport::rkDropped : TReport::rkKeptAsText, "condition", node.body,
-           isHidden ? reasons::HiddenName : reasons::NotRecognised);
+    const std::string_view obstacle = joins->Names().TakeObstacle();
+    Report(obstacle.empty() ? TReport::rkKeptAsText : TReport::rkDropped, "condition", node.body,
+           obstacle.empty() ? reasons::NotRecognised : obstacle);
 }
 
 } // namespace tern7

@@ -117,6 +117,7 @@ void TSQLImporter::AddSorting() {
         items.push_back(std::move(item));
     }
     joins->Names().TakeUnknown();
+    joins->Names().TakeObstacle();
     TImportSorter sorter(query.QResult().ResultFields());
     const std::vector<size_t> lost = sorter.Sort(items);
     for (size_t i = 0; i < items.size(); ++i) {
@@ -147,6 +148,7 @@ void TSQLImporter::SortAllFields() {
         if (field) listed.push_back({field, LastTableOf(*field), rank, sorting.descending});
     }
     joins->Names().TakeUnknown();
+    joins->Names().TakeObstacle();
 }
 
 /// The columns of "select *" only say how to sort, and which tables there are. Their order is free:
@@ -204,6 +206,7 @@ void TSQLImporter::CheckGrouping() {
     for (const TTokenRange& item : statement.grouping)
         given.insert(ComparableText(GroupText(item, byAlias)));
     joins->Names().TakeUnknown();
+    joins->Names().TakeObstacle();
     if (statement.grouping.empty() && wanted.empty()) return;
     if (!anyAggregate && !statement.allFields && given == columns) {
         // groups of all that is shown say that no row comes twice

@@ -206,8 +206,8 @@ void TSQLImporter::AddColumn(const TImportColumn& column) {
     if (column.alias.empty() || fields.CheckUniqAlias(column.alias)) field.SetAlias(column.alias);
     Report(isText ? TReport::rkKeptAsText : TReport::rkRecognised, "column", column.expression,
            isText ? reasons::UnknownNames : std::string_view());
-    if (joins->Names().TakeHidden())
-        Report(TReport::rkDropped, "column", column.expression, reasons::HiddenName);
+    if (const std::string_view obstacle = joins->Names().TakeObstacle(); !obstacle.empty())
+        Report(TReport::rkDropped, "column", column.expression, obstacle);
     if (field.Alias() != column.alias)
         Report(TReport::rkDropped, "alias", column.expression, reasons::AliasChanged);
 }

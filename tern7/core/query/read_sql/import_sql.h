@@ -79,6 +79,7 @@ private:
     bool AskForJoins();
     std::unordered_set<const TDSLink*> BuiltLinks() const;
     bool IsBuiltInOrder() const;
+    bool BringsRowsBack() const;
     void CheckJoins();
 
     void ReportOpenString();

@@ -19,6 +19,7 @@ inline constexpr std::string_view UnwrittenJoin =
 inline constexpr std::string_view UnknownNames = "it names what the structure does not have";
 inline constexpr std::string_view HiddenName =
     "a table of the sub-select has the name that the structure gives another";
+inline constexpr std::string_view NameOfSeveral = "several tables have a column of this name";
 inline constexpr std::string_view NoTable = "the structure has no such table";
 inline constexpr std::string_view NotUsed = "no column and no condition uses it";
 inline constexpr std::string_view AddedTable = "the query needs a further table";
@@ -36,9 +37,9 @@ inline constexpr std::string_view NotClosed = "the string is not closed";
 inline constexpr std::string_view NotSaid = "a query can not say it";
 
 inline constexpr std::string_view All[] = {
-    RestIgnored,   NoSuchField,  NoSuchOperator, NotRecognised, KeepsTable,    KeepsJoin,
-    UnwrittenJoin, UnknownNames, HiddenName,     NoTable,       NotUsed,       AddedTable,
-    OtherJoin,     OtherKind,    OtherOrder,     NoLink,        MergedColumns, NameInUse,
-    AliasChanged,  NoColumn,     OtherGroups,    NotClosed,     NotSaid};
+    RestIgnored,   NoSuchField,  NoSuchOperator, NotRecognised, KeepsTable, KeepsJoin,
+    UnwrittenJoin, UnknownNames, HiddenName,     NameOfSeveral, NoTable,    NotUsed,
+    AddedTable,    OtherJoin,    OtherKind,      OtherOrder,    NoLink,     MergedColumns,
+    NameInUse,     AliasChanged, NoColumn,       OtherGroups,   NotClosed,  NotSaid};
 
 } // namespace tern7::reasons
