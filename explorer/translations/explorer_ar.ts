@@ -1064,6 +1064,46 @@
         <source>Line, column</source>
         <translation>السطر، العمود</translation>
     </message>
+    <message>
+        <source>the parser does not read it</source>
+        <translation>لا يقرؤه المحلل</translation>
+    </message>
+    <message>
+        <source>no field has this expression</source>
+        <translation>لا يوجد حقل له هذا التعبير</translation>
+    </message>
+    <message>
+        <source>no operator has this form</source>
+        <translation>لا يوجد عامل بهذا الشكل</translation>
+    </message>
+    <message>
+        <source>a condition keeps this table, which nothing else uses</source>
+        <translation>يُبقي شرطٌ هذا الجدول الذي لا يستخدمه شيء آخر</translation>
+    </message>
+    <message>
+        <source>a condition keeps this join, which the structure makes by way of other tables</source>
+        <translation>يُبقي شرطٌ هذا الربط الذي تجريه البنية عبر جداول أخرى</translation>
+    </message>
+    <message>
+        <source>only the syntax sql1 leaves out the structure&apos;s outer join with it</source>
+        <translation>الصيغة sql1 وحدها تُسقط الربط الخارجي للبنية معه</translation>
+    </message>
+    <message>
+        <source>a table of the sub-select has the name that the structure gives another</source>
+        <translation>في الاستعلام الفرعي جدول يحمل الاسم الذي تعطيه البنية لجدول آخر</translation>
+    </message>
+    <message>
+        <source>several tables have a column of this name</source>
+        <translation>لعدة جداول عمود بهذا الاسم</translation>
+    </message>
+    <message>
+        <source>the query needs a further table</source>
+        <translation>يحتاج الاستعلام إلى جدول آخر</translation>
+    </message>
+    <message>
+        <source>the columns that the tables are joined by would come twice</source>
+        <translation>ستظهر الأعمدة التي رُبطت بها الجداول مرتين</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TResultModel</name>

@@ -1044,6 +1044,46 @@
         <source>Line, column</source>
         <translation>Zeile, Spalte</translation>
     </message>
+    <message>
+        <source>the parser does not read it</source>
+        <translation>der Parser liest es nicht</translation>
+    </message>
+    <message>
+        <source>no field has this expression</source>
+        <translation>kein Feld hat diesen Ausdruck</translation>
+    </message>
+    <message>
+        <source>no operator has this form</source>
+        <translation>kein Operator hat diese Form</translation>
+    </message>
+    <message>
+        <source>a condition keeps this table, which nothing else uses</source>
+        <translation>eine Bedingung behält diese Tabelle, die sonst nichts verwendet</translation>
+    </message>
+    <message>
+        <source>a condition keeps this join, which the structure makes by way of other tables</source>
+        <translation>eine Bedingung behält diese Verknüpfung, die die Struktur über andere Tabellen herstellt</translation>
+    </message>
+    <message>
+        <source>only the syntax sql1 leaves out the structure&apos;s outer join with it</source>
+        <translation>nur die Syntax sql1 lässt die äußere Verknüpfung der Struktur damit weg</translation>
+    </message>
+    <message>
+        <source>a table of the sub-select has the name that the structure gives another</source>
+        <translation>eine Tabelle der Unterabfrage heißt so, wie die Struktur eine andere nennt</translation>
+    </message>
+    <message>
+        <source>several tables have a column of this name</source>
+        <translation>mehrere Tabellen haben eine Spalte dieses Namens</translation>
+    </message>
+    <message>
+        <source>the query needs a further table</source>
+        <translation>die Abfrage braucht eine weitere Tabelle</translation>
+    </message>
+    <message>
+        <source>the columns that the tables are joined by would come twice</source>
+        <translation>die Spalten, über die die Tabellen verknüpft sind, kämen zweimal</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TResultModel</name>

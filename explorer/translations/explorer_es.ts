@@ -1044,6 +1044,46 @@
         <source>Line, column</source>
         <translation>Línea, columna</translation>
     </message>
+    <message>
+        <source>the parser does not read it</source>
+        <translation>el analizador no lo lee</translation>
+    </message>
+    <message>
+        <source>no field has this expression</source>
+        <translation>ningún campo tiene esta expresión</translation>
+    </message>
+    <message>
+        <source>no operator has this form</source>
+        <translation>ningún operador tiene esta forma</translation>
+    </message>
+    <message>
+        <source>a condition keeps this table, which nothing else uses</source>
+        <translation>una condición conserva esta tabla, que nada más usa</translation>
+    </message>
+    <message>
+        <source>a condition keeps this join, which the structure makes by way of other tables</source>
+        <translation>una condición conserva esta unión, que la estructura hace a través de otras tablas</translation>
+    </message>
+    <message>
+        <source>only the syntax sql1 leaves out the structure&apos;s outer join with it</source>
+        <translation>solo la sintaxis sql1 omite la unión externa que la estructura tiene con ella</translation>
+    </message>
+    <message>
+        <source>a table of the sub-select has the name that the structure gives another</source>
+        <translation>una tabla de la subconsulta tiene el nombre que la estructura da a otra</translation>
+    </message>
+    <message>
+        <source>several tables have a column of this name</source>
+        <translation>varias tablas tienen una columna con este nombre</translation>
+    </message>
+    <message>
+        <source>the query needs a further table</source>
+        <translation>la consulta necesita otra tabla</translation>
+    </message>
+    <message>
+        <source>the columns that the tables are joined by would come twice</source>
+        <translation>las columnas por las que se unen las tablas aparecerían dos veces</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TResultModel</name>

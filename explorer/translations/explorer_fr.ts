@@ -1044,6 +1044,46 @@
         <source>Line, column</source>
         <translation>Ligne, colonne</translation>
     </message>
+    <message>
+        <source>the parser does not read it</source>
+        <translation>l’analyseur ne le lit pas</translation>
+    </message>
+    <message>
+        <source>no field has this expression</source>
+        <translation>aucun champ n’a cette expression</translation>
+    </message>
+    <message>
+        <source>no operator has this form</source>
+        <translation>aucun opérateur n’a cette forme</translation>
+    </message>
+    <message>
+        <source>a condition keeps this table, which nothing else uses</source>
+        <translation>une condition garde cette table, que rien d’autre n’utilise</translation>
+    </message>
+    <message>
+        <source>a condition keeps this join, which the structure makes by way of other tables</source>
+        <translation>une condition garde cette jointure, que la structure fait par d’autres tables</translation>
+    </message>
+    <message>
+        <source>only the syntax sql1 leaves out the structure&apos;s outer join with it</source>
+        <translation>seule la syntaxe sql1 omet la jointure externe que la structure a avec elle</translation>
+    </message>
+    <message>
+        <source>a table of the sub-select has the name that the structure gives another</source>
+        <translation>une table de la sous-requête porte le nom que la structure donne à une autre</translation>
+    </message>
+    <message>
+        <source>several tables have a column of this name</source>
+        <translation>plusieurs tables ont une colonne de ce nom</translation>
+    </message>
+    <message>
+        <source>the query needs a further table</source>
+        <translation>la requête a besoin d’une table de plus</translation>
+    </message>
+    <message>
+        <source>the columns that the tables are joined by would come twice</source>
+        <translation>les colonnes par lesquelles les tables sont jointes viendraient deux fois</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TResultModel</name>

@@ -1039,6 +1039,46 @@
         <source>Line, column</source>
         <translation>行、列</translation>
     </message>
+    <message>
+        <source>the parser does not read it</source>
+        <translation>パーサーはこれを読みません</translation>
+    </message>
+    <message>
+        <source>no field has this expression</source>
+        <translation>この式を持つフィールドはありません</translation>
+    </message>
+    <message>
+        <source>no operator has this form</source>
+        <translation>この形の演算子はありません</translation>
+    </message>
+    <message>
+        <source>a condition keeps this table, which nothing else uses</source>
+        <translation>ほかに使われていないこの表は、条件として残されます</translation>
+    </message>
+    <message>
+        <source>a condition keeps this join, which the structure makes by way of other tables</source>
+        <translation>構造では別の表を経由するこの結合は、条件として残されます</translation>
+    </message>
+    <message>
+        <source>only the syntax sql1 leaves out the structure&apos;s outer join with it</source>
+        <translation>構造にあるこの表との外部結合を省くのは構文 sql1 だけです</translation>
+    </message>
+    <message>
+        <source>a table of the sub-select has the name that the structure gives another</source>
+        <translation>副問い合わせの表が、構造で別の表に付けられた名前を持っています</translation>
+    </message>
+    <message>
+        <source>several tables have a column of this name</source>
+        <translation>この名前の列が複数の表にあります</translation>
+    </message>
+    <message>
+        <source>the query needs a further table</source>
+        <translation>クエリにはもう一つの表が必要です</translation>
+    </message>
+    <message>
+        <source>the columns that the tables are joined by would come twice</source>
+        <translation>表を結合する列が二重に現れます</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TResultModel</name>

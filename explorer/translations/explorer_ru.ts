@@ -1049,6 +1049,46 @@
         <source>Line, column</source>
         <translation>Строка, столбец</translation>
     </message>
+    <message>
+        <source>the parser does not read it</source>
+        <translation>анализатор этого не читает</translation>
+    </message>
+    <message>
+        <source>no field has this expression</source>
+        <translation>ни у одного поля нет такого выражения</translation>
+    </message>
+    <message>
+        <source>no operator has this form</source>
+        <translation>ни у одного оператора нет такой формы</translation>
+    </message>
+    <message>
+        <source>a condition keeps this table, which nothing else uses</source>
+        <translation>эту таблицу, которую больше ничто не использует, сохраняет условие</translation>
+    </message>
+    <message>
+        <source>a condition keeps this join, which the structure makes by way of other tables</source>
+        <translation>это соединение, которое структура делает через другие таблицы, сохраняет условие</translation>
+    </message>
+    <message>
+        <source>only the syntax sql1 leaves out the structure&apos;s outer join with it</source>
+        <translation>только синтаксис sql1 опускает внешнее соединение структуры с ней</translation>
+    </message>
+    <message>
+        <source>a table of the sub-select has the name that the structure gives another</source>
+        <translation>таблица подзапроса носит имя, которое структура даёт другой таблице</translation>
+    </message>
+    <message>
+        <source>several tables have a column of this name</source>
+        <translation>столбец с таким именем есть в нескольких таблицах</translation>
+    </message>
+    <message>
+        <source>the query needs a further table</source>
+        <translation>запросу нужна ещё одна таблица</translation>
+    </message>
+    <message>
+        <source>the columns that the tables are joined by would come twice</source>
+        <translation>столбцы, по которым соединены таблицы, появились бы дважды</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TResultModel</name>

@@ -1,5 +1,8 @@
 #include "report_dialog.h"
 
+#include <algorithm>
+#include <string>
+
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -26,7 +29,7 @@ QString Outcome(TSQLReportKind kind) {
     return TReportDialog::tr("Left out");
 }
 
-/// What the core says in English, for the translation.
+/// What the core says in English, for the translation; the reasons are those of report_reasons.h.
 [[maybe_unused]] constexpr const char* coreTexts[] = {
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "alias"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "column"),
@@ -55,7 +58,28 @@ QString Outcome(TSQLReportKind kind) {
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure has no such table"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure joins it in another way"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "the structure joins these tables in another way"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the parser does not read it"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "no field has this expression"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "no operator has this form"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog",
+                      "a condition keeps this table, which nothing else uses"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog",
+                      "a condition keeps this join, which the structure makes by way of other tables"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog",
+                      "only the syntax sql1 leaves out the structure's outer join with it"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog",
+                      "a table of the sub-select has the name that the structure gives another"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "several tables have a column of this name"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog", "the query needs a further table"),
+    QT_TRANSLATE_NOOP("tern7::TReportDialog",
+                      "the columns that the tables are joined by would come twice"),
 };
+
+/// Behind a colon stands a name.
+QString Reason(const std::string& reason) {
+    const size_t end = std::min(reason.find(": "), reason.size());
+    return TReportDialog::tr(reason.substr(0, end).c_str()) + ToQt(reason.substr(end));
+}
 
 } // namespace
 
@@ -69,7 +93,7 @@ TReportDialog::TReportDialog(const TSQLReport& report, QWidget* parent) : QDialo
     for (const TSQLReportEntry& entry : report.Entries()) {
         auto* item = new QTreeWidgetItem(
             {Outcome(entry.kind), tr(entry.what.c_str()), ToQt(entry.text).simplified(),
-             tr(entry.reason.c_str()),
+             Reason(entry.reason),
              QStringLiteral("%1, %2").arg(entry.position.line).arg(entry.position.column)});
         for (int i = 0; i < item->columnCount(); ++i)
             item->setToolTip(i, item->text(i));

@@ -15,6 +15,7 @@
 #include <tern7/core/corekit/files.h>
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/global/messages.h>
+#include <tern7/core/query/read_sql/report_reasons.h>
 #include <tern7/ui/support/language_titles.h>
 
 namespace tern7 {
@@ -251,6 +252,9 @@ TEST_F(TWindowTest, LanguageSwitchesEverything) {
 
     window->SetLanguage("de");
     EXPECT_EQ(menuTitle(), "&Datei");
+    for (const std::string_view reason : reasons::All)
+        EXPECT_NE(QCoreApplication::translate("tern7::TReportDialog", reason.data()), ToQt(reason))
+            << reason;
     EXPECT_EQ(conditions.Editor().Stack().undoText(), QString("Bedingung hinzufügen"));
     EXPECT_TRUE(bar->Text().startsWith("1 Bedingung ist")) << FromQt(bar->Text());
     EXPECT_TRUE(window->Results().Summary().contains("Zeilen"));
