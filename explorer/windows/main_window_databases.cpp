@@ -17,6 +17,7 @@
 #include "../data/error_text.h"
 #include "../data/sample_database.h"
 #include "connection_dialog.h"
+#include "menu_text.h"
 #include "result_view.h"
 
 namespace tern7 {
@@ -201,8 +202,7 @@ void TMainWindow::FillRecentMenus() {
                              const std::function<void(const QString&)>& open) {
         menu.clear();
         for (const QString& entry : entries) {
-            QString shown = entry;
-            QAction* action = menu.addAction(shown.replace(u'&', QStringLiteral("&&")));
+            QAction* action = menu.addAction(MenuText(entry));
             connect(action, &QAction::triggered, this, [open, entry] { open(entry); });
         }
         menu.menuAction()->setEnabled(!entries.isEmpty());

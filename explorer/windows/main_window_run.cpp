@@ -1,6 +1,7 @@
 #include "main_window.h"
 
 #include <algorithm>
+#include <map>
 #include <optional>
 
 #include <QAction>
@@ -13,6 +14,7 @@
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/query/panel_menus.h>
 #include <tern7/core/query/row_text.h>
+#include <tern7/core/structure/offered_fields.h>
 #include <tern7/ui/controls/popup_menu.h>
 #include <tern7/ui/panels/filter_row_view.h>
 #include <tern7/ui/panels/query_panel.h>
@@ -22,6 +24,7 @@
 
 #include "../data/error_text.h"
 #include "../run/background.h"
+#include "menu_text.h"
 #include "parameter_dialog.h"
 #include "result_view.h"
 
@@ -349,11 +352,14 @@ void TMainWindow::AddCondition() {
 void TMainWindow::AddColumn() {
     if (!session) return;
     auto* menu = new TKPopupMenu(this);
-    const TKCustomDBStructure& structure = session->Structure();
-    const auto add = [this](TMenuItem& into, TDSField* field) {
-        if (!field->UseInResult()) return;
-        TMenuItem& item = into.Add(ToQt(field->DisplayName()).replace(u'&', QStringLiteral("&&")));
-        item.OnClick = [this, id = field->ID()](TMenuItem*) {
+    std::map<std::string_view, TMenuItem*> groups;
+    for (const TOfferedField& offered : OfferedFields(session->Structure(), TFieldUse::Result)) {
+        TMenuItem*& into = groups[offered.group];
+        if (!into)
+            into = offered.group.empty() ? &menu->Items()
+                                         : &menu->Items().Add(MenuText(ToQt(offered.group)));
+        TMenuItem& item = into->Add(MenuText(ToQt(offered.field->DisplayName())));
+        item.OnClick = [this, id = offered.field->ID()](TMenuItem*) {
             TDSField* chosen = session ? session->Structure().FieldByID(id) : nullptr;
             if (!chosen) return;
             Step(QT_TRANSLATE_NOOP("tern7::TKQueryEditor", "Add column"), [&] {
@@ -361,20 +367,8 @@ void TMainWindow::AddColumn() {
                 list.Insert(list.GetCount(), list.GetUniqCaption(chosen->DisplayName()), {chosen});
             });
         };
-    };
-    for (int g = 0; g < structure.FieldGroups().GetCount(); ++g) {
-        const TDSFieldGroup& group = *structure.FieldGroups().GetItem(g);
-        TMenuItem& item =
-            menu->Items().Add(ToQt(group.GroupName()).replace(u'&', QStringLiteral("&&")));
-        for (int i = 0; i < group.GetCount(); ++i)
-            add(item, group.GetItem(i));
     }
-    const TDSFieldList& root = structure.RootGroup();
-    for (int i = 0; i < root.GetCount(); ++i)
-        add(menu->Items(), root.GetItem(i));
-    connect(menu, &TKPopupMenu::closed, menu, &QObject::deleteLater);
-    const QRect place = columns->rect();
-    menu->PopupAt({columns->mapToGlobal(place.topLeft()), QSize(place.width(), 0)});
+    PopUpAtColumns(menu);
 }
 
 } // namespace tern7

@@ -13,6 +13,8 @@
 #include <tern7/ui/panels/result_fields_panel.h>
 #include <tern7/ui/support/text.h>
 
+#include "menu_text.h"
+
 namespace tern7 {
 
 namespace {
@@ -27,12 +29,11 @@ QString WayText(const std::vector<TDSTable*>& way) {
     return names.join(QStringLiteral(" – "));
 }
 
-QString MenuText(QString text) {
-    return text.replace(u'&', QStringLiteral("&&"));
-}
-
 QString Link(const char* target, const QString& text) {
-    return QStringLiteral("<a href=\"%1\">%2</a>").arg(QLatin1String(target), text.toHtmlEscaped());
+    // three points do not go on a line of their own
+    const QString shown =
+        text.toHtmlEscaped().replace(QStringLiteral(" ..."), QStringLiteral("&nbsp;..."));
+    return QStringLiteral("<a href=\"%1\">%2</a>").arg(QLatin1String(target), shown);
 }
 
 } // namespace

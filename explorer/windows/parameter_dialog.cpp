@@ -10,6 +10,8 @@
 #include <tern7/core/query/query.h>
 #include <tern7/ui/support/text.h>
 
+#include "menu_text.h"
+
 namespace tern7 {
 
 TParameterDialog::TParameterDialog(const TKQuery& query, QWidget* parent) : QDialog(parent) {
@@ -18,7 +20,7 @@ TParameterDialog::TParameterDialog(const TKQuery& query, QWidget* parent) : QDia
     auto* form = new QFormLayout(inner);
     for (TSQLParam* param : query.AllParams()) {
         auto* edit = new QLineEdit(ToQt(param->Value()));
-        form->addRow(ToQt(param->Caption()).replace(u'&', QStringLiteral("&&")) + u':', edit);
+        form->addRow(MenuText(ToQt(param->Caption())) + u':', edit);
         edit->setAccessibleName(ToQt(param->Caption()));
         fields.emplace_back(param, edit);
     }

@@ -20,7 +20,7 @@ namespace {
     throw EKTernError(std::string("Can not write to the standard output: ") + std::strerror(errno));
 }
 
-constexpr std::string_view mask = "***";
+constexpr std::string_view hidden = "***";
 
 /// The passwords of the addresses in a line: between the first ":" behind "://" and the last "@"
 /// before the next address.
@@ -30,7 +30,7 @@ void MaskAddresses(std::string& line) {
         const size_t at = line.rfind('@', line.find("://", start + 3));
         const size_t colon = line.find(':', start + 3);
         if (at == std::string::npos || at < start || colon > at) continue;
-        line.replace(colon + 1, at - colon - 1, mask);
+        line.replace(colon + 1, at - colon - 1, hidden);
     }
 }
 
@@ -39,7 +39,7 @@ void MaskKey(std::string& line, std::string_view key) {
     const size_t start = LowerCase(line).find(key);
     if (start == std::string::npos) return;
     const size_t value = start + key.size();
-    line.replace(value, std::min(line.find(';', value), line.size()) - value, mask);
+    line.replace(value, std::min(line.find(';', value), line.size()) - value, hidden);
 }
 
 /// Whatever went wrong, an address that was given in the wrong place included.

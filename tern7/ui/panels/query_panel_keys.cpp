@@ -20,7 +20,7 @@ namespace {
 using TCommand = void (*)(TKQueryPanel& panel);
 
 struct TKey {
-    int key;
+    Qt::Key key;
     Qt::KeyboardModifiers modifiers;
     TCommand command;
     const char* name; // as steps are called
@@ -67,7 +67,7 @@ TCommand CommandOf(const QKeyEvent& event) {
 std::vector<std::pair<QKeySequence, QString>> TKQueryPanel::Keys() {
     std::vector<std::pair<QKeySequence, QString>> list;
     for (const TKey& known : panelKeys)
-        list.emplace_back(QKeySequence(known.modifiers.toInt() | known.key),
+        list.emplace_back(QKeySequence(QKeyCombination(known.modifiers, known.key)),
                           QCoreApplication::translate("tern7::TKQueryEditor", known.name));
     return list;
 }
