@@ -248,7 +248,7 @@ std::string TStatementWriter::On(const TScope& scope, TStrings& where) {
             if ((link.from == own.table && link.to == scope[i].table) ||
                 (link.to == own.table && link.from == scope[i].table))
                 possible.emplace_back(&link, &scope[i]);
-    for (unsigned count = OneIn(8) ? Below(3) : 1; count > 0 && !possible.empty(); --count) {
+    for (unsigned count = OneIn(5) ? Below(3) : 1; count > 0 && !possible.empty(); --count) {
         const auto [link, other] = AnyOf(possible);
         const bool isFrom = link->from == own.table;
         for (const auto& [from, to] : link->pairs) {
@@ -260,9 +260,12 @@ std::string TStatementWriter::On(const TScope& scope, TStrings& where) {
         }
     }
     if (OneIn(12)) parts.push_back(Comparison(scope));
-    if (OneIn(16)) { // two other tables
+    if (OneIn(8)) { // two other tables
         const TWrittenTable &first = AnyOf(scope), &second = AnyOf(scope);
-        parts.push_back(Named(scope, first, "id") + " = " + Named(scope, second, "id"));
+        for (const TLinkOf& link : links)
+            if (link.from == first.table && link.to == second.table && parts.size() < 3)
+                parts.push_back(Named(scope, first, link.pairs[0].first) + " = " +
+                                Named(scope, second, link.pairs[0].second));
     }
     if (parts.empty()) parts.emplace_back("1 = 1");
     std::shuffle(parts.begin(), parts.end(), random);
