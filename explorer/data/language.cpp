@@ -38,7 +38,7 @@ void Replace(QPointer<QTranslator>& installed, const QString& file, const QStrin
 QString SystemLanguage() {
     const auto& known = TitleLanguages();
     for (const QString& name : QLocale::system().uiLanguages()) {
-        const QString code = name.section(u'-', 0, 0);
+        QString code = name.section(u'-', 0, 0);
         if (std::any_of(known.begin(), known.end(), [&](auto& each) { return each.code == code; }))
             return code;
     }

@@ -56,7 +56,7 @@ void Make(const QString& path) {
 
 QString SampleDatabase() {
     const QDir folder(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
-    const QString path = folder.filePath(QStringLiteral("sample.db"));
+    QString path = folder.filePath(QStringLiteral("sample.db"));
     if (QFile::exists(path)) return path;
     if (!folder.mkpath(QStringLiteral(".")))
         throw EKDBInfoError("The folder can not be made: " + FromQt(folder.path()));

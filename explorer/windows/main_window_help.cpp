@@ -78,8 +78,7 @@ QString LabelKeys() {
 
 /// An action as it is named in running text, with its key.
 QString Named(const QAction& action) {
-    const QString name =
-        QStringLiteral("<b>%1</b>").arg(Isolated(action.iconText()).toHtmlEscaped());
+    QString name = QStringLiteral("<b>%1</b>").arg(Isolated(action.iconText()).toHtmlEscaped());
     if (action.shortcut().isEmpty()) return name;
     return QStringLiteral("%1 (%2)").arg(name, KeyText(action.shortcut()));
 }

@@ -44,6 +44,7 @@ void TMainWindow::ShowTables() {
     const TRTableList& list = conditions->QResult().ResultTables();
     const bool isChosen = !conditions->MainTableName().isEmpty();
     std::vector<TDSTable*> joined;
+    joined.reserve(static_cast<size_t>(list.GetCount()));
     for (int i = 0; i < list.GetCount(); ++i)
         joined.push_back(list[i].Table);
     const std::vector<TDSTable*> ends = JoinEnds(conditions->Query());

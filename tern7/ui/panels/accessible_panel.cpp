@@ -189,7 +189,7 @@ private:
 
     bool IsFresh(const TFilterRow* row) const {
         if (allFresh) return !rows.contains(row);
-        while (row && !fresh.count(row))
+        while (row && !fresh.contains(row))
             row = row->Parent();
         return row;
     }
@@ -201,7 +201,7 @@ private:
         const auto goes = [&](const TFilterRow* row) {
             while (row && row->Parent() != &parent)
                 row = row->Parent();
-            return row && going.count(row) > 0;
+            return row && going.contains(row);
         };
         std::erase_if(fresh, goes);
         QList<QAccessible::Id> told;

@@ -154,6 +154,7 @@ void TFilterRowView::Place(int line, int left) {
     const TRowGeometry& geometry = panel.Geometry();
     const std::vector<QWidget*> widgets = Widgets();
     std::vector<int> widths;
+    widths.reserve(widgets.size());
     for (const QWidget* widget : widgets)
         widths.push_back(WidthOf(*widget));
     const std::vector<int> lefts = geometry.Lefts(left, widths);
