@@ -23,8 +23,10 @@ TSQLOptions ParseOptions(const std::string& list) {
             continue;
         }
         std::string known;
-        for (int i = 0; i < SQLOptionCount; ++i)
-            known += (i ? ", " : "") + std::string(SQLOptionToStr(static_cast<TSQLOption>(i)));
+        for (int i = 0; i < SQLOptionCount; ++i) {
+            if (i > 0) known += ", ";
+            known += SQLOptionToStr(static_cast<TSQLOption>(i));
+        }
         throw EWrongUsage("--options is none or a list of " + known + ", not \"" + name + "\"");
     }
     return options;

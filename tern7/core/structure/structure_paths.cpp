@@ -219,7 +219,7 @@ const TDSPath& TKCustomDBStructure::GetPath(const TDSTable& start, const TDSTabl
     RequireOwn(end);
     std::sort(pairs.begin(), pairs.end());
     if (!detours || detours->avoided != pairs)
-        detours.reset(new TDetours{pairs, {tables, links.GetCount(), pairs}});
+        detours = std::make_unique<TDetours>(tables, links.GetCount(), std::move(pairs));
     TDSPathTree& tree = detours->paths.TreeOf(static_cast<uint32_t>(start.Index()));
     if (!tree.GrowTo(static_cast<uint32_t>(end.Index())))
         throw EKDBStructError(std::string(messages::NoPath));

@@ -109,6 +109,9 @@ struct TKCustomDBStructure::TPathTrees {
 
 /// The same for paths that avoid joins.
 struct TKCustomDBStructure::TDetours {
+    TDetours(const TKObjectList<TDSTable>& tables, int linkCount, TDSLinkGraph::TPairs pairs)
+        : avoided(std::move(pairs)), paths(tables, linkCount, avoided) {}
+
     TDSLinkGraph::TPairs avoided;
     TPathTrees paths;
 };

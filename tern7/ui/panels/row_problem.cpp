@@ -93,7 +93,7 @@ TProblemTexts ValueProblem(const TFilterCond& condition, int n) {
 QString ProblemIn(const TFilterBracket& bracket) {
     for (const auto& row : bracket.Rows()) {
         const TFilterBracket* inner = row->AsBracket();
-        const QString problem = inner && inner->GetEnabled() ? ProblemIn(*inner) : RowProblem(*row);
+        QString problem = inner && inner->GetEnabled() ? ProblemIn(*inner) : RowProblem(*row);
         if (!problem.isEmpty()) return problem;
     }
     return {};

@@ -66,7 +66,7 @@ QTime ReadLocalTime(const QString& text, const QLocale& locale) {
 
 QDateTime ReadLocalDateTime(const QString& text, const QLocale& locale) {
     const QString trimmed = Plain(text);
-    const QDateTime local = locale.toDateTime(trimmed, LocalDateTimeFormat(locale));
+    QDateTime local = locale.toDateTime(trimmed, LocalDateTimeFormat(locale));
     if (local.isValid()) return local;
     const QDate dateAlone = ReadLocalDate(trimmed, locale);
     if (dateAlone.isValid()) return {dateAlone, QTime(0, 0)};
