@@ -11,6 +11,14 @@ namespace tern7 {
 
 TColumnDrag::TColumnDrag(TKResultFieldsPanel& owner) : TButtonDrag(owner), panel(owner) {}
 
+TResultFieldRow* TColumnDrag::Row() const {
+    return row;
+}
+
+void TColumnDrag::Ended() {
+    row = nullptr;
+}
+
 int TColumnDrag::LineHeight() const {
     return panel.RowHeight() + panel.Appearance().RowSpace();
 }

@@ -17,13 +17,13 @@ public:
     explicit TColumnDrag(TKResultFieldsPanel& owner);
 
     /// The row that is being dragged; none when there is no drag.
-    TResultFieldRow* Row() const { return row; }
+    TResultFieldRow* Row() const;
 
 protected:
     bool Begin(QAbstractButton& button) override;
     QRect PlaceAt(const QPoint& inViewport) const override;
     void Drop(const QPoint& inViewport, bool copy) override;
-    void Ended() override { row = nullptr; }
+    void Ended() override;
     int LineHeight() const override;
 
 private:
