@@ -84,14 +84,6 @@ TEST_F(TConditionText, QuotesAreDoubledWhateverWayTheValueCame) {
     EXPECT_THAT(SQL(), testing::HasSubstr("C.city = 'Hague'"));
 }
 
-TEST_F(TConditionText, DatesOfListsWithoutQuotes) {
-    structure.SQLFormats().SetDate("yyyymmdd");
-    structure.SetQuotedTypes({TFieldType::ftString});
-    query.CheckValues = false;
-    Add("O.placed", "InList", "2024-02-01,soon,2024-03-01");
-    EXPECT_THAT(SQL(), testing::HasSubstr("O.placed in (20240201,soon,20240301)"));
-}
-
 TEST_F(TConditionText, BareValuesAreOneTokenEach) {
     Add("C.city", "Equal", "x");
     query.BuildQuery();

@@ -248,20 +248,6 @@ TEST_F(QueryFormat, UnknownThingsSurvive) {
     EXPECT_EQ(Cond(3).Operator(), nullptr);
 }
 
-TEST_F(QueryFormat, SubQueriesNest) {
-    std::string text = query.GetQueryString();
-    for (int depth = 1; depth <= 3; ++depth) {
-        query.ClearAll();
-        Add("Order number", "InQuery")->SetSubQuery(text, {});
-        text = query.GetQueryString();
-    }
-    EXPECT_EQ(Reread(text), text);
-    TKQuery* innermost = &query;
-    while (innermost->Root().GetRowCount() > 0)
-        innermost = innermost->Root().GetRow(0)->AsCond()->NestedQuery();
-    EXPECT_EQ(innermost->Outer()->Outer()->Outer(), &query);
-}
-
 TEST_F(QueryFormat, SubQueriesNestNoDeeperThan200) {
     std::vector<std::unique_ptr<TKQuery>> chain; // the outer one and 198 inside of it
     for (int depth = 0; depth < 199; ++depth)
@@ -274,6 +260,19 @@ TEST_F(QueryFormat, SubQueriesNestNoDeeperThan200) {
     EXPECT_THROW(row->NestedQuery()->Root().GetFirstCondition()->NestedQuery(), EKQueryPanelError);
     while (!chain.empty())
         chain.pop_back(); // the innermost first
+}
+
+TEST_F(QueryFormat, ManyRowsAndParameters) {
+    // 10,000 rows, half of them parameters: reading goes through them once
+    TFilterBracket* bracket = query.Root().AddBracket();
+    for (int i = 0; i < 10000; ++i) {
+        if (i % 100 == 0) bracket = query.Root().AddBracket();
+        Add(*bracket, "City", "Equal", "x")->SetValue1IsParam(i % 2 == 0);
+    }
+    const std::string text = query.GetQueryString();
+    query.SetQueryString(text);
+    EXPECT_EQ(query.QResult().GetParamCount(), 5000);
+    EXPECT_EQ(query.GetQueryString(), text);
 }
 
 TEST_F(QueryFormat, ContentsChangeAndObjectsStay) {

@@ -1,10 +1,8 @@
-// Random queries: what is built is imported and built again as the same text, in three syntaxes
-// with any options.
+// Random queries: the query's text, and the import of what is built, are built again as the same
+// statement, in three syntaxes with any options.
 
-#include <algorithm>
-#include <functional>
-#include <optional>
 #include <random>
+#include <regex>
 
 #include <gtest/gtest.h>
 
@@ -173,36 +171,22 @@ std::string Built(TKQuery& query) {
     return query.QResult().GetSQL().Text();
 }
 
-/// Takes rows and columns away as long as the check goes on failing.
-void MakeSmaller(TKQuery& query, const std::function<bool(TKQuery&)>& fails) {
-    const auto still = [&] {
-        try {
-            return fails(query);
-        } catch (const EKTernError&) {
-            return false;
-        }
-    };
-    const std::function<void(TFilterBracket&)> shrink = [&](TFilterBracket& bracket) {
-        for (int i = bracket.GetRowCount(); i-- > 0;) {
-            auto taken = bracket.TakeRow(bracket.GetRow(i));
-            if (!still()) bracket.InsertRow(i, std::move(taken));
-        }
-        for (const auto& row : bracket.Rows())
-            if (row->IsBracket()) shrink(*row->AsBracket());
-    };
-    shrink(query.Root());
-    TRFieldList& fields = query.QResult().ResultFields();
-    for (int i = fields.GetCount(); i-- > 0;) {
-        auto taken = fields.TakeField(i);
-        if (!still()) fields.PutField(i, std::move(taken));
-    }
-    for (int i = 0; i < SQLOptionCount; ++i) {
-        const TSQLOptions options = query.SQLOptions();
-        TSQLOptions less = options;
-        less.Exclude(static_cast<TSQLOption>(i));
-        query.SetSQLOptions(less);
-        if (!still()) query.SetSQLOptions(options);
-    }
+/// Parameters are numbered as the rows stand, not as they were made.
+std::string WithoutNumbers(const std::string& sql) {
+    static const std::regex parameter(":Param[0-9]+");
+    return std::regex_replace(sql, parameter, ":Param");
+}
+
+/// What another query makes of the text of this one.
+std::string BuiltFromText(TKQuery& query) {
+    TKQuery again(query.DbStruct());
+    again.SetSQLSyntax(query.SQLSyntax());
+    for (TKQuery* each : {&query, &again})
+        each->SaveSQLOptions = each->SaveMainTable = true;
+    const std::string text = query.GetQueryString();
+    again.SetQueryString(text);
+    EXPECT_EQ(again.GetQueryString(), text);
+    return Built(again);
 }
 
 /// Empty when the statement comes back; else what came.
@@ -221,86 +205,9 @@ std::string ImportedOtherwise(TKCustomDBStructure& structure, const std::string&
     return text == sql && told.empty() ? std::string() : text + "\n" + told;
 }
 
-/// The rows that take part, as ParseSQL promises to keep them: a bracket of one row is that row, a
-/// parameter has no name, a pattern that is one is looked for anywhere. Nothing when a negation of
-/// one row would have to be told from that of its operator.
-std::optional<std::string> Shape(const TFilterBracket& bracket);
-
-std::optional<std::string> Shape(const TFilterCond& row) {
-    std::string name = row.IsRecognized() ? row.OperatorName() : "?" + row.SQLText();
-    const bool isLike =
-        row.IsRecognized() && row.Operator()->SQLName().find("like") != std::string::npos;
-    if (isLike && row.Param(1)) name = name.starts_with("Not") ? "NotContains" : "Contains";
-    std::string text = std::to_string(row.FieldID()) + " " + name;
-    if (row.IsSubQueryOperator()) {
-        const std::optional<std::string> inner = Shape(row.NestedQuery()->Root());
-        return inner ? std::optional(text + " " + *inner) : std::nullopt;
-    }
-    for (int n = 1; n <= row.ValueCount(); ++n)
-        text += "|" + (row.Param(n) ? std::string(":") : row.Value(n));
-    return text;
-}
-
-std::optional<std::string> Shape(const TFilterBracket& bracket) {
-    TStrings rows;
-    for (const auto& row : bracket.Rows()) {
-        if (!row->GetEnabled()) continue;
-        if (row->AsCond() && row->AsCond()->Unfinished() != TUnfinished::No) continue;
-        const std::optional<std::string> shape =
-            row->IsBracket() ? Shape(*row->AsBracket()) : Shape(*row->AsCond());
-        if (!shape) return std::nullopt;
-        if (!shape->empty()) rows.push_back(*shape);
-    }
-    if (rows.size() == 1 && IsNegated(bracket.LinkType())) return std::nullopt;
-    if (rows.size() < 2) return JoinStrings(rows, "");
-    static const char* const words[] = {"all", "any", "none", "notall"};
-    return std::string("[") + words[static_cast<int>(bracket.LinkType())] + " " +
-           JoinStrings(rows, " ") + "]";
-}
-
-/// Fields, formulas and sorting.
-std::string ColumnsOf(const TKQuery& query) {
-    std::string text;
-    for (const auto& field : query.QResult().ResultFields()) {
-        for (char c : field->Formula())
-            if (c != ' ') text += c;
-        for (const TDSField* used : field->Fields().Items())
-            text += " " + std::to_string(used->ID());
-        text += " " + std::to_string(static_cast<int>(field->Sorting())) + "\n";
-    }
-    return text + query.QResult().OrderByText();
-}
-
 using RoundTrip = TWideShop;
 
-TEST_F(RoundTrip, ParseSQLKeepsRowsAndColumns) {
-    constexpr uint32_t seeds = 2000;
-    int checked = 0;
-    for (uint32_t seed = 1; seed <= seeds && !HasFailure(); ++seed) {
-        TKQuery made(&structure), again(&structure);
-        TMaker(structure, seed).Fill(made);
-        made.SetSQLSyntax(TSQLSyntax::ssSQL2);
-        TSQLOptions options = made.SQLOptions();
-        options.Exclude(TSQLOption::soSortByNames);
-        made.SetSQLOptions(options);
-        made.QResult().ResultFields().SetJustSorting(false);
-        const std::string sql = Built(made);
-        const std::optional<std::string> shape = Shape(made.Root());
-        if (!shape || !made.QResult().GroupByText().empty()) continue;
-        ++checked;
-        SCOPED_TRACE("seed " + std::to_string(seed) + "\n" + sql);
-        again.SetSQLOptions(options);
-        again.ParseSQL(sql);
-        EXPECT_EQ(Shape(again.Root()), shape);
-        again.SetMainTableName(made.MainTableName());
-        again.BuildQuery();
-        EXPECT_EQ(ColumnsOf(again), ColumnsOf(made));
-        EXPECT_TRUE(again.SQLReport().Entries().empty());
-    }
-    EXPECT_GT(checked, 500);
-}
-
-TEST_F(RoundTrip, ImportGivesTheSameStatement) {
+TEST_F(RoundTrip, TextAndImportGiveTheSameStatement) {
     constexpr uint32_t seeds = 3000;
     int failed = 0, built = 0;
     for (uint32_t seed = 1; seed <= seeds && failed < 3; ++seed) {
@@ -315,12 +222,9 @@ TEST_F(RoundTrip, ImportGivesTheSameStatement) {
             continue;
         }
         ++built;
+        ASSERT_EQ(WithoutNumbers(BuiltFromText(made)), WithoutNumbers(sql)) << "seed " << seed;
         if (ImportedOtherwise(structure, sql).empty()) continue;
         ++failed;
-        MakeSmaller(made, [&](TKQuery& less) {
-            return !ImportedOtherwise(structure, Built(less)).empty();
-        });
-        sql = Built(made);
         ADD_FAILURE() << "seed " << seed << "\n"
                       << sql << "\n--- came back as\n"
                       << ImportedOtherwise(structure, sql);

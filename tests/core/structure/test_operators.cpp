@@ -44,30 +44,6 @@ TEST(Operators, OptionalGroupsComeAndGo) {
                             "GreaterOrEqual", "IsNull"));
 }
 
-TEST(Operators, TemplatesOfTheDefaults) {
-    TKCustomDBStructure structure;
-    const struct {
-        const char *name, *sqlTemplate;
-        int params;
-    } cases[] = {
-        {"GreaterThan", "@f >'@1'", 1}, // without a blank, as statements are recognised by it
-        {"IsNull", "@f is null", 0},
-        {"InList", "@f in (@1)", 1},
-        {"NotContains", "not(@f like '%@1%')", 1},
-        {"Between", "@f between '@1' and '@2'", 2},
-    };
-    for (const auto& each : cases) {
-        const TDSOperator* op = structure.OperatorByName(each.name);
-        ASSERT_TRUE(op);
-        EXPECT_EQ(op->SQLName(), each.sqlTemplate);
-        EXPECT_EQ(op->GetParamCount(), each.params);
-        EXPECT_EQ(structure.OperatorByExpr(each.sqlTemplate), op);
-    }
-    EXPECT_EQ(structure.OperatorByName("between")->ValFormat(), "and");
-    EXPECT_TRUE(structure.PlaceholderOperator()->IsPlaceholder());
-    EXPECT_EQ(structure.PlaceholderOperator()->SQLName(), "");
-}
-
 TEST(Operators, CaptionsComeFromTheLines) {
     TKCustomDBStructure structure;
     TStrings lines = structure.DefOperators();

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <tern7/core/corekit/files.h>
-#include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/titles/default_titles.h>
 #include <tern7/core/titles/titles.h>
 #include <tern7/core/titles/titles_text.h>
@@ -30,19 +29,6 @@ TStrings With(TStrings lines, std::initializer_list<std::pair<size_t, const char
 }
 
 } // namespace
-
-TEST(DefaultTitles, HaveEveryKeyInItsSection) {
-    EXPECT_EQ(ReadSLSections(DefaultQueryTitles()),
-              (TStrings{"Query Panel", "Result Fields Editor"}));
-    const TStrings panel = XReadSLSectionValues(DefaultQueryTitles(), "Query Panel");
-    const TStrings editor = XReadSLSectionValues(DefaultQueryTitles(), "Result Fields Editor");
-    EXPECT_EQ(panel.size(), 17u);
-    EXPECT_EQ(editor.size(), 31u);
-    EXPECT_EQ(DefaultResultFieldsPanelTitles().size(), 7u);
-    EXPECT_EQ(ValueOf(panel, "ttlFilter"), "Choose records where @ of the following apply");
-    EXPECT_EQ(ValueOf(editor, "ttlMgsDeleteField"), "Delete Field \"%s\"?");
-    EXPECT_EQ(DefaultResultFieldsPanelTitles().back(), "ttlClickToAdd=Click to add new field");
-}
 
 TEST(LoadTitles, MergesSectionBySection) {
     const struct {
