@@ -134,17 +134,6 @@ TEST(Edit, EditorFollowsReadingDirection) {
     EXPECT_EQ(label->EditControl()->geometry().right(), label->geometry().right());
 }
 
-TEST(Edit, LongTextStaysInside) {
-    TControlForm form;
-    auto* label = form.Add<TDropDownEdit>(300, 40);
-    label->SetValue(QString(500, 'x'));
-    ASSERT_TRUE(form.Open());
-    label->DropDown();
-    ASSERT_TRUE(label->EditControl()->geometry().right() < form.width());
-    Press(Qt::Key_Return);
-    EXPECT_EQ(label->Value().size(), 500);
-}
-
 TEST(Edit, FocusThatStays) {
     TControlForm form;
     auto* label = form.Add<TDropDownEdit>();
@@ -216,20 +205,9 @@ TEST(Edit, LineBreaksAndLongValuesSurvive) {
     label->SetValue(value);
     ASSERT_TRUE(form.Open());
     label->DropDown();
+    EXPECT_LT(label->EditControl()->geometry().right(), form.width());
     Press(Qt::Key_Return);
     ASSERT_TRUE(label->Value() == value);
-}
-
-TEST(Edit, DoubleClickHandlerChangesText) {
-    TControlForm form;
-    auto* label = form.Add<TDropDownEdit>();
-    label->SetValue("old");
-    label->OnEditDblClick = [](TDropDownLabel*, QString& text) { text += " and new"; };
-    ASSERT_TRUE(form.Open());
-    label->DropDown();
-    QTest::mouseDClick(label->EditControl(), Qt::LeftButton);
-    Press(Qt::Key_Return);
-    EXPECT_EQ(label->Value(), "old and new");
 }
 
 TEST(Edit, DestroyedWhileOpen) {

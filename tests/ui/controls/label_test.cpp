@@ -1,28 +1,11 @@
 #include <cstdlib>
 
-#include <QAccessible>
 #include <QSignalSpy>
 
 #include <tern7/DDLabel.h>
 #include <ui/controls/control_form.h>
 
 namespace tern7 {
-
-TEST(Label, StartsEmptyAndOpen) {
-    TDropDownLabel label;
-    EXPECT_EQ(label.text(), "_____");
-    EXPECT_EQ(label.Value(), "");
-    ASSERT_TRUE(!label.Dropped() && !label.Fixed() && !label.Focused() && !label.EditMode());
-    EXPECT_EQ(label.cursor().shape(), Qt::PointingHandCursor);
-    int image = 7;
-    label.DoGetGroupImageIndex("g", image);
-    EXPECT_EQ(image, -1);
-    label.OnGetItemImageIndex = [](const QString& group, const QString& item, int& index) {
-        if (group == "g" && item == "i") index = 3;
-    };
-    label.DoGetItemImageIndex("g", "i", image);
-    EXPECT_EQ(image, 3);
-}
 
 TEST(Label, CaptionShowsAmpersandsAndPlaceholder) {
     const struct {
@@ -139,26 +122,6 @@ TEST(Label, MenuKeyAndRightButton) {
     ASSERT_TRUE(!label->Dropped());
 }
 
-TEST(Label, ArrowsReachNeighbours) {
-    TControlForm form;
-    auto* field = form.Add<TDropDownLabel>(20, 20);
-    auto* value = form.Add<TDropDownLabel>(120, 20);
-    auto* below = form.Add<TDropDownLabel>(100, 60);
-    ASSERT_TRUE(form.Open());
-    field->setFocus();
-    Press(Qt::Key_Right);
-    ASSERT_TRUE(value->hasFocus());
-    Press(Qt::Key_Down);
-    ASSERT_TRUE(below->hasFocus());
-    Press(Qt::Key_Left);
-    ASSERT_TRUE(below->hasFocus());
-    Press(Qt::Key_Up);
-    ASSERT_TRUE(value->hasFocus());
-    value->SetArrowKeys(false);
-    Press(Qt::Key_Left);
-    ASSERT_TRUE(value->hasFocus());
-}
-
 TEST(Label, ErrorInHandlerLeavesLabelIdle) {
     TControlForm form;
     auto* label = form.Add<TDropDownLabel>();
@@ -258,31 +221,6 @@ TEST(Label, BracketsTurnWithTheLineAndTextsDoNot) {
     EXPECT_GT(leftInk(")", Qt::RightToLeft), 50);
     EXPECT_LT(leftInk("1.... W", Qt::LeftToRight), 50);
     EXPECT_LT(leftInk("1.... W", Qt::RightToLeft), 50) << "a text keeps its order";
-}
-
-TEST(Label, ReadByScreenReaders) {
-    TControlForm form;
-    auto* label = form.Add<TDropDownLabel>();
-    label->setAccessibleName("City is equal to");
-    label->SetValue("Berlin");
-    ASSERT_TRUE(form.Open());
-    int opened = 0;
-    label->OnCustomDropDown = [&](TDropDownLabel*, QString&, bool&) { ++opened; };
-    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(label);
-    EXPECT_EQ(reader->role(), QAccessible::ButtonMenu);
-    EXPECT_EQ(reader->text(QAccessible::Name), "City is equal to");
-    EXPECT_EQ(reader->text(QAccessible::Value), "Berlin");
-    EXPECT_EQ(reader->text(QAccessible::Description), "press to change");
-    ASSERT_TRUE(reader->state().hasPopup && reader->state().focusable && reader->state().collapsed);
-    reader->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(opened, 1);
-    label->setAccessibleName({});
-    label->SetValue({});
-    EXPECT_EQ(reader->text(QAccessible::Name), "empty");
-    label->SetFixed(true);
-    EXPECT_EQ(reader->text(QAccessible::Description), "");
-    ASSERT_TRUE(!reader->actionInterface()->actionNames().contains(
-        QAccessibleActionInterface::pressAction()));
 }
 
 } // namespace tern7

@@ -476,29 +476,6 @@ TEST(Popup, WorksOffItsParent) {
     delete t.label;
 }
 
-TEST(Popup, WrongSplitIsReportedAndLeavesTheLabelIdle) {
-    TOpenPopup t(1, 0);
-    ASSERT_TRUE(t.form.Open());
-    t.label->Menu()->SetPopupSplitType(pstFillFirst);
-    ASSERT_NO_THROW(t.label->DropDown());
-    Press(Qt::Key_Escape);
-    t.WaitForEnd();
-    t.label->ClearAll();
-    const int lines = t.form.screen()->availableGeometry().height();
-    for (int i = 0; i < lines; ++i) {
-        t.label->AddItem("", "x", "x");
-        try {
-            t.label->DropDown();
-            t.label->DropUp(false);
-        } catch (const EDDLabelError& error) {
-            EXPECT_STREQ(error.what(), "Menu index out of range");
-            EXPECT_FALSE(t.label->Dropped());
-            return;
-        }
-    }
-    FAIL() << "no multiple of the limit was met";
-}
-
 TEST(Popup, DestroyedWhileOpen) {
     for (const QString event : {"outside", "form", "group", "item", "after down", "before up",
                                 "value", "after up", "dismissed", "cleared"}) {

@@ -9,22 +9,6 @@ namespace tern7 {
 
 class TPanelAppearanceTest : public TPanelTest {};
 
-TEST_F(TPanelAppearanceTest, DefaultsOfAppearanceAndPanel) {
-    const TQPAppearance& looks = panel->Appearance();
-    EXPECT_EQ(&panel->ViewOptions(), &looks);
-    EXPECT_EQ(looks.Options().toInt(),
-              0x7FF & ~TQPAppearance::aoShowGroupName & ~TQPAppearance::aoSortListData);
-    for (const QColor& color :
-         {looks.FieldColor(), looks.OperatorColor(), looks.ValueColor(), looks.BoolOpColor()})
-        EXPECT_EQ(color, QColor(0, 0, 255));
-    EXPECT_FALSE(looks.ControlBorderColor().isValid());
-    EXPECT_TRUE(panel->SaveTitles());
-    EXPECT_FALSE(panel->SaveSQLOptions());
-    const QList<int> spaces{panel->RowSpace(), panel->TabSpace(), panel->ElemSpace(),
-                            panel->HeaderLeft(), panel->HeaderTop()};
-    EXPECT_EQ(spaces, (QList<int>{3, 20, 5, 5, 5}));
-}
-
 TEST_F(TPanelAppearanceTest, ColoursFollowTheKindOfLabelAndTheGround) {
     TShop::Add(panel->Root(), "C.city", "Equal", "Berlin");
     Settle();

@@ -184,29 +184,6 @@ TEST_F(TEditor, RowsTravelAsText) {
     EXPECT_THROW(editor->CopyTo(*inner->Parent(), *inner, 0), EKQueryPanelError);
 }
 
-TEST_F(TEditor, RowsMoveLineByLineThroughBrackets) {
-    TFilterCond* row = Enter(query.Root(), "City", "Equal", "moved");
-    TFilterBracket* bracket = editor->AddBracket(query.Root(), 0);
-    editor->AddBracket(query.Root(), 2);
-    auto places = [&](bool (TKQueryEditor::*move)(TFilterRow&)) {
-        QStringList seen;
-        do
-            seen << QString("%1.%2").arg(row->Level()).arg(row->Parent()->GetRowIndex(row));
-        while (((*editor).*move)(*row));
-        return seen.join(" ");
-    };
-    EXPECT_EQ(places(&TKQueryEditor::MoveDown), "1.1 2.0 2.1 1.2");
-    EXPECT_EQ(places(&TKQueryEditor::MoveUp), "1.2 2.1 2.0 1.1 2.1 2.0 1.0");
-    EXPECT_FALSE(editor->CanMove(*bracket, *bracket));
-    EXPECT_FALSE(editor->Move(*bracket, query.Root(), query.Root().GetRowIndex(bracket) + 1));
-    // a bracket goes with its last row
-    editor->Move(*bracket->GetRow(0), query.Root(), 0);
-    EXPECT_EQ(query.Root().GetRowCount(), 3);
-    editor->Undo();
-    EXPECT_EQ(query.Root().GetRow(1), bracket) << "the same objects are back";
-    EXPECT_EQ(bracket->GetRowCount(), 1);
-}
-
 TEST_F(TEditor, HandlersMayDeleteEditorAndQuery) {
     auto own = std::make_unique<TKQuery>(&structure);
     auto ownEditor = std::make_unique<TKQueryEditor>(*own);

@@ -133,15 +133,6 @@ TEST_F(TPanelSafetyTest, WhatIsNotRecognisedIsShownUntilAnotherFieldIsChosen) {
     EXPECT_EQ(Condition(), kept);
 }
 
-TEST_F(TPanelSafetyTest, LoadingATextThatIsDamagedKeepsTheQuery) {
-    Add("C.city", "Equal", "Berlin");
-    EXPECT_THROW(
-        panel->LoadFromStrings({"[Main]", "Version=3.3", "[Row0]", "RowType=1", "RowCount=5"}),
-        EKTernError);
-    EXPECT_TRUE(panel->Active());
-    EXPECT_EQ(Shown(1), "City is equal to Berlin");
-}
-
 TEST_F(TPanelSafetyTest, HandlersThatEndARowOrThePanelEndWhatIsToldOfThem) {
     Add("C.city", "Equal", "Berlin");
     int told = 0;
