@@ -75,20 +75,13 @@ protected:
         ASSERT_TRUE(window->OpenDatabase(url)); // imported
     }
 
-    TDSField* Field(const char* display) {
-        return window->Conditions().DbStruct()->FieldByName(true, display);
-    }
     /// Freight, highest first, of the orders that are paid.
     void Build() {
         AddColumn("Orders.Order id");
         AddColumn("Freight");
-        TKQueryPanel& panel = window->Conditions();
-        panel.Editor().SetSorting(*window->Columns().ResultFields().GetItem(1),
-                                  TSortingType::stDescending);
-        TFilterCond* row = panel.Editor().AddCondition(panel.Root(), 0);
-        panel.Editor().SetField(*row, *Field("Paid"));
-        panel.Editor().SetOperator(*row, *panel.DbStruct()->OperatorByName("Equal"));
-        panel.Editor().SetValue(*row, 1, "1");
+        window->Conditions().Editor().SetSorting(*window->Columns().ResultFields().GetItem(1),
+                                                 TSortingType::stDescending);
+        AddCondition("Paid", "1");
     }
 
     TKDatabaseURL url;
@@ -121,12 +114,9 @@ TEST_P(TProgramTest, BuildRunSaveReopenAndPaste) {
 
     // What the database refuses names the condition, and changes nothing.
     TKQueryPanel& panel = window->Conditions();
-    TFilterCond* row = panel.Editor().AddCondition(panel.Root(), 1);
-    panel.Editor().SetField(*row, *Field("Freight"));
-    panel.Editor().SetOperator(*row, *panel.DbStruct()->OperatorByName("Equal"));
     panel.SetCheckValues(false);
     panel.DbStruct()->OperatorByName("Equal")->SetSQLName("@f = nonsense('@1')");
-    panel.Editor().SetValue(*row, 1, "1");
+    AddCondition("Freight", "1");
     Run();
     const QString message = window->Results().Messages().Text();
     EXPECT_TRUE(message.contains("nonsense", Qt::CaseInsensitive)) << FromQt(message);

@@ -1,5 +1,5 @@
-// What the program keeps: the structure that a database is used with, captions of a query file, what
-// is being typed; and what it does with a query that the database has outgrown.
+// What the program keeps: the structure that a database is used with, captions of a query file,
+// what is being typed; and what it does with a query that the database has outgrown.
 
 #include "window_form.h"
 
@@ -46,12 +46,9 @@ TEST_F(TKeptTest, StructureOfADatabaseComesBackWithIt) {
 TEST_F(TKeptTest, WhatIsTypedIsSaved) {
     AddColumn("Price");
     TKQueryPanel& panel = window->Conditions();
-    TFilterCond* row = panel.Editor().AddCondition(panel.Root(), 0);
-    panel.Editor().SetField(*row, *panel.DbStruct()->FieldByName(true, "Tracking no"));
-    panel.Editor().SetOperator(*row, *panel.DbStruct()->OperatorByName("Equal"));
-    panel.Editor().SetValue(*row, 1, "a");
+    TFilterCond& row = AddCondition("Tracking no", "a");
     QTest::qWait(50);
-    TDropDownLabel* value = panel.RowView(*row)->ValueLabel(1);
+    TDropDownLabel* value = panel.RowView(row)->ValueLabel(1);
     value->DropDown();
     QTest::keyClicks(value->EditControl(), "Weber");
     ASSERT_TRUE(window->SaveQuery(folder.filePath("typed.qry")));
@@ -119,12 +116,7 @@ TEST_F(TKeptTest, NobodyIsAskedWhereNobodyAnswers) {
     EXPECT_FALSE(window->OpenDatabase(url));
     EXPECT_FALSE(window->LoadQuery("/no such file"));
     AddColumn("Price");
-    TKQueryPanel& panel = window->Conditions();
-    TFilterCond* row = panel.Editor().AddCondition(panel.Root(), 0);
-    panel.Editor().SetField(*row, *panel.DbStruct()->FieldByName(true, "Company"));
-    panel.Editor().SetOperator(*row, *panel.DbStruct()->OperatorByName("Equal"));
-    panel.Editor().SetValue(*row, 1, "");
-    panel.Editor().SetParameter(*row, 1, true);
+    window->Conditions().Editor().SetParameter(AddCondition("Company", ""), 1, true);
     window->RunQuery();
     EXPECT_FALSE(window->IsRunning());
     EXPECT_EQ(said.size(), 3);

@@ -74,6 +74,15 @@ protected:
         TRFieldList& list = window->Columns().ResultFields();
         list.AddByExpression(display, TSortingType::stNoSort, std::string("{") + display + "}");
     }
+    /// A condition that compares a field with a value.
+    TFilterCond& AddCondition(const char* field, const char* value) {
+        TKQueryPanel& panel = window->Conditions();
+        TFilterCond& row = *panel.Editor().AddCondition(panel.Root(), 0);
+        panel.Editor().SetField(row, *panel.DbStruct()->FieldByName(true, field));
+        panel.Editor().SetOperator(row, *panel.DbStruct()->OperatorByName("Equal"));
+        panel.Editor().SetValue(row, 1, value);
+        return row;
+    }
     /// What a menu item does.
     void Choose(const char* text) {
         for (QAction* action : window->findChildren<QAction*>())

@@ -91,16 +91,6 @@ TEST_F(TWindowTest, DamagedQueryChangesNothing) {
     EXPECT_GT(RowCount(), 10);
 }
 
-TEST_F(TWindowTest, StatementIsRead) {
-    const TAnswer report(QDialog::Accepted); // parts that are kept as text are told
-    ASSERT_TRUE(window->ReadSQL(
-        "select order_lines.quantity, order_lines.unit_price from order_lines where "
-        "order_lines.unit_price > 50"));
-    Run();
-    EXPECT_GT(RowCount(), 0);
-    EXPECT_GT(Cell(0, 1).toDouble(), 50);
-}
-
 TEST_F(TWindowTest, ReadingSQLIsOneStep) {
     AddColumn("Price");
     TKQueryPanel& panel = window->Conditions();
@@ -328,11 +318,7 @@ TEST_F(TWindowTest, MessagesOfTheLibraryAreTranslated) {
     }
     // a message that is shown follows too
     AddColumn("Price");
-    TKQueryPanel& panel = window->Conditions();
-    TFilterCond& row = *panel.Editor().AddCondition(panel.Root(), 0);
-    panel.Editor().SetField(row, *panel.DbStruct()->FieldByName(true, "Price"));
-    panel.Editor().SetOperator(row, *panel.DbStruct()->OperatorByName("Equal"));
-    panel.Editor().SetValue(row, 1, "1 or 2");
+    AddCondition("Price", "1 or 2");
     window->RunQuery();
     EXPECT_TRUE(bar->Text().startsWith("Das kann kein Wert")) << FromQt(bar->Text());
     window->SetLanguage("en");
@@ -344,9 +330,7 @@ TEST_F(TWindowTest, DatesFollowTheLanguage) {
     TKQueryPanel& panel = window->Conditions();
     TKQueryEditor& editor = panel.Editor();
     window->SetLanguage("de");
-    TFilterCond& row = *editor.AddCondition(panel.Root(), 0);
-    editor.SetField(row, *panel.DbStruct()->FieldByName(true, "Required on"));
-    editor.SetOperator(row, *panel.DbStruct()->OperatorByName("Equal"));
+    TFilterCond& row = AddCondition("Required on", "");
     const auto bound = [&] {
         panel.BuildQuery();
         return panel.QResult().GetBoundSQL().values.at(0).text;

@@ -1,5 +1,6 @@
 #include <filesystem>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -67,12 +68,8 @@ TEST_F(Files, RefusesWhatIsNoRegularFile) {
     }
     EXPECT_TRUE(fs::is_fifo(Path("pipe")));
     EXPECT_THROW(ReadWholeFile(folder.string()), EKTernError);
-    try {
-        ReadWholeFile("/none/file");
-        FAIL();
-    } catch (const EKTernError& error) {
-        EXPECT_STREQ(error.what(), "Can not open file /none/file");
-    }
+    EXPECT_THAT([&] { ReadWholeFile("/none/file"); },
+                testing::ThrowsMessage<EKTernError>("Can not open file /none/file"));
 }
 
 TEST_F(Files, AFailedWriteLeavesTheOldFileWhole) {

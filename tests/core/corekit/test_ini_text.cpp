@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <tern7/core/corekit/errors.h>
@@ -56,12 +57,8 @@ TEST(IniText, ReadsValuesInAnyOrder) {
     EXPECT_FALSE(main.Has("Coun"));
     EXPECT_EQ(main.Int("missing", 5), 5);
     EXPECT_TRUE(main.Bool("missing", true));
-    try {
-        main.Bool("Flag");
-        FAIL();
-    } catch (const EKTernError& error) {
-        EXPECT_STREQ(error.what(), "Wrong value of Flag in section Main: maybe");
-    }
+    EXPECT_THAT([&] { main.Bool("Flag"); },
+                testing::ThrowsMessage<EKTernError>("Wrong value of Flag in section Main: maybe"));
     EXPECT_THROW(main.Int("Version"), EKTernError);
 }
 

@@ -1,4 +1,5 @@
 // Stored queries and the queries that show them.
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -161,12 +162,8 @@ TEST_F(QueryBase, WhoGoesFirstHandsBack) {
     link.SetQueryBase(other.get());
     other.reset();
     EXPECT_EQ(link.QueryBase(), nullptr);
-    try {
-        link.Next();
-        FAIL();
-    } catch (const EKQueryPanelError& error) {
-        EXPECT_STREQ(error.what(), "Query base is not specified");
-    }
+    EXPECT_THAT([&] { link.Next(); },
+                testing::ThrowsMessage<EKQueryPanelError>("Query base is not specified"));
 }
 
 } // namespace

@@ -1,9 +1,5 @@
-#include <filesystem>
-
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <tern7/core/corekit/files.h>
 #include <tern7/core/titles/default_titles.h>
 #include <tern7/core/titles/titles.h>
 #include <tern7/core/titles/titles_text.h>
@@ -61,19 +57,6 @@ TEST(LoadTitles, OldTitlesGoIntoEverySection) {
     TStrings titles = Sections;
     LoadOldTitlesFromStrings(titles, {"ttlAll=tutti", "ttlAny=", "ttlNew=x"});
     EXPECT_EQ(titles, With(Sections, {{1, "ttlAll=tutti"}, {5, "ttlAll=tutti"}}));
-}
-
-TEST(LoadTitles, Files) {
-    const std::string name =
-        (std::filesystem::temp_directory_path() / ("tern7-" + std::to_string(::getpid()) + ".ttl"))
-            .string();
-    SaveTitlesFile(With(Sections, {{1, "ttlAll=größte"}}), name);
-    EXPECT_EQ(LoadTitlesFile(Sections, name).titles, With(Sections, {{1, "ttlAll=größte"}}));
-    WriteWholeFile(name, "[Main]\r\nQueryName=q\r\n[RFETitles]\r\nttlAll=gr\xF6\xDFte\r\n");
-    const TKLoadedTitles loaded = LoadTitlesFile(Sections, name);
-    EXPECT_EQ(loaded.titles, With(Sections, {{5, "ttlAll=größte"}}));
-    EXPECT_TRUE(loaded.wasWindows1252);
-    std::filesystem::remove(name);
 }
 
 TEST(Titles, LookUpByKey) {

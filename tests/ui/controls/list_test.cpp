@@ -63,21 +63,6 @@ TEST(List, WrongIndexChangesNothing) {
     EXPECT_EQ(list.Value(), "2");
 }
 
-TEST(List, ValueFindsItsItem) {
-    TDropDownList list;
-    AddOrders(list);
-    list.SetValue("2");
-    EXPECT_EQ(list.ItemIndex(), 2);
-    EXPECT_EQ(list.Caption(), "Descending");
-    list.SetValue("unknown");
-    EXPECT_EQ(list.ItemIndex(), -1);
-    EXPECT_EQ(list.Value(), "unknown");
-    EXPECT_EQ(list.Caption(), "unknown");
-    list.SetValue("");
-    EXPECT_EQ(list.ItemIndex(), -1);
-    EXPECT_EQ(list.Caption(), "_____");
-}
-
 TEST(List, GroupsAndClearing) {
     TDropDownList list;
     list.SetItems({"a", "b"});

@@ -10,6 +10,8 @@
 
 #include <random>
 
+#include <gmock/gmock.h>
+
 #include <QAccessible>
 #include <QLineEdit>
 #include <QMetaProperty>
@@ -377,12 +379,8 @@ TEST(ResultFieldsPanel, OffersFieldsOfTheResultByGroup) {
 
 TEST(ResultFieldsPanel, WithoutStructure) {
     TKResultFieldsPanel panel;
-    try {
-        panel.AddRow();
-        ADD_FAILURE();
-    } catch (const ERFPanelError& error) {
-        EXPECT_STREQ(error.what(), "Database structure is not specified");
-    }
+    EXPECT_THAT([&] { panel.AddRow(); },
+                testing::ThrowsMessage<ERFPanelError>("Database structure is not specified"));
     TKCustomDBStructure structure;
     panel.SetDBStruct(&structure);
     panel.AddRow(); // nothing to offer
