@@ -8,6 +8,8 @@ namespace tern7::proof {
 
 namespace {
 
+using TWords = std::vector<const char*>;
+
 struct TColumnOf {
     const char* name;
     char type; // i whole number, s text, b boolean, d date
@@ -131,19 +133,20 @@ std::string TStatementWriter::Cased(std::string_view text) {
 
 // ---------------------------------------------------------------- from
 
+bool TStatementWriter::IsTaken(const TScope& scope, std::string_view name) {
+    return std::any_of(scope.begin(), scope.end(),
+                       [name](const TWrittenTable& each) { return SameText(each.name, name); });
+}
+
 std::string TStatementWriter::Table(TScope& scope, size_t table) {
     std::string written =
         OneIn(8) ? '"' + std::string(tables[table].name) + '"' : Cased(tables[table].name);
     std::string name = tables[table].name;
-    const auto isTaken = [&scope](const std::string& text) {
-        return std::any_of(scope.begin(), scope.end(),
-                           [&](const TWrittenTable& each) { return SameText(each.name, text); });
-    };
     static const char* const aliases[] = {"k", "one", "q2", "A", "B", "C", "P", "x", "Tab"};
-    if (isTaken(name) || OneIn(3)) {
+    if (IsTaken(scope, name) || OneIn(3)) {
         do
             name = AnyOf(aliases);
-        while (isTaken(name));
+        while (IsTaken(scope, name));
         written += (OneIn(2) ? " as " : " ") + (OneIn(6) ? '"' + name + '"' : name);
     }
     scope.push_back({table, name});
@@ -159,17 +162,11 @@ std::string TStatementWriter::JoinWords(const TScope& scope) {
     for (size_t i = 0; i + 1 < scope.size() && !OneIn(4); ++i) {
         const TDSLink* const link = own->LinkByTable(tableOf(scope[i]));
         if (!link) continue;
-        const bool isSecond = link->Table2() == own;
-        switch (link->LinkType()) {
-        case TDSLinkType::ltInner:
-            return Cased("join");
-        case TDSLinkType::ltOuterLeft:
-            return Cased(isSecond ? "left join" : "right join");
-        case TDSLinkType::ltOuterRight:
-            return Cased(isSecond ? "right join" : "left join");
-        case TDSLinkType::ltOuterFull:
-            return Cased("full outer join");
-        }
+        static const char* const kinds[][2] = {{"join", "join"},
+                                               {"right join", "left join"},
+                                               {"left join", "right join"},
+                                               {"full outer join", "full outer join"}};
+        return Cased(kinds[static_cast<size_t>(link->LinkType())][link->Table2() == own]);
     }
     static const char* const words[] = {"join",       "inner join",       "join",
                                         "inner join", "left join",        "left outer join",
@@ -212,11 +209,7 @@ std::string TStatementWriter::From(TScope& scope, TStrings& where, unsigned most
             TStrings ignored;
             scope.pop_back();
             const std::string other = Table(inner, Below(std::size(tables)));
-            const bool isTaken =
-                std::any_of(scope.begin(), scope.end(), [&](const TWrittenTable& each) {
-                    return SameText(each.name, inner.back().name);
-                });
-            if (!isTaken)
+            if (!IsTaken(scope, inner.back().name))
                 joined = "(" + joined + " join " + other + " on " + On(inner, ignored) + ")";
             else
                 inner.pop_back();
@@ -371,13 +364,13 @@ std::string TStatementWriter::Columns(const TScope& scope, std::string& tail) {
 // ---------------------------------------------------------------- conditions
 
 std::string TStatementWriter::Literal(char type) {
-    static const char* const numbers[] = {"1", "2", "5", "-1", "1.0", "+1", "0x1"};
-    static const char* const strings[] = {"'Yes sir'", "'yes sir'", "'Yessir'", "'y'",   "'Y'",
-                                          "'a  b'",    "'a b'",     "'5'",      "''",    "'null'",
-                                          "'s'",       "'x'",       "' 5 '",    "'1e0'", "'0x1'",
-                                          "'A.x'",     "'@1'",      "'YES SIR'"};
-    static const char* const booleans[] = {"1", "0", "true", "false", "'1'", "'0'", "TRUE"};
-    static const char* const dates[] = {"'2024-01-31'", "'2023-12-31'", "'2024-1-31'", "'31.1.'"};
+    static const TWords numbers = {"1", "2", "5", "-1", "1.0", "+1", "0x1"};
+    static const TWords strings = {"'Yes sir'", "'yes sir'", "'Yessir'", "'y'",   "'Y'",
+                                   "'a  b'",    "'a b'",     "'5'",      "''",    "'null'",
+                                   "'s'",       "'x'",       "' 5 '",    "'1e0'", "'0x1'",
+                                   "'A.x'",     "'@1'",      "'YES SIR'"};
+    static const TWords booleans = {"1", "0", "true", "false", "'1'", "'0'", "TRUE"};
+    static const TWords dates = {"'2024-01-31'", "'2023-12-31'", "'2024-1-31'", "'31.1.'"};
     static const char* const odd[] = {"null", "'true'", "1", "'1'", "x'31'", "\"no column\""};
     if (OneIn(30)) return AnyOf(odd);
     if (OneIn(6)) type = "isbd"[Below(4)];
@@ -386,16 +379,7 @@ std::string TStatementWriter::Literal(char type) {
         std::advance(it, Below(static_cast<unsigned>(WriterParameters().size())));
         return ":" + it->first;
     }
-    switch (type) {
-    case 's':
-        return AnyOf(strings);
-    case 'b':
-        return AnyOf(booleans);
-    case 'd':
-        return AnyOf(dates);
-    default:
-        return AnyOf(numbers);
-    }
+    return AnyOf(type == 's' ? strings : type == 'b' ? booleans : type == 'd' ? dates : numbers);
 }
 
 std::string TStatementWriter::Operator() {
@@ -409,13 +393,8 @@ std::string TStatementWriter::SubSelect(const TScope& scope) {
     TStrings where;
     const std::string from = From(inner, where, 2);
     TScope both = inner;
-    const auto isHidden = [&inner](const TWrittenTable& outer) {
-        return std::any_of(inner.begin(), inner.end(), [&](const TWrittenTable& each) {
-            return SameText(each.name, outer.name);
-        });
-    };
     for (const TWrittenTable& outer : scope)
-        if (!isHidden(outer) && OneIn(2)) both.push_back(outer);
+        if (!IsTaken(inner, outer.name) && OneIn(2)) both.push_back(outer);
     const std::string column = Column(inner, 'i');
     if (!OneIn(4)) where.push_back(Comparison(OneIn(3) ? both : inner));
     --nesting;
@@ -429,32 +408,15 @@ std::string TStatementWriter::Comparison(const TScope& scope) {
     const std::string isNot = OneIn(4) ? Cased(" not ") : " ";
     static const char* const patterns[] = {"'y%'", "'%y%'", "'%s'", "'Y_s%'", "'%'",     "'5'",
                                            "'1%'", ":t",    "'y'",  "'%''%'", "'a  b%'", "'% %'"};
-    static const char* const seldom[] = {" is 1",
-                                         " is not 'y'",
-                                         " is distinct from 2",
-                                         " is not distinct from null",
-                                         " isnull",
-                                         " notnull",
-                                         " not null",
-                                         " glob '*y*'",
-                                         " not glob 'y*'",
-                                         " like 'y#%' escape '#'",
-                                         " not like '%y' escape 'a'",
-                                         " in ()",
-                                         " not in (1 + 1, :x)",
-                                         " == 1",
-                                         " between 1 and 2 + 1",
-                                         " is true",
-                                         " is not false",
-                                         " = - 1",
-                                         " = 1 + 1",
-                                         " = 'a' || 'b'",
-                                         " = (1)",
-                                         " = ('y')",
-                                         " & 1"};
+    static const TStrings seldom = SplitLines(
+        ReplaceStr("is 1; is not 'y'; is distinct from 2; is not distinct from null; isnull; "
+                   "notnull; not null; glob '*y*'; not glob 'y*'; like 'y#%' escape '#'; not like "
+                   "'%y' escape 'a'; in (); not in (1 + 1, :x); == 1; between 1 and 2 + 1; is "
+                   "true; is not false; = - 1; = 1 + 1; = 'a' || 'b'; = (1); = ('y'); & 1",
+                   "; ", "\n"));
     switch (Below(16)) {
     case 14:
-        return column + AnyOf(seldom);
+        return column + " " + AnyOf(seldom);
     case 15:
         return "(" + Column(scope, 'i') + ", " + Column(scope, 'i') + ") = (1, 2)";
     case 0:

@@ -49,6 +49,7 @@ private:
     std::string Cased(std::string_view text);
 
     std::string From(TScope& scope, TStrings& where, unsigned most);
+    static bool IsTaken(const TScope& scope, std::string_view name);
     std::string Table(TScope& scope, size_t table);
     std::string On(const TScope& scope, TStrings& where);
     std::string Using(const TScope& scope);

@@ -58,8 +58,7 @@ TEST_F(TConditionChangeTest, AnotherFieldKeepsWhatItCanTake) {
 }
 
 TEST_F(TConditionChangeTest, AnotherOperatorKeepsValuesInItsOwnForm) {
-    structure.AddOperator("Among")->SetSQLName("@f in (@1)");
-    structure.OperatorByName("Among")->SetValueType(TOpValueType::vtSubQuery);
+    AddSubQueryOperator("Among");
     struct {
         const char *from, *value1, *value2, *to, *expected;
     } cases[] = {
@@ -96,8 +95,7 @@ TEST_F(TConditionChangeTest, EditorOfAFieldAndOperator) {
     TDSOperator* days = structure.AddOperator("LastDays");
     days->SetSQLName("@f > now() - @1");
     days->SetExprType(TFieldType::ftInteger);
-    structure.AddOperator("Among")->SetSQLName("@f in (@1)");
-    structure.OperatorByName("Among")->SetValueType(TOpValueType::vtSubQuery);
+    AddSubQueryOperator("Among");
     struct {
         const char *field, *op;
         TValueEditKind kind;

@@ -298,9 +298,7 @@ TEST_F(TConditionText, UnfinishedRowsAreLeftOutAndNamed) {
 }
 
 TEST_F(TConditionText, SubQueriesAreBuiltIntoTheirCondition) {
-    TDSOperator* in = structure.AddOperator("InQuery");
-    in->SetSQLName("@f in (@1)");
-    in->SetValueType(TOpValueType::vtSubQuery);
+    AddSubQueryOperator();
     TKQuery inner(&structure);
     inner.QResult().ResultFields().AddByExpression("n", TSortingType::stNoSort, "{C.id}");
     TFilterCond* city = inner.Root().AddCond();

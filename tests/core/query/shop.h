@@ -23,8 +23,8 @@ protected:
         Data(order, "paid", "Paid", TFieldType::ftBoolean);
         Data(employee, "id", "Employee number", TFieldType::ftInteger);
         Data(employee, "name", "Name", TFieldType::ftString);
-        TDSField* price = structure.AddField(TKFieldKind::kfkVirtual, "O.amount * 1.19",
-                                             "Gross amount", nullptr);
+        TDSField* price =
+            structure.AddField(TKFieldKind::kfkVirtual, "O.amount * 1.19", "Gross amount", nullptr);
         price->SetFieldType(TFieldType::ftBCD);
         price->AddAppliedOperators();
         structure.AddLink("C", "O")->AddPair("id", "customer_id");
@@ -36,6 +36,14 @@ protected:
         TDSField* field = structure.AddField(TKFieldKind::kfkData, column, display, table);
         field->SetFieldType(type);
         field->AddAppliedOperators();
+    }
+
+    TDSOperator* AddSubQueryOperator(const char* name = "InQuery",
+                                     const char* text = "@f in (@1)") {
+        TDSOperator* op = structure.AddOperator(name);
+        op->SetSQLName(text);
+        op->SetValueType(TOpValueType::vtSubQuery);
+        return op;
     }
 
     TDSField* Field(std::string_view compound) {

@@ -12,10 +12,7 @@ namespace tern7 {
 class TQueryTextTest : public TShop {
 protected:
     TQueryTextTest() {
-        TDSOperator* inQuery = structure.AddOperator("InQuery");
-        inQuery->SetSQLName("@f in (@1)");
-        inQuery->SetDisplayName("is found by");
-        inQuery->SetValueType(TOpValueType::vtSubQuery);
+        AddSubQueryOperator()->SetDisplayName("is found by");
         query.SaveTitles = false;
     }
 

@@ -21,9 +21,7 @@ std::string Repeated(std::string_view piece, size_t size = megabyte / 4) {
 class HostileSQL : public TShop {
 protected:
     HostileSQL() {
-        TDSOperator* inQuery = structure.AddOperator("InQuery");
-        inQuery->SetSQLName("@f in (@1)");
-        inQuery->SetValueType(TOpValueType::vtSubQuery);
+        AddSubQueryOperator();
         query.SetMainTableName("C");
     }
 

@@ -16,11 +16,7 @@ namespace {
 
 class ParseSQL : public TShop {
 protected:
-    ParseSQL() {
-        TDSOperator* inQuery = structure.AddOperator("InQuery");
-        inQuery->SetSQLName("@f in (@1)");
-        inQuery->SetValueType(TOpValueType::vtSubQuery);
-    }
+    ParseSQL() { AddSubQueryOperator(); }
 
     /// The rows as "[all Field Operator value1|value2, text {...}]", parameters as ":Name".
     std::string Read(std::string where) {

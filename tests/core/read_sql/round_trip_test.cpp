@@ -40,12 +40,8 @@ protected:
                                             "Full name", nullptr);
         full->SetFieldType(TFieldType::ftString);
         full->AddAppliedOperators();
-        for (const auto& [name, text] :
-             {std::pair("InQuery", "@f in (@1)"), std::pair("NotInQuery", "@f not in (@1)")}) {
-            TDSOperator* op = structure.AddOperator(name);
-            op->SetSQLName(text);
-            op->SetValueType(TOpValueType::vtSubQuery);
-        }
+        AddSubQueryOperator();
+        AddSubQueryOperator("NotInQuery", "@f not in (@1)");
         structure.SQLFormats().SetDate("yyyy-mm-dd");
         structure.SQLFormats().SetTime("hh:nn:ss");
         structure.SQLFormats().SetDateTime("yyyy-mm-dd hh:nn:ss");

@@ -1,3 +1,5 @@
+#include <functional>
+
 #include <gmock/gmock.h>
 
 #include "structure_fixture.h"
@@ -219,48 +221,33 @@ TEST(Model, LookupsAgreeWithAScan) {
         const int fields = structure.GetFieldCount(), tables = structure.GetTableCount();
         TDSField* field = fields ? structure.GetField(below(fields)) : nullptr;
         TDSTable* table = tables ? structure.GetTable(below(tables)) : nullptr;
-        switch (below(field && table ? 12 : 2)) {
-        case 0:
-            structure.AddField(TKFieldKind::kfkVirtual, text(), text(), nullptr);
-            break;
-        case 1:
-            table = structure.AddTable(text(), "");
-            structure.AddField(TKFieldKind::kfkData, text(), text(), table);
-            break;
-        case 2:
-            structure.DelField(below(fields));
-            break;
-        case 3:
-            if (below(4) == 0) structure.DelTable(below(tables));
-            break;
-        case 4:
-            field->SetDisplayName(text());
-            break;
-        case 5:
-            if (field->Kind() == TKFieldKind::kfkData)
-                field->SetFieldName(text());
-            else
-                field->SetSQLExpr(text());
-            break;
-        case 6:
-            field->SetTable(table);
-            break;
-        case 7:
-            field->SetQuoted(below(2) == 0);
-            break;
-        case 8:
-            table->SetDisplayName(text());
-            break;
-        case 9:
-            table->SetTableAlias(text() + std::to_string(step));
-            break;
-        case 10:
-            if (below(20) == 0) structure.SetStructString(structure.GetStructString());
-            break;
-        case 11:
-            structure.SQLFormats().SetQuoteSymbol1(below(2) ? '"' : '[');
-            break;
-        }
+        const std::function<void()> changes[] = {
+            [&] { structure.AddField(TKFieldKind::kfkVirtual, text(), text(), nullptr); },
+            [&] {
+                table = structure.AddTable(text(), "");
+                structure.AddField(TKFieldKind::kfkData, text(), text(), table);
+            },
+            [&] { structure.DelField(below(fields)); },
+            [&] {
+                if (below(4) == 0) structure.DelTable(below(tables));
+            },
+            [&] { field->SetDisplayName(text()); },
+            [&] {
+                if (field->Kind() == TKFieldKind::kfkData)
+                    field->SetFieldName(text());
+                else
+                    field->SetSQLExpr(text());
+            },
+            [&] { field->SetTable(table); },
+            [&] { field->SetQuoted(below(2) == 0); },
+            [&] { table->SetDisplayName(text()); },
+            [&] { table->SetTableAlias(text() + std::to_string(step)); },
+            [&] {
+                if (below(20) == 0) structure.SetStructString(structure.GetStructString());
+            },
+            [&] { structure.SQLFormats().SetQuoteSymbol1(below(2) ? '"' : '['); },
+        };
+        changes[below(field && table ? 12 : 2)]();
         if (structure.GetFieldCount() == 0) continue;
         const TDSField& wanted = *structure.GetField(below(structure.GetFieldCount()));
         ASSERT_EQ(structure.FieldByID(wanted.ID()), &wanted);

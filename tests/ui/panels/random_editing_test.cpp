@@ -1,4 +1,5 @@
 // Whatever users do is taken back to the first text and done again to the last.
+#include <functional>
 #include <random>
 
 #include <ui/panels/query_editor_form.h>
@@ -61,73 +62,49 @@ void TMonkey::ChangeRows(TFilterRow& row) {
     TFilterBracket& to = AnyBracket();
     const int at = Below(static_cast<size_t>(to.GetRowCount() + 1));
     const bool room = AllRows().size() < 60;
-    switch (Below(12)) {
-    case 0:
-        editor->Delete(row);
-        break;
-    case 1:
-        editor->Move(row, to, at);
-        break;
-    case 2:
-        editor->MoveUp(row);
-        break;
-    case 3:
-        editor->MoveDown(row);
-        break;
-    case 4:
-        if (room) editor->Duplicate(row);
-        break;
-    case 5:
-        if (room) editor->CopyTo(row, to, at);
-        break;
-    case 6:
-        if (room) editor->Paste(to, at, *editor->Copy({&row}));
-        break;
-    case 7:
-        editor->Cut(row);
-        break;
-    case 8:
-        editor->SetBracketKind(to, static_cast<TFilterLinkType>(Below(4)));
-        break;
-    case 9:
-        editor->SetBracketJoin(to, Below(2) == 0);
-        break;
-    case 10:
-        if (Below(20) == 0) editor->ClearAll();
-        break;
-    default:
-        editor->SetEnabled(row, !row.GetEnabled());
-    }
+    const std::function<void()> changes[] = {
+        [&] { editor->Delete(row); },
+        [&] { editor->Move(row, to, at); },
+        [&] { editor->MoveUp(row); },
+        [&] { editor->MoveDown(row); },
+        [&] {
+            if (room) editor->Duplicate(row);
+        },
+        [&] {
+            if (room) editor->CopyTo(row, to, at);
+        },
+        [&] {
+            if (room) editor->Paste(to, at, *editor->Copy({&row}));
+        },
+        [&] { editor->Cut(row); },
+        [&] { editor->SetBracketKind(to, static_cast<TFilterLinkType>(Below(4))); },
+        [&] { editor->SetBracketJoin(to, Below(2) == 0); },
+        [&] {
+            if (Below(20) == 0) editor->ClearAll();
+        },
+        [&] { editor->SetEnabled(row, !row.GetEnabled()); },
+    };
+    Any(changes)();
 }
 
 void TMonkey::ChangeCondition(TFilterCond& condition) {
     static const std::string values[] = {"", "1", "Rome", "a, b", " ", "2026-05-01", "line\nbreak"};
     const int n = 1 + Below(2);
-    switch (Below(8)) {
-    case 0:
-    case 1:
-        editor->SetField(condition, AnyField());
-        break;
-    case 2:
-        if (condition.Field() && condition.Field()->GetOperatCount() > 0)
-            editor->SetOperator(condition, *condition.Field()->GetOperator(
-                                               Below(condition.Field()->Operators().size())));
-        break;
-    case 3:
-        editor->SetValue(condition, n, Any(values), Below(2) ? "shown" : "");
-        break;
-    case 4:
-        editor->SetValue(condition, n, "Ber");
-        break;
-    case 5:
-        editor->SetParameter(condition, n, !condition.ValueIsParam(n));
-        break;
-    case 6:
-        editor->SetParameterTexts(condition, n, Any(values), "%@v%");
-        break;
-    default:
-        editor->SetSubQuery(condition, Any(values), {});
-    }
+    const std::function<void()> changes[] = {
+        [&] { editor->SetField(condition, AnyField()); },
+        [&] { editor->SetField(condition, AnyField()); },
+        [&] {
+            if (condition.Field() && condition.Field()->GetOperatCount() > 0)
+                editor->SetOperator(condition, *condition.Field()->GetOperator(
+                                                   Below(condition.Field()->Operators().size())));
+        },
+        [&] { editor->SetValue(condition, n, Any(values), Below(2) ? "shown" : ""); },
+        [&] { editor->SetValue(condition, n, "Ber"); },
+        [&] { editor->SetParameter(condition, n, !condition.ValueIsParam(n)); },
+        [&] { editor->SetParameterTexts(condition, n, Any(values), "%@v%"); },
+        [&] { editor->SetSubQuery(condition, Any(values), {}); },
+    };
+    Any(changes)();
 }
 
 void TMonkey::ChangeColumns() {
@@ -138,40 +115,24 @@ void TMonkey::ChangeColumns() {
         return;
     }
     const int i = Below(count);
-    switch (Below(10)) {
-    case 0:
-        editor->DeleteResultField(i);
-        break;
-    case 1:
-        editor->MoveResultField(i, Below(count));
-        break;
-    case 2:
-        editor->DuplicateResultField(i);
-        break;
-    case 3:
-        editor->SetResultField(*list[i], AnyField());
-        break;
-    case 4:
-        editor->SetFormula(*list[i], "SUM({Amount}) / {Gross amount}");
-        break;
-    case 5:
-        editor->SetSorting(*list[i], static_cast<TSortingType>(Below(3)));
-        break;
-    case 6:
-        editor->SetResultCaption(*list[i], "Caption " + std::to_string(Below(5)));
-        break;
-    case 7:
-        editor->SetJustSorting(!list.JustSorting());
-        break;
-    case 8:
-        editor->SetSQLOption(static_cast<TSQLOption>(Below(SQLOptionCount)), Below(2) == 0);
-        break;
-    case 9:
-        editor->SetAvoidedJoins(Below(2) ? TAvoidedJoins{{"C", "O"}} : TAvoidedJoins{});
-        break;
-    default:
-        editor->SetMainTable(Below(2) ? "C" : "O");
-    }
+    const std::function<void()> changes[] = {
+        [&] { editor->DeleteResultField(i); },
+        [&] { editor->MoveResultField(i, Below(count)); },
+        [&] { editor->DuplicateResultField(i); },
+        [&] { editor->SetResultField(*list[i], AnyField()); },
+        [&] { editor->SetFormula(*list[i], "SUM({Amount}) / {Gross amount}"); },
+        [&] { editor->SetSorting(*list[i], static_cast<TSortingType>(Below(3))); },
+        [&] { editor->SetResultCaption(*list[i], "Caption " + std::to_string(Below(5))); },
+        [&] { editor->SetJustSorting(!list.JustSorting()); },
+        [&] {
+            editor->SetSQLOption(static_cast<TSQLOption>(Below(SQLOptionCount)), Below(2) == 0);
+        },
+        [&] {
+            editor->SetAvoidedJoins(Below(2) ? TAvoidedJoins{{"C", "O"}} : TAvoidedJoins{});
+        },
+        [&] { editor->SetMainTable(Below(2) ? "C" : "O"); },
+    };
+    Any(changes)();
 }
 
 TEST_P(TMonkey, EveryStepIsTakenBackAndDoneAgain) {

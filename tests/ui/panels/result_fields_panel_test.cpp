@@ -8,6 +8,7 @@
 #include <tern7/ui/support/text_size.h>
 #include <ui/panels/result_fields_form.h>
 
+#include <functional>
 #include <random>
 
 #include <gmock/gmock.h>
@@ -29,34 +30,24 @@ void EditAtRandom(TResultFieldsDraft& draft, const TKCustomDBStructure& structur
     TDSField& field = *structure.GetField(below(structure.GetFieldCount()));
     const int action = count > 0 ? below(8) : 0;
     const char* const texts[] = {"{Price} * 2", "SUM({Price}) / COUNT({City})", "{Nam", "1"};
-    switch (action) {
-    case 0:
-        draft.AddField(below(count + 1), field, static_cast<TAggregate>(below(AggregateCount)));
-        break;
-    case 1:
-        draft.Join(row, "+-*/"[below(4)], field);
-        break;
-    case 2:
-        draft.SetExpression(row, texts[below(4)]);
-        break;
-    case 3:
-        draft.SetAggregate(row, static_cast<TAggregate>(below(AggregateCount)));
-        break;
-    case 4:
-        draft.Delete(row);
-        break;
-    case 5:
-        draft.Move(row, below(count));
-        break;
-    case 6:
-        draft.SetSorting(row, static_cast<TSortingType>(below(3)));
-        break;
-    default:
-        draft.SetCaption(row, "Column " + std::to_string(below(9)));
-        draft.SetJustSorting(below(2) == 1);
-        if (const int sorted = static_cast<int>(draft.Sorted().size()); sorted > 0)
-            draft.MoveSorted(below(sorted), below(sorted));
-    }
+    const std::function<void()> edits[] = {
+        [&] {
+            draft.AddField(below(count + 1), field, static_cast<TAggregate>(below(AggregateCount)));
+        },
+        [&] { draft.Join(row, "+-*/"[below(4)], field); },
+        [&] { draft.SetExpression(row, texts[below(4)]); },
+        [&] { draft.SetAggregate(row, static_cast<TAggregate>(below(AggregateCount))); },
+        [&] { draft.Delete(row); },
+        [&] { draft.Move(row, below(count)); },
+        [&] { draft.SetSorting(row, static_cast<TSortingType>(below(3))); },
+        [&] {
+            draft.SetCaption(row, "Column " + std::to_string(below(9)));
+            draft.SetJustSorting(below(2) == 1);
+            if (const int sorted = static_cast<int>(draft.Sorted().size()); sorted > 0)
+                draft.MoveSorted(below(sorted), below(sorted));
+        },
+    };
+    edits[action]();
 }
 
 } // namespace

@@ -295,10 +295,8 @@ TEST_F(TPanelValueTest, DatabaseGoesWhileItsListIsRead) {
 }
 
 TEST_F(TPanelValueTest, SubQueryDialog) {
-    TDSOperator* among = structure.AddOperator("Among");
-    among->SetSQLName("@f in (@1)");
+    TDSOperator* among = AddSubQueryOperator("Among");
     among->SetDisplayName("is among");
-    among->SetValueType(TOpValueType::vtSubQuery);
     Field("C.id")->AddOperator(among);
     AddRow("C.id", "Among");
     panel->Appearance().SetOptions(panel->Appearance().Options() & ~TQPAppearance::aoAllowParams);
