@@ -28,7 +28,9 @@ constexpr int longestRun = 60'000;
 
 /// An address, or the path of a SQLite file.
 TKDatabaseURL DatabaseOf(const QString& text) {
-    if (!QFileInfo::exists(text)) return ParseDatabaseURL(FromQt(text));
+    // what looks like no address is a file, be it that there is none
+    const bool isAddress = text.contains(u':') && !QFileInfo::exists(text);
+    if (isAddress) return ParseDatabaseURL(FromQt(text));
     TKDatabaseURL url;
     url.database = FromQt(text);
     return url;
@@ -124,7 +126,7 @@ int main(int argc, char** argv) {
             QTextStream(stderr) << ToQt(error.what()) << "\n";
             return 2;
         }
-        if (parser.isSet(query) && window.HasDatabase()) window.LoadQuery(parser.value(query));
+        if (parser.isSet(query)) window.OpenQuery(parser.value(query));
         result = parser.isSet(screenshot) ? Screenshot(window, parser.value(screenshot))
                                           : QApplication::exec();
     }

@@ -835,6 +835,14 @@
         <source>About tern7-explorer</source>
         <translation>حول tern7-explorer</translation>
     </message>
+    <message>
+        <source>The joins start from %1 now, and not from %2: the rows may be others.</source>
+        <translation>تبدأ عمليات الربط الآن من %1 وليس من %2: قد تكون الصفوف مختلفة.</translation>
+    </message>
+    <message>
+        <source>Start from %1</source>
+        <translation>البدء من %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>
@@ -852,6 +860,10 @@
     <message>
         <source>&amp;Run</source>
         <translation>&amp;تنفيذ</translation>
+    </message>
+    <message>
+        <source>A value is missing: %1</source>
+        <translation>تنقص قيمة: %1</translation>
     </message>
 </context>
 <context>

@@ -823,6 +823,14 @@
         <source>About tern7-explorer</source>
         <translation>Über tern7-explorer</translation>
     </message>
+    <message>
+        <source>The joins start from %1 now, and not from %2: the rows may be others.</source>
+        <translation>Die Verbindungen gehen jetzt von %1 aus und nicht von %2: Es können andere Zeilen sein.</translation>
+    </message>
+    <message>
+        <source>Start from %1</source>
+        <translation>Von %1 ausgehen</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>
@@ -840,6 +848,10 @@
     <message>
         <source>&amp;Run</source>
         <translation>&amp;Ausführen</translation>
+    </message>
+    <message>
+        <source>A value is missing: %1</source>
+        <translation>Ein Wert fehlt: %1</translation>
     </message>
 </context>
 <context>

@@ -823,6 +823,14 @@
         <source>About tern7-explorer</source>
         <translation>Acerca de tern7-explorer</translation>
     </message>
+    <message>
+        <source>The joins start from %1 now, and not from %2: the rows may be others.</source>
+        <translation>Las uniones parten ahora de %1 y no de %2: las filas pueden ser otras.</translation>
+    </message>
+    <message>
+        <source>Start from %1</source>
+        <translation>Partir de %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>
@@ -840,6 +848,10 @@
     <message>
         <source>&amp;Run</source>
         <translation>&amp;Ejecutar</translation>
+    </message>
+    <message>
+        <source>A value is missing: %1</source>
+        <translation>Falta un valor: %1</translation>
     </message>
 </context>
 <context>

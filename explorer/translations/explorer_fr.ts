@@ -823,6 +823,14 @@
         <source>About tern7-explorer</source>
         <translation>À propos de tern7-explorer</translation>
     </message>
+    <message>
+        <source>The joins start from %1 now, and not from %2: the rows may be others.</source>
+        <translation>Les jointures partent maintenant de %1 et non de %2 : les lignes peuvent être autres.</translation>
+    </message>
+    <message>
+        <source>Start from %1</source>
+        <translation>Partir de %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>
@@ -840,6 +848,10 @@
     <message>
         <source>&amp;Run</source>
         <translation>&amp;Exécuter</translation>
+    </message>
+    <message>
+        <source>A value is missing: %1</source>
+        <translation>Il manque une valeur : %1</translation>
     </message>
 </context>
 <context>

@@ -820,6 +820,14 @@
         <source>About tern7-explorer</source>
         <translation>tern7-explorer について</translation>
     </message>
+    <message>
+        <source>The joins start from %1 now, and not from %2: the rows may be others.</source>
+        <translation>結合は %2 ではなく %1 から始まります。行が変わる可能性があります。</translation>
+    </message>
+    <message>
+        <source>Start from %1</source>
+        <translation>%1 から始める</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>
@@ -837,6 +845,10 @@
     <message>
         <source>&amp;Run</source>
         <translation>実行(&amp;R)</translation>
+    </message>
+    <message>
+        <source>A value is missing: %1</source>
+        <translation>値がありません: %1</translation>
     </message>
 </context>
 <context>

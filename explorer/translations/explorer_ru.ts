@@ -826,6 +826,14 @@
         <source>About tern7-explorer</source>
         <translation>О программе tern7-explorer</translation>
     </message>
+    <message>
+        <source>The joins start from %1 now, and not from %2: the rows may be others.</source>
+        <translation>Соединения начинаются теперь с %1, а не с %2: строки могут быть другими.</translation>
+    </message>
+    <message>
+        <source>Start from %1</source>
+        <translation>Начать с %1</translation>
+    </message>
 </context>
 <context>
     <name>tern7::TMessageBar</name>
@@ -843,6 +851,10 @@
     <message>
         <source>&amp;Run</source>
         <translation>&amp;Выполнить</translation>
+    </message>
+    <message>
+        <source>A value is missing: %1</source>
+        <translation>Не указано значение: %1</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,8 @@ public:
 
     // --- query files
     bool LoadQuery(const QString& file);
+    /// As soon as a database is open.
+    void OpenQuery(const QString& file);
     bool SaveQuery(const QString& file);
     /// Whether there are changes that no file has.
     bool IsModified() const;
@@ -157,6 +159,7 @@ private:
     void ShowSQL();
     void ShowGrouping();
     void RunWith(bool asking);
+    bool RefuseWrongDates(bool asking);
     TRunRequest MakeRequest();
     std::optional<TBoundSQL> PresentStatement() const;
     std::vector<std::string> Captions() const;
@@ -175,6 +178,7 @@ private:
 
     // main_window_tables.cpp
     void ShowTables();
+    void TellOtherStart();
     void ChooseStartTable();
     void ChooseJoinWay();
     void PopUpAtColumns(TKPopupMenu* menu);
@@ -210,10 +214,17 @@ private:
     QTimer sqlTimer;             // the statement is shown when the changes of one event are over
     QTimer liveTimer;            // and run when nothing was typed for a while
     bool readSQLChanged = false; // the last reading of SQL is a step
+    QString queryToOpen;         // when there is a database
     QString queryFile;
     std::optional<TStrings> fileTitles; // the captions that it has
     // of the rows that are asked for and shown; only compared, for they may have gone since
     std::vector<const TResultField*> askedColumns, shownColumns;
+    struct TStart {
+        QString alias, name;
+    };
+    TStart start; // of the joins, over these columns, which are only compared
+    std::vector<const TResultField*> startColumns;
+    int startMessage = -1; // that of queryMessages which tells of another one
     std::string savedText; // of the query as it was loaded or saved
     QString language;
     TLook look = TLook::System;

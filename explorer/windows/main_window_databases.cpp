@@ -2,6 +2,8 @@
 
 #include "main_window.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QEventLoop>
 #include <QFileDialog>
@@ -48,11 +50,13 @@ bool TMainWindow::OpenDatabase(const TKDatabaseURL& address, const QString& stru
     if (const QFileInfo file(ToQt(url.database));
         url.driver == TKDatabaseURL::TDriver::SQLite && file.exists())
         url.database = FromQt(file.absoluteFilePath());
+    const QString structure =
+        structureFile.isEmpty() ? KnownStructure(url) : QFileInfo(structureFile).absoluteFilePath();
     std::unique_ptr<TDatabaseSession> opened;
     try {
-        TDatabaseOpener running(url, FromQt(structureFile));
+        TDatabaseOpener running(url, FromQt(structure));
         if (!WaitForDatabase(running)) return false;
-        opened = std::make_unique<TDatabaseSession>(url, running.Take(), FromQt(structureFile));
+        opened = std::make_unique<TDatabaseSession>(url, running.Take(), FromQt(structure));
     } catch (const std::exception& error) {
         if (OnTrouble)
             OnTrouble(ErrorText(error));
@@ -65,9 +69,18 @@ bool TMainWindow::OpenDatabase(const TKDatabaseURL& address, const QString& stru
     session = std::move(opened); // the old structure goes when nobody looks at it any more
     runner.SetDatabase(url);
     if (const std::string known = url.Address(); !known.empty())
-        recentDatabases.Add(ToQt(known), structureFile);
+        recentDatabases.Add(ToQt(known),
+                            structure.isEmpty() ? recentDatabases.NoteOf(ToQt(known)) : structure);
     NewQuery();
+    if (!queryToOpen.isEmpty()) LoadQuery(std::exchange(queryToOpen, {}));
     return true;
+}
+
+void TMainWindow::OpenQuery(const QString& file) {
+    if (session)
+        LoadQuery(file);
+    else
+        queryToOpen = file;
 }
 
 bool TMainWindow::OpenLast() {
@@ -80,13 +93,15 @@ bool TMainWindow::OpenLast() {
 /// The file of the structure that a database was used with last; none when it was imported.
 QString TMainWindow::KnownStructure(const TKDatabaseURL& url) {
     const QString file = recentDatabases.NoteOf(ToQt(url.Address()));
-    return QFileInfo::exists(file) && CanReadStructure(file) ? file : QString();
+    return !file.isEmpty() && CanReadStructure(file) ? file : QString();
 }
 
 /// Loads the structure of the present database from a file; imports it anew without one.
 void TMainWindow::UseStructure(const QString& file) {
     if (!session || !MayDiscard()) return;
-    if (file.isEmpty() || CanReadStructure(file)) OpenDatabase(session->Url(), file);
+    if (!file.isEmpty() && !CanReadStructure(file)) return;
+    if (file.isEmpty()) recentDatabases.Add(ToQt(session->Url().Address())); // without a structure
+    OpenDatabase(session->Url(), file);
 }
 
 /// What is wrong with the file is said here: it has nothing to do with the database.
@@ -174,10 +189,7 @@ void TMainWindow::AskForDatabase(const TKDatabaseURL* preset, const QString& err
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     if (preset) dialog->SetUrl(*preset);
     if (!error.isEmpty()) dialog->ShowError(error);
-    connect(dialog, &QDialog::accepted, this, [this, dialog] {
-        const TKDatabaseURL url = dialog->Url();
-        OpenDatabase(url, KnownStructure(url));
-    });
+    connect(dialog, &QDialog::accepted, this, [this, dialog] { OpenDatabase(dialog->Url()); });
     dialog->QDialog::open();
 }
 
@@ -190,7 +202,7 @@ void TMainWindow::OpenRecentDatabase(const QString& address) {
         if (mayAsk)
             AskForDatabase(&url, {});
         else
-            OpenDatabase(url, KnownStructure(url));
+            OpenDatabase(url);
     } catch (const std::exception& error) {
         recentDatabases.Remove(address);
         Warn(tr("Open database"), ErrorText(error));

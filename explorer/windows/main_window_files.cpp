@@ -7,6 +7,7 @@
 #include <QMessageBox>
 
 #include <tern7/core/corekit/files.h>
+#include <tern7/core/corekit/ini_text.h>
 #include <tern7/core/global/errors.h>
 #include <tern7/core/query/query_text.h>
 #include <tern7/ui/panels/query_panel.h>
@@ -82,6 +83,8 @@ void TMainWindow::NewQuery() {
     conditions->Query().SetAvoidedJoins({});
     conditions->SetTitles(titles);
     conditions->SetSQLOptions(DefaultSQLOptions);
+    conditions->Query().SetSQLSyntax(
+        TSQLSyntax::ssSQL2); // a statement that was read may have another
     conditions->Query().SaveTitles = false;
     conditions->Query().SaveSQLOptions = true;
     conditions->Query().SaveMainTable = true;
@@ -109,6 +112,7 @@ bool TMainWindow::LoadQuery(const QString& file) {
     conditions->Query().SaveSQLOptions = true;
     conditions->Query().SaveMainTable = true;
     recentQueries.Add(QFileInfo(file).absoluteFilePath());
+    conditions->Query().SetSQLSyntax(TSQLSyntax::ssSQL2);
     QueryLoaded(file);
     if (hasTitles) fileTitles = titlesOfFile;
     TellWarnings();
@@ -176,7 +180,7 @@ void TMainWindow::OpenFile(const QString& file) {
     } else {
         TKDatabaseURL url;
         url.database = FromQt(QFileInfo(file).absoluteFilePath());
-        OpenDatabase(url, KnownStructure(url));
+        OpenDatabase(url);
     }
 }
 
@@ -191,12 +195,12 @@ void TMainWindow::TellWarnings() {
 }
 
 void TMainWindow::ReadSQLFile(const QString& file) {
-    QFile opened(file);
-    if (opened.open(QIODevice::ReadOnly))
-        ReadSQL(QString::fromUtf8(opened.readAll()));
-    else
+    try {
+        ReadSQL(ToQt(DecodeTextFile(ReadWholeFile(FromQt(file))).text));
+    } catch (const std::exception& error) {
         Warn(tr("Read SQL"),
-             tr("The file %1 could not be read: %2").arg(Isolated(file), opened.errorString()));
+             tr("The file %1 could not be read: %2").arg(Isolated(file), FileReason(error)));
+    }
 }
 
 /// Rows and columns over fields that the database does not have any more. Rows take no part;

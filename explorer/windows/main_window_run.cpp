@@ -153,6 +153,7 @@ void TMainWindow::RunWith(bool asking) {
             return OnTrouble(tr("The query asks for the value of %1.").arg(ToQt(param->Caption())));
         if (!asking) return; // it is asked for when the user runs the query
     }
+    if (RefuseWrongDates(asking)) return;
     try {
         TRunRequest request = MakeRequest();
         results->SetStatement(request.statement);
@@ -160,6 +161,7 @@ void TMainWindow::RunWith(bool asking) {
         askedColumns.clear();
         for (int i = 0; i < columns->ResultFields().GetCount(); ++i)
             askedColumns.push_back(columns->ResultFields().GetItem(i));
+        liveTimer.stop(); // what was typed until now is in it
         runner.Run(std::move(request));
         if (asking) ShowUnfinished(); // else the rows say so themselves
     } catch (const EKWrongValueError& error) {
@@ -175,6 +177,32 @@ void TMainWindow::RunWith(bool asking) {
 }
 
 /// A field's own name is said as everywhere else, with its table where others have the name too.
+/// A text that is no date would be compared letter by letter, with rows that mean nothing.
+bool TMainWindow::RefuseWrongDates(bool asking) {
+    std::vector<TFilterCond*> rows;
+    CollectConditions(conditions->Root(), rows);
+    for (const TFilterCond* row : rows) {
+        if (!row->EffectivelyEnabled() || row->Unfinished() != TUnfinished::No) continue;
+        for (int n = 1; n <= row->ValueCount(); ++n) {
+            if (row->ValueIsParam(n) || row->IsSubQueryOperator()) continue;
+            const QString problem = DateProblem(*row, ToQt(row->Value(n)));
+            if (problem.isEmpty()) continue;
+            if (OnTrouble)
+                OnTrouble(problem);
+            else if (asking)
+                queryMessages->Say(
+                    TMessageBar::TKind::Warning,
+                    [this, number = row->RowNum(), problem] {
+                        return tr("“%1”: %2").arg(Sentence(number), problem);
+                    },
+                    [] { return tr("Show the row"); },
+                    [this, number = row->RowNum()] { FocusRow(number); });
+            return true;
+        }
+    }
+    return false;
+}
+
 std::vector<std::string> TMainWindow::Captions() const {
     std::vector<std::string> captions;
     const TRFieldList& list = columns->ResultFields();

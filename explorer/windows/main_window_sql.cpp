@@ -5,6 +5,7 @@
 #include <tern7/core/corekit/scanner.h>
 #include <tern7/core/global/messages.h>
 #include <tern7/core/query/read_sql/sql_report.h>
+#include <tern7/core/structure/link.h>
 #include <tern7/ui/panels/query_panel.h>
 #include <tern7/ui/support/text.h>
 
@@ -18,6 +19,16 @@ namespace {
 
 TReadProblem Problem(const QString& text, TKTextPosition at) {
     return {text.arg(at.line).arg(at.column), at.line, at.column};
+}
+
+/// Old style joins are said with JOIN from here on, so that tables which come later are joined as
+/// their links say. A statement without its outer joins stays as it is.
+void SpeakSQL2(TKQuery& query) {
+    const TRTableList& tables = query.QResult().ResultTables();
+    bool isSame = true;
+    for (int i = 1; i < tables.GetCount() && query.SQLSyntax() == TSQLSyntax::ssSQL1; ++i)
+        isSame = isSame && tables[i].Link->LinkType() == TDSLinkType::ltInner;
+    if (isSame) query.SetSQLSyntax(TSQLSyntax::ssSQL2);
 }
 
 TReadProblem ProblemOf(const std::string& sql, const std::exception& error) {
@@ -59,6 +70,7 @@ std::optional<TReadProblem> TMainWindow::TryReadSQL(const QString& sql) {
     const auto read = [&] {
         try {
             query.ImportSQL(text);
+            SpeakSQL2(query);
         } catch (const std::exception&) {
             query.SetActive(true);
             throw;
@@ -78,7 +90,7 @@ void TMainWindow::ShowReport() {
     QueryChanged();
     if (!report.Has(TSQLReportKind::rkKeptAsText) && !report.AnyDropped()) return;
     TReportDialog dialog(report, this);
-    if (dialog.exec() == QDialog::Rejected && readSQLChanged) conditions->Undo();
+    if (dialog.exec() == TReportDialog::TakenBack && readSQLChanged) conditions->Undo();
 }
 
 bool TMainWindow::ReadSQL(const QString& sql) {

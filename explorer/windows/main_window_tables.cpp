@@ -3,6 +3,7 @@
 #include "main_window.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAction>
 #include <QLabel>
@@ -14,12 +15,14 @@
 #include <tern7/ui/support/text.h>
 
 #include "menu_text.h"
+#include "message_bar.h"
 
 namespace tern7 {
 
 namespace {
 
 constexpr size_t mostNamed = 12;
+constexpr size_t mostAsked = 3; // tables for which other ways are looked for after each change
 
 QString WayText(const std::vector<TDSTable*>& way) {
     QStringList names;
@@ -48,7 +51,8 @@ void TMainWindow::ShowTables() {
     for (int i = 0; i < list.GetCount(); ++i)
         joined.push_back(list[i].Table);
     const std::vector<TDSTable*> ends = JoinEnds(conditions->Query());
-    const bool hasOtherWays = std::any_of(ends.begin(), ends.end(), [this](const TDSTable* end) {
+    const auto asked = ends.begin() + static_cast<std::ptrdiff_t>(std::min(ends.size(), mostAsked));
+    const bool hasOtherWays = std::any_of(ends.begin(), asked, [this](const TDSTable* end) {
         return JoinWays(conditions->Query(), *end).size() > 1;
     });
     joinWayAction->setEnabled(hasOtherWays);
@@ -68,6 +72,35 @@ void TMainWindow::ShowTables() {
     lines << links.join(QStringLiteral(" &nbsp; "));
     tables->setVisible(joined.size() > 1 || isChosen);
     tables->setText(lines.join(QStringLiteral("<br>")));
+    TellOtherStart();
+}
+
+/// Columns in another order may start the joins from another table, and then give other rows.
+void TMainWindow::TellOtherStart() {
+    const TRTableList& list = conditions->QResult().ResultTables();
+    const auto textOf = [&list](const std::string& (TDSTable::*text)() const) {
+        return list.IsEmpty() ? QString() : ToQt((list[0].Table->*text)());
+    };
+    const TStart now{textOf(&TDSTable::TableAlias), textOf(&TDSTable::DisplayName)};
+    std::vector<const TResultField*> present;
+    for (int i = 0; i < columns->ResultFields().GetCount(); ++i)
+        present.push_back(columns->ResultFields().GetItem(i));
+    std::sort(present.begin(), present.end());
+    const bool sameColumns = present == std::exchange(startColumns, present);
+    const TStart before = std::exchange(start, now);
+    if (before.alias == now.alias) return;
+    if (queryMessages->Shown() == startMessage) queryMessages->Clear();
+    const bool isChosen = !conditions->MainTableName().isEmpty();
+    if (isChosen || !sameColumns || before.alias.isEmpty() || now.alias.isEmpty()) return;
+    queryMessages->Say(
+        TMessageBar::TKind::Note,
+        [before, now] {
+            return tr("The joins start from %1 now, and not from %2: the rows may be others.")
+                .arg(now.name, before.name);
+        },
+        [before] { return tr("Start from %1").arg(before.name); },
+        [this, before] { conditions->Editor().SetMainTable(FromQt(before.alias)); });
+    startMessage = queryMessages->Shown();
 }
 
 /// All tables in a menu; joins start from the chosen one.

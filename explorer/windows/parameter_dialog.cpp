@@ -2,19 +2,22 @@
 
 #include <QDialogButtonBox>
 #include <QFormLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <tern7/core/query/query.h>
+#include <tern7/ui/panels/row_problem.h>
 #include <tern7/ui/support/text.h>
 
 #include "menu_text.h"
 
 namespace tern7 {
 
-TParameterDialog::TParameterDialog(const TKQuery& query, QWidget* parent) : QDialog(parent) {
+TParameterDialog::TParameterDialog(const TKQuery& query, QWidget* parent)
+    : QDialog(parent), error(new QLabel) {
     setWindowTitle(tr("Values of the query"));
     auto* inner = new QWidget;
     auto* form = new QFormLayout(inner);
@@ -33,10 +36,36 @@ TParameterDialog::TParameterDialog(const TKQuery& query, QWidget* parent) : QDia
     buttons->button(QDialogButtonBox::Ok)->setText(tr("&Run"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    error->setWordWrap(true);
+    error->setTextFormat(Qt::PlainText);
+    error->hide();
     auto* column = new QVBoxLayout(this);
     column->addWidget(area);
+    column->addWidget(error);
     column->addWidget(buttons);
     resize(420, sizeHint().height());
+    if (!fields.empty()) fields.front().second->setFocus();
+}
+
+void TParameterDialog::accept() {
+    for (const auto& [param, edit] : fields) {
+        const QString problem = ProblemOf(*param, edit->text().trimmed());
+        if (problem.isEmpty()) continue;
+        error->setText(problem);
+        error->show();
+        edit->setAccessibleDescription(problem);
+        edit->setFocus();
+        edit->selectAll();
+        return;
+    }
+    QDialog::accept();
+}
+
+QString TParameterDialog::ProblemOf(const TSQLParam& param, const QString& value) const {
+    const TFieldType type = param.ExprType();
+    const bool isText = type == TFieldType::ftString || type == TFieldType::ftMemo;
+    if (value.isEmpty() && !isText) return tr("A value is missing: %1").arg(ToQt(param.Caption()));
+    return DateProblem(*param.Condition(), value);
 }
 
 void TParameterDialog::Apply() const {

@@ -6,6 +6,7 @@
 
 #include <QDialog>
 
+class QLabel;
 class QLineEdit;
 
 namespace tern7 {
@@ -24,7 +25,13 @@ public:
     /// Gives the entered values to the parameters.
     void Apply() const;
 
+    /// Values that are missing or no dates are refused.
+    void accept() override;
+
 private:
+    QString ProblemOf(const TSQLParam& param, const QString& value) const;
+
+    QLabel* error;
     std::vector<std::pair<TSQLParam*, QLineEdit*>> fields;
 };
 

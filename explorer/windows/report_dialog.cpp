@@ -63,8 +63,9 @@ QString Outcome(TSQLReportKind kind) {
     QT_TRANSLATE_NOOP("tern7::TReportDialog", "no operator has this form"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog",
                       "a condition keeps this table, which nothing else uses"),
-    QT_TRANSLATE_NOOP("tern7::TReportDialog",
-                      "a condition keeps this join, which the structure makes by way of other tables"),
+    QT_TRANSLATE_NOOP(
+        "tern7::TReportDialog",
+        "a condition keeps this join, which the structure makes by way of other tables"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog",
                       "only the syntax sql1 leaves out the structure's outer join with it"),
     QT_TRANSLATE_NOOP("tern7::TReportDialog",
@@ -120,7 +121,7 @@ TReportDialog::TReportDialog(const TSQLReport& report, QWidget* parent) : QDialo
     buttons->addButton(tr("&Keep the query"), QDialogButtonBox::AcceptRole)->setDefault(true);
     buttons->addButton(tr("&Undo"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(buttons, &QDialogButtonBox::rejected, this, [this] { done(TakenBack); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(label);
     column->addWidget(list, 1);

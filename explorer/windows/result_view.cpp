@@ -188,7 +188,10 @@ void TResultView::MarkOutdated(bool value) {
 
 void TResultView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange && table) FitRows();
+    if (event->type() == QEvent::FontChange && table) {
+        FitRows();
+        FitColumns();
+    }
     if (event->type() != QEvent::LanguageChange) return;
     table->setAccessibleName(tr("Result rows"));
     ShowSummary();

@@ -30,7 +30,7 @@ inline const QString samples = QStringLiteral(TERN7_TESTS_DIR "/../examples/samp
 
 /// Answers the next modal dialog as soon as it is there.
 struct TAnswer {
-    explicit TAnswer(QDialog::DialogCode code) {
+    explicit TAnswer(int code) {
         QObject::connect(&timer, &QTimer::timeout, &timer, [this, code] {
             auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             if (!dialog) return;

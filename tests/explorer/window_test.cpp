@@ -6,12 +6,15 @@
 #include <QAction>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTableView>
 
 #include <explorer/data/error_text.h>
+#include <explorer/windows/parameter_dialog.h>
+#include <explorer/windows/report_dialog.h>
 #include <tern7/core/corekit/files.h>
 #include <tern7/core/corekit/strings.h>
 #include <tern7/core/global/messages.h>
@@ -102,7 +105,7 @@ TEST_F(TWindowTest, ReadingSQLIsOneStep) {
     const QString sql = "select quantity from order_lines where unit_price > 50 and 1 = 1";
     for (const bool keep : {true, false}) {
         SCOPED_TRACE(keep);
-        const TAnswer report(keep ? QDialog::Accepted : QDialog::Rejected);
+        const TAnswer report(keep ? QDialog::Accepted : TReportDialog::TakenBack);
         ASSERT_TRUE(window->ReadSQL(sql));
         EXPECT_TRUE(report.seen);
         const auto read = texts();
@@ -221,6 +224,60 @@ TEST_F(TWindowTest, EverySwitchSwitches) {
     EXPECT_TRUE(window->findChild<QPlainTextEdit*>()->isVisible()) << "SQL is shown again";
     window->SetLanguage("en");
     window->SetLook(TMainWindow::TLook::System);
+}
+
+TEST_F(TWindowTest, ColumnsInAnotherOrderSayThatRowsMayBeOthers) {
+    AddColumn("Tracking no");
+    AddColumn("Products.Name");
+    const auto bar = window->findChild<TMessageBar*>("queryMessages");
+    const auto says = [&](const char* text) {
+        return QTest::qWaitFor([&] { return bar->Text().contains(QLatin1String(text)); });
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->ShownSQL().contains("FROM shipments"); }));
+    window->Conditions().Editor().MoveResultField(1, 0);
+    ASSERT_TRUE(says("start from Products now"));
+    bar->findChild<QPushButton*>()->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->ShownSQL().contains("FROM shipments"); }));
+    EXPECT_EQ(bar->Text(), "");
+}
+
+TEST_F(TWindowTest, TextsThatAreNoDatesAreRefused) {
+    AddColumn("Order year");
+    TKQueryPanel& panel = window->Conditions();
+    TFilterCond* row = panel.Editor().AddCondition(panel.Root(), 0);
+    panel.Editor().SetField(*row, *panel.DbStruct()->FieldByName(true, "Ordered at"));
+    panel.Editor().SetOperator(*row, *panel.DbStruct()->OperatorByName("LessThan"));
+    panel.Editor().SetValue(*row, 1, "31/12/22 noon");
+    window->RunQuery();
+    EXPECT_FALSE(window->IsRunning());
+    EXPECT_TRUE(window->findChild<TMessageBar*>("queryMessages")->Text().contains("noon"));
+    panel.Editor().SetValue(*row, 1, "2022-12-31");
+    Run();
+    EXPECT_EQ(window->Results().Messages().Text(), "");
+
+    // a parameter is held to the same
+    panel.Editor().SetParameter(*row, 1, true);
+    TParameterDialog dialog(panel.Query());
+    dialog.show();
+    auto* edit = dialog.findChild<QLineEdit*>();
+    EXPECT_EQ(dialog.focusWidget(), edit);
+    for (const char* wrong : {"", "soon"}) {
+        edit->setText(wrong);
+        dialog.accept();
+        EXPECT_TRUE(dialog.isVisible()) << wrong;
+    }
+    edit->setText("2021-01-01");
+    dialog.accept();
+    EXPECT_EQ(dialog.result(), QDialog::Accepted);
+}
+
+TEST_F(TWindowTest, OldStyleJoinsBecomeJoinsAndGoWithTheirQuery) {
+    ASSERT_TRUE(window->ReadSQL("select t.name, n.name as country from cities t, countries n "
+                                "where t.country_code = n.country_code"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->ShownSQL().contains("INNER JOIN"); }))
+        << FromQt(window->ShownSQL());
+    ASSERT_TRUE(window->LoadQuery(Queries("turnover.qry")));
+    EXPECT_EQ(window->Conditions().Query().SQLSyntax(), TSQLSyntax::ssSQL2);
 }
 
 TEST_F(TWindowTest, EmptyQuerySaysWhatIsMissing) {

@@ -52,20 +52,29 @@ std::vector<TJoinWay> JoinWays(const TKQuery& query, const TDSTable& end) {
             ways.push_back({std::move(tables), std::move(avoided)});
     };
 
+    const auto addAround = [&](const TAvoidedJoins& avoided, std::vector<TDSTable*> way) {
+        for (size_t i = 1; i < std::min(way.size(), mostTried); ++i) {
+            TAvoidedJoins more = avoided;
+            more.push_back({way[i - 1]->TableAlias(), way[i]->TableAlias()});
+            add(std::move(more));
+        }
+    };
+
     const TAvoidedJoins& present = query.AvoidedJoins();
     add(present);
     if (ways.empty()) return ways;
-    const std::vector<TDSTable*> way = ways.front().tables;
+    const std::vector<TDSTable*> presentWay = ways.front().tables;
     for (size_t i = 0; i < std::min(present.size(), mostTried); ++i) {
         TAvoidedJoins fewer = present;
         fewer.erase(fewer.begin() + static_cast<std::ptrdiff_t>(i));
         add(std::move(fewer));
     }
-    for (size_t i = 1; i < std::min(way.size(), mostTried); ++i) {
-        TAvoidedJoins more = present;
-        more.push_back({way[i - 1]->TableAlias(), way[i]->TableAlias()});
-        add(std::move(more));
+    // what is offered where nothing is avoided is offered always: nobody has to find the way back
+    if (!present.empty()) {
+        add({});
+        addAround({}, WayBetween(structure, base, end, {}));
     }
+    addAround(present, presentWay);
     return ways;
 }
 

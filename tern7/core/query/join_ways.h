@@ -27,8 +27,8 @@ struct TSharedTable {
 /// than two.
 std::vector<TDSTable*> JoinEnds(const TKQuery& query);
 /// The ways from the base table of the built query to another of its tables: the present one, and
-/// those around each of its joins, or over one that is avoided now. Few; one search of the
-/// structure each.
+/// those around each of its joins and of the shortest way's, or over one that is avoided now. Few;
+/// one search of the structure each.
 std::vector<TJoinWay> JoinWays(const TKQuery& query, const TDSTable& end);
 /// Where the built query joins tables by a shared one, in join order. The first table of a link is
 /// the one that refers.

@@ -67,16 +67,20 @@ struct TProblemTexts {
     QString whole, remedy;
 };
 
+TProblemTexts DateTexts(const TFilterCond& condition, const QString& value) {
+    const TValueEditKind kind = ChooseValueEditor(condition);
+    if (value.isEmpty() || IsReadable(kind, value)) return {};
+    const QString problem =
+        TRowProblem::tr("\u201C%1\u201D can not be read as a date or time").arg(Isolated(value));
+    const QString remedy = DateRemedy(kind);
+    return {TRowProblem::tr("%1; %2").arg(problem, remedy), remedy};
+}
+
 TProblemTexts ValueProblem(const TFilterCond& condition, int n) {
     if (condition.ValueIsParam(n)) return {};
     const QString value = ToQt(condition.Value(n));
-    const TValueEditKind kind = ChooseValueEditor(condition);
-    if (!value.isEmpty() && !IsReadable(kind, value)) {
-        const QString problem = TRowProblem::tr("\u201C%1\u201D can not be read as a date or time")
-                                    .arg(Isolated(value));
-        const QString remedy = DateRemedy(kind);
-        return {TRowProblem::tr("%1; %2").arg(problem, remedy), remedy};
-    }
+    if (TProblemTexts problem = DateTexts(condition, value); !problem.whole.isEmpty())
+        return problem;
     if (!condition.Query()->CheckValues) return {};
     try {
         CheckBareValue(condition, n);
@@ -151,6 +155,10 @@ bool IsLeftOut(const TFilterRow& row) {
 
 QString RowProblem(const TFilterRow& row) {
     return ProblemOf(row).whole;
+}
+
+QString DateProblem(const TFilterCond& condition, const QString& value) {
+    return DateTexts(condition, value).whole;
 }
 
 QString RowMark(const TFilterRow& row) {

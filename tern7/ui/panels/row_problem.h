@@ -11,6 +11,9 @@ namespace tern7 {
 QString RowProblem(const TFilterRow& row);
 /// The same in a few words behind the row, where the values are seen: what to do, if that is known.
 QString RowMark(const TFilterRow& row);
+/// Why a value can not stand for a date or time that the condition compares with; empty when it
+/// can, or when the condition has no such values.
+QString DateProblem(const TFilterCond& condition, const QString& value);
 /// The problem is that the row is unfinished; otherwise the row stands in the statement as it is,
 /// or keeps it from being made.
 bool IsLeftOut(const TFilterRow& row);

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
 #include <tern7/core/query/join_ways.h>
@@ -72,6 +74,21 @@ TEST_F(TTrade, AnotherWayIsFoundTakenAndLeft) {
     EXPECT_THROW(query.BuildQuery(), EKDBStructError);
     query.SetAvoidedJoins({{"elsewhere", "currencies"}});
     EXPECT_EQ(Joined(), "countries currencies orders ");
+
+    query.SetAvoidedJoins({});
+    structure.AddLink("orders", "cities")->AddPair("other", "id");
+    query.BuildQuery();
+    const std::vector<TJoinWay> first = JoinWays(query, orders);
+    ASSERT_EQ(first.size(), 2u);
+    for (const char* last : {"countries cities orders ", "countries cities customers orders "}) {
+        query.SetAvoidedJoins(JoinWays(query, orders).back().avoided);
+        EXPECT_EQ(Joined(), last);
+        const std::vector<TJoinWay> offered = JoinWays(query, orders);
+        for (const TJoinWay& way : first)
+            EXPECT_TRUE(std::any_of(offered.begin(), offered.end(), [&](const TJoinWay& each) {
+                return each.tables == way.tables;
+            })) << Aliases(way.tables);
+    }
 }
 
 TEST_F(TTrade, AvoidedJoinsAreKeptInTheText) {
