@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <ostream>
 
@@ -51,6 +52,16 @@ inline void Record(TDropDownLabel& label, QStringList& log) {
     label.AfterDropUp = [&log](TDropDownLabel*, bool accepted) {
         log << QString("after up %1").arg(accepted);
     };
+}
+
+/// Does something when the label tells of the event with this name, if it is one of these.
+inline void When(const QString& event, TDropDownLabel& label, const std::function<void()>& act) {
+    if (event == "before down") label.BeforeDropDown = [act](TDropDownLabel*) { act(); };
+    if (event == "after down") label.AfterDropDown = [act](TDropDownLabel*) { act(); };
+    if (event == "before up")
+        label.BeforeDropUp = [act](TDropDownLabel*, const QString&, bool&) { act(); };
+    if (event == "value") QObject::connect(&label, &TDropDownLabel::valueChanged, act);
+    if (event == "after up") label.AfterDropUp = [act](TDropDownLabel*, bool) { act(); };
 }
 
 /// A press and release that go through the window system, so that popups and focus see them.

@@ -217,10 +217,8 @@ TEST(Edit, DestroyedWhileOpen) {
         auto form = std::make_unique<TControlForm>();
         QPointer<TDropDownEdit> label = form->Add<TDropDownEdit>();
         const auto die = [&label] { delete label; };
-        if (event == "after down") label->AfterDropDown = [=](TDropDownLabel*) { die(); };
-        if (event == "before up" || event == "on leaving")
-            label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };
-        if (event == "after up") label->AfterDropUp = [&](TDropDownLabel*, bool) { form.reset(); };
+        When(event == "on leaving" ? "before up" : event, *label,
+             [&] { event == "after up" ? form.reset() : die(); });
         if (event == "double click")
             label->OnEditDblClick = [=](TDropDownLabel*, QString&) { die(); };
         ASSERT_TRUE(form->Open());

@@ -146,11 +146,7 @@ TEST(Label, HandlerDeletesLabel) {
         QPointer<TDropDownLabel> label = form.Add<TDropDownLabel>();
         const auto die = [&label] { delete label; };
         if (event == "clicked") QObject::connect(label, &TDropDownLabel::clicked, die);
-        if (event == "value") QObject::connect(label, &TDropDownLabel::valueChanged, die);
-        if (event == "before down") label->BeforeDropDown = [=](TDropDownLabel*) { die(); };
-        if (event == "before up")
-            label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };
-        if (event == "after up") label->AfterDropUp = [=](TDropDownLabel*, bool) { die(); };
+        When(event, *label, die);
         label->OnCustomDropDown = [=](TDropDownLabel*, QString& value, bool&) {
             value = "new";
             if (event == "custom") die();

@@ -244,11 +244,7 @@ TEST(ListBox, DestroyedWhileOpen) {
         label->SetImages({QIcon()});
         if (event == "image")
             label->OnGetItemImageIndex = [=](const QString&, const QString&, int&) { die(); };
-        if (event == "after down") label->AfterDropDown = [=](TDropDownLabel*) { die(); };
-        if (event == "before up")
-            label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };
-        if (event == "value") QObject::connect(label, &TDropDownLabel::valueChanged, die);
-        if (event == "after up") label->AfterDropUp = [&](TDropDownLabel*, bool) { t.reset(); };
+        When(event, *label, [&] { event == "after up" ? t.reset() : die(); });
         ASSERT_TRUE(t->form.Open());
         ClickAt(label, label->rect().center());
         if (event == "outside") die();

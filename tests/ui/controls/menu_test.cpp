@@ -486,11 +486,7 @@ TEST(Popup, DestroyedWhileOpen) {
         if (event == "group") label->OnGetGroupImageIndex = [=](const QString&, int&) { die(); };
         if (event == "item")
             label->OnGetItemImageIndex = [=](const QString&, const QString&, int&) { die(); };
-        if (event == "after down") label->AfterDropDown = [=](TDropDownLabel*) { die(); };
-        if (event == "before up")
-            label->BeforeDropUp = [=](TDropDownLabel*, const QString&, bool&) { die(); };
-        if (event == "value") QObject::connect(label, &TDropDownLabel::valueChanged, die);
-        if (event == "after up") label->AfterDropUp = [&](TDropDownLabel*, bool) { t.reset(); };
+        When(event, *label, [&] { event == "after up" ? t.reset() : die(); });
         if (event == "dismissed") label->AfterDropUp = [=](TDropDownLabel*, bool) { die(); };
         ASSERT_TRUE(t->form.Open());
         ClickAt(label, label->rect().center());

@@ -131,10 +131,9 @@ TEST_F(TPanelLayoutTest, OnlyRowsInSightHaveControls) {
 }
 
 TEST_F(TPanelLayoutTest, RowsTakeOverControlsThatLeftSight) {
-    auto* upper = Field("C.name")->ValueEditorAs<TDSTextEditor>();
-    if (!upper) Field("C.name")->SetEditType(TDSEditType::etEdit);
-    upper = Field("C.name")->ValueEditorAs<TDSTextEditor>();
-    upper->SetOption(TDSTextEditor::UpperCaseOption, true);
+    Field("C.name")->SetEditType(TDSEditType::etEdit);
+    Field("C.name")->ValueEditorAs<TDSTextEditor>()->SetOption(TDSTextEditor::UpperCaseOption,
+                                                               true);
     {
         TKQueryUpdate update(panel->Query());
         TFilterBracket* bracket = &panel->Root();
