@@ -83,6 +83,7 @@ void TMainWindow::TellOtherStart() {
     };
     const TStart now{textOf(&TDSTable::TableAlias), textOf(&TDSTable::DisplayName)};
     std::vector<const TResultField*> present;
+    present.reserve(static_cast<size_t>(columns->ResultFields().GetCount()));
     for (int i = 0; i < columns->ResultFields().GetCount(); ++i)
         present.push_back(columns->ResultFields().GetItem(i));
     std::sort(present.begin(), present.end());

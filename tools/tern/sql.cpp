@@ -27,7 +27,11 @@ TSQLOptions ParseOptions(const std::string& list) {
             if (i > 0) known += ", ";
             known += SQLOptionToStr(static_cast<TSQLOption>(i));
         }
-        throw EWrongUsage("--options is none or a list of " + known + ", not \"" + name + "\"");
+        throw EWrongUsage(std::string("--options is none or a list of ")
+                              .append(known)
+                              .append(", not \"")
+                              .append(name)
+                              .append("\""));
     }
     return options;
 }
