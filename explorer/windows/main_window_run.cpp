@@ -183,8 +183,9 @@ bool TMainWindow::RefuseWrongDates(bool asking) {
     CollectConditions(conditions->Root(), rows);
     for (const TFilterCond* row : rows) {
         if (!row->EffectivelyEnabled() || row->Unfinished() != TUnfinished::No) continue;
+        if (!row->IsRecognized() || row->IsSubQueryOperator()) continue; // their values are SQL
         for (int n = 1; n <= row->ValueCount(); ++n) {
-            if (row->ValueIsParam(n) || row->IsSubQueryOperator()) continue;
+            if (row->ValueIsParam(n)) continue;
             const QString problem = DateProblem(*row, ToQt(row->Value(n)));
             if (problem.isEmpty()) continue;
             if (OnTrouble)
